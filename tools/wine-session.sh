@@ -18,7 +18,9 @@ zo_wine_begin() {
   local suffix=""
   [ "$screen" != 1280x1024 ] && suffix="-$screen"
   export WINEPREFIX="$build/wineprefix$suffix"
-  export ZO_WINE_LOG="$build/wine.log"
+  export ZO_MAIN_PREFIX="$build/wineprefix"
+  export ZO_SESSION_SCREEN=$screen
+  export ZO_WINE_LOG="$build/wine$suffix.log"
   : >"$ZO_WINE_LOG"
 
   if [ -z "${ZO_USE_DISPLAY:-}" ]; then

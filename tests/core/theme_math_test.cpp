@@ -1,0 +1,103 @@
+// Theme arithmetic checked with plain numbers: no window, no device context.
+#include <gtest/gtest.h>
+
+#include "ZoThemeMath.h"
+#include "ZoThemeTables.h"
+
+using namespace ZoControls;
+
+TEST(ThemeMath, ArgbToColorRefSwapsRedAndBlueAndDropsAlpha)
+{
+    EXPECT_EQ(ZoArgbToColorRef(0xFFFF0000ul), 0x000000FFul);
+    EXPECT_EQ(ZoArgbToColorRef(0xFFD1D3E7ul), 0x00E7D3D1ul);
+    EXPECT_EQ(ZoArgbToColorRef(0x12345678ul), 0x00785634ul);
+    EXPECT_EQ(ZoArgbToColorRef(0x00000000ul), 0x00000000ul);
+}
+
+TEST(ThemeMath, ZoomFactorPerSizeClassAndOneForEverythingElse)
+{
+    EXPECT_FLOAT_EQ(ZoZoomFactorOf(ZoMonitorSize_Normal), 1.0f);
+    EXPECT_FLOAT_EQ(ZoZoomFactorOf(ZoMonitorSize_3M), 1.2f);
+    EXPECT_FLOAT_EQ(ZoZoomFactorOf(ZoMonitorSize_5M), 1.6f);
+    EXPECT_FLOAT_EQ(ZoZoomFactorOf(-1), 1.0f);
+    EXPECT_FLOAT_EQ(ZoZoomFactorOf(3), 1.0f);
+    EXPECT_FLOAT_EQ(ZoZoomFactorOf(-1000), 1.0f);
+}
+
+TEST(ThemeMath, ScalingRoundsByTruncatingAfterAddingAHalf)
+{
+    EXPECT_EQ(ZoScaleByZoom(100, 1.2f), 120);
+    EXPECT_EQ(ZoScaleByZoom(7, 1.2f), 8);   // 8.4
+    EXPECT_EQ(ZoScaleByZoom(9, 1.6f), 14);  // 14.4
+    EXPECT_EQ(ZoScaleByZoom(10, 1.25f), 13); // 12.5 rounds up
+    EXPECT_EQ(ZoScaleByZoom(0, 1.6f), 0);
+    EXPECT_EQ(ZoScaleByZoom(-10, 1.2f), -11); // -11.5 truncates toward zero
+}
+
+// Pixel heights of the built-in font sizes at the three size classes.
+TEST(ThemeMath, FontPixelHeightsFollowTheSizeClassTable)
+{
+    struct Row { int points; int heights[3]; };
+    const Row rows[] = {
+        {7, {9, 11, 15}},   {8, {11, 13, 17}},  {9, {12, 15, 19}},  {10, {13, 16, 21}},
+        {11, {15, 17, 24}}, {12, {16, 19, 25}}, {13, {17, 21, 28}}, {14, {19, 23, 29}},
+    };
+    for (const Row& row : rows)
+        for (int size = 0; size < 3; ++size)
+            EXPECT_EQ(ZoFontPixelHeight(row.points, ZoZoomFactorOf(size)), row.heights[size])
+                << row.points << " pt at size class " << size;
+}
+
+TEST(ThemeMath, MonitorClassThresholdsAreExactAreas)
+{
+    EXPECT_EQ(ZoMonitorSizeForArea(0), ZoMonitorSize_Normal);
+    EXPECT_EQ(ZoMonitorSizeForArea(-5), ZoMonitorSize_Normal);
+    EXPECT_EQ(ZoMonitorSizeForArea(1280LL * 1024), ZoMonitorSize_Normal);
+    EXPECT_EQ(ZoMonitorSizeForArea(1920LL * 1080), ZoMonitorSize_Normal);
+    EXPECT_EQ(ZoMonitorSizeForArea(3145727), ZoMonitorSize_Normal);
+    EXPECT_EQ(ZoMonitorSizeForArea(3145728), ZoMonitorSize_3M);
+    EXPECT_EQ(ZoMonitorSizeForArea(2560LL * 1440), ZoMonitorSize_3M);
+    EXPECT_EQ(ZoMonitorSizeForArea(5242879), ZoMonitorSize_3M);
+    EXPECT_EQ(ZoMonitorSizeForArea(5242880), ZoMonitorSize_5M);
+    EXPECT_EQ(ZoMonitorSizeForArea(3840LL * 2160), ZoMonitorSize_5M);
+}
+
+TEST(ThemeMath, FixedModeNumbersMapToSizeClasses)
+{
+    EXPECT_EQ(ZoMonitorSizeForFixedMode(1), ZoMonitorSize_Normal);
+    EXPECT_EQ(ZoMonitorSizeForFixedMode(2), ZoMonitorSize_3M);
+    EXPECT_EQ(ZoMonitorSizeForFixedMode(3), ZoMonitorSize_5M);
+    EXPECT_EQ(ZoMonitorSizeForFixedMode(0), ZoMonitorSize_Unknown);
+    EXPECT_EQ(ZoMonitorSizeForFixedMode(4), ZoMonitorSize_Unknown);
+    EXPECT_EQ(ZoMonitorSizeForFixedMode(-1), ZoMonitorSize_Unknown);
+}
+
+TEST(ThemeMath, RegionalLanguageBecomesItsDefaultVariant)
+{
+    EXPECT_EQ(ZoDefaultSubLanguageId(0x0809), 0x0409); // en-GB -> en-US
+    EXPECT_EQ(ZoDefaultSubLanguageId(0x0C07), 0x0407); // de-AT -> de-DE
+    EXPECT_EQ(ZoDefaultSubLanguageId(0x0409), 0x0409);
+    EXPECT_EQ(ZoDefaultSubLanguageId(0x0000), 0x0400);
+}
+
+TEST(ThemeMath, ProfileFlagIsTrueOnlyForTheWordTrue)
+{
+    EXPECT_TRUE(ZoParseProfileFlag(L"true"));
+    EXPECT_TRUE(ZoParseProfileFlag(L"TRUE"));
+    EXPECT_TRUE(ZoParseProfileFlag(L"True"));
+    EXPECT_FALSE(ZoParseProfileFlag(L"yes"));
+    EXPECT_FALSE(ZoParseProfileFlag(L"1"));
+    EXPECT_FALSE(ZoParseProfileFlag(L""));
+    EXPECT_FALSE(ZoParseProfileFlag(L"tru"));
+    EXPECT_FALSE(ZoParseProfileFlag(L"truest"));
+    EXPECT_FALSE(ZoParseProfileFlag(L" true"));
+    EXPECT_FALSE(ZoParseProfileFlag(nullptr));
+}
+
+TEST(ThemeTables, EverySlotHasANameAndOutOfRangeHasNone)
+{
+    for (int slot = 0; slot < kZoColorSlotCount; ++slot)
+        EXPECT_STRNE(ZoThemeColorName(slot), L"") << slot;
+    EXPECT_STREQ(ZoThemeColorName(-1), L"");
+    EXPECT_STREQ(ZoThemeColorName(130), L"");
+}

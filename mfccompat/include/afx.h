@@ -315,3 +315,133 @@ struct ZOAFX_API AFX_EXCEPTION_LINK
 #define END_CATCH_ALL } } }
 #define THROW(e) throw e
 #define THROW_LAST() (_afxExceptionLink.m_pException = NULL, throw)
+
+// ---------------------------------------------------------------------------------------
+// Files. CFile wraps a Win32 file handle; failures throw CFileException (Open reports them
+// through its optional CFileException instead). Read returns fewer bytes at the end of the
+// file without throwing; a short Write throws with cause diskFull.
+
+class ZOAFX_API CFile : public CObject
+{
+    DECLARE_DYNAMIC(CFile)
+public:
+    enum OpenFlags
+    {
+        modeRead = 0x00000,
+        modeWrite = 0x00001,
+        modeReadWrite = 0x00002,
+        shareCompat = 0x00000,
+        shareExclusive = 0x00010,
+        shareDenyWrite = 0x00020,
+        shareDenyRead = 0x00030,
+        shareDenyNone = 0x00040,
+        modeNoInherit = 0x00080,
+        typeUnicode = 0x00400,
+        modeCreate = 0x01000,
+        modeNoTruncate = 0x02000,
+        typeText = 0x04000,
+        typeBinary = 0x08000,
+        osNoBuffer = 0x10000,
+        osWriteThrough = 0x20000,
+        osRandomAccess = 0x40000,
+        osSequentialScan = 0x80000,
+    };
+
+    enum Attribute
+    {
+        normal = 0x00,
+        readOnly = 0x01,
+        hidden = 0x02,
+        system = 0x04,
+        volume = 0x08,
+        directory = 0x10,
+        archive = 0x20
+    };
+
+    enum SeekPosition { begin = 0x0, current = 0x1, end = 0x2 };
+
+    static const HANDLE hFileNull;
+
+    CFile();
+    CFile(HANDLE hFile);
+    CFile(LPCTSTR lpszFileName, UINT nOpenFlags);
+    virtual ~CFile();
+
+    operator HANDLE() const;
+
+    virtual ULONGLONG GetPosition() const;
+    virtual CString GetFileName() const;
+    virtual CString GetFileTitle() const;
+    virtual CString GetFilePath() const;
+    virtual void SetFilePath(LPCTSTR lpszNewName);
+
+    virtual BOOL Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError = NULL);
+    static void PASCAL Rename(LPCTSTR lpszOldName, LPCTSTR lpszNewName);
+    static void PASCAL Remove(LPCTSTR lpszFileName);
+
+    ULONGLONG SeekToEnd();
+    void SeekToBegin();
+
+    virtual CFile* Duplicate() const;
+    virtual ULONGLONG Seek(LONGLONG lOff, UINT nFrom);
+    virtual void SetLength(ULONGLONG dwNewLen);
+    virtual ULONGLONG GetLength() const;
+    virtual UINT Read(void* lpBuf, UINT nCount);
+    virtual void Write(const void* lpBuf, UINT nCount);
+    virtual void LockRange(ULONGLONG dwPos, ULONGLONG dwCount);
+    virtual void UnlockRange(ULONGLONG dwPos, ULONGLONG dwCount);
+    virtual void Abort();
+    virtual void Flush();
+    virtual void Close();
+
+    HANDLE m_hFile;
+
+protected:
+    BOOL m_bCloseOnDelete;
+    CString m_strFileName;
+};
+
+class ZOAFX_API CFileFind : public CObject
+{
+    DECLARE_DYNAMIC(CFileFind)
+public:
+    CFileFind();
+    virtual ~CFileFind();
+
+    ULONGLONG GetLength() const;
+    virtual CString GetFileName() const;
+    virtual CString GetFilePath() const;
+    virtual CString GetFileTitle() const;
+    virtual CString GetFileURL() const;
+    virtual CString GetRoot() const;
+
+    virtual BOOL GetLastWriteTime(FILETIME* pTimeStamp) const;
+    virtual BOOL GetLastAccessTime(FILETIME* pTimeStamp) const;
+    virtual BOOL GetCreationTime(FILETIME* pTimeStamp) const;
+
+    virtual BOOL MatchesMask(DWORD dwMask) const;
+    virtual BOOL IsDots() const;
+    BOOL IsReadOnly() const { return MatchesMask(FILE_ATTRIBUTE_READONLY); }
+    BOOL IsDirectory() const { return MatchesMask(FILE_ATTRIBUTE_DIRECTORY); }
+    BOOL IsCompressed() const { return MatchesMask(FILE_ATTRIBUTE_COMPRESSED); }
+    BOOL IsSystem() const { return MatchesMask(FILE_ATTRIBUTE_SYSTEM); }
+    BOOL IsHidden() const { return MatchesMask(FILE_ATTRIBUTE_HIDDEN); }
+    BOOL IsTemporary() const { return MatchesMask(FILE_ATTRIBUTE_TEMPORARY); }
+    BOOL IsNormal() const { return MatchesMask(FILE_ATTRIBUTE_NORMAL); }
+    BOOL IsArchived() const { return MatchesMask(FILE_ATTRIBUTE_ARCHIVE); }
+
+    void Close();
+    // Starts a search (NULL means "*.*"); the first match becomes current only after the
+    // first FindNextFile, which returns FALSE when the match it made current is the last.
+    virtual BOOL FindFile(LPCTSTR pstrName = NULL, DWORD dwUnused = 0);
+    virtual BOOL FindNextFile();
+
+protected:
+    virtual void CloseContext();
+
+    WIN32_FIND_DATAW* m_pFoundInfo;
+    WIN32_FIND_DATAW* m_pNextInfo;
+    HANDLE m_hContext;
+    CString m_strRoot;
+    TCHAR m_chDirSeparator;
+};

@@ -5,4 +5,6 @@ list(APPEND ZOAFX_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/strformat.cpp
   ${CMAKE_CURRENT_LIST_DIR}/module.cpp
   ${CMAKE_CURRENT_LIST_DIR}/handlemap.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/collections.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/file.cpp
 )

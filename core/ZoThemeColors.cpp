@@ -1,6 +1,7 @@
 // The theme's base palette and the colour-slot table of theme 0, plus readable slot
 // names for tools such as the gallery.
 #include "ZoThemeTables.h"
+#include "ZoThemeTypes.h"
 
 namespace ZoControls {
 

@@ -1,4 +1,5 @@
 #include <windows.h>
+#include <limits.h>
 #include <wctype.h>
 
 #include "ZoThemeMath.h"
@@ -29,7 +30,13 @@ float ZoZoomFactorOf(int monitorSize)
 
 int ZoScaleByZoom(int value, float zoom)
 {
-    return static_cast<int>(static_cast<float>(value) * zoom + 0.5f);
+    const float scaled = static_cast<float>(value) * zoom + 0.5f;
+    // Absurd values saturate instead of overflowing the conversion.
+    if (!(scaled > -2147483648.0f))
+        return scaled != scaled ? 0 : INT_MIN;
+    if (scaled >= 2147483648.0f)
+        return INT_MAX;
+    return static_cast<int>(scaled);
 }
 
 int ZoFontPixelHeight(int points, float zoom)

@@ -18,7 +18,4 @@ struct ZoColorSlotSource
 extern const unsigned long kZoPaletteArgb[kZoPaletteSize];
 extern const ZoColorSlotSource kZoColorSlotSources[kZoColorSlotCount];
 
-// Readable name of a colour slot ("" outside 0..129), for tools that list the theme.
-ZOCTRL_API const wchar_t* ZoThemeColorName(int slot);
-
 } // namespace ZoControls

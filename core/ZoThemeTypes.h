@@ -1,6 +1,7 @@
 // Shared enumerations of ZoControls: themes, monitor size classes, font roles and
 // colour slots. Controls know colour slots and font roles by number.
 #pragma once
+#include "ZoCtrlExport.h"
 
 namespace ZoControls {
 
@@ -50,5 +51,8 @@ enum E_ZoThemeColors
     ZoThemeColor_Last = 129,
     ZoThemeColor_Count = 130
 };
+
+// Readable name of a colour slot ("" outside 0..129), for tools that list the theme.
+ZOCTRL_API const wchar_t* ZoThemeColorName(int slot);
 
 } // namespace ZoControls

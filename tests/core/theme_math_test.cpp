@@ -1,6 +1,8 @@
 // Theme arithmetic checked with plain numbers: no window, no device context.
 #include <gtest/gtest.h>
 
+#include <climits>
+
 #include "ZoThemeMath.h"
 #include "ZoThemeTables.h"
 
@@ -32,6 +34,13 @@ TEST(ThemeMath, ScalingRoundsByTruncatingAfterAddingAHalf)
     EXPECT_EQ(ZoScaleByZoom(10, 1.25f), 13); // 12.5 rounds up
     EXPECT_EQ(ZoScaleByZoom(0, 1.6f), 0);
     EXPECT_EQ(ZoScaleByZoom(-10, 1.2f), -11); // -11.5 truncates toward zero
+}
+
+TEST(ThemeMath, AbsurdScalingSaturates)
+{
+    EXPECT_EQ(ZoScaleByZoom(2000000000, 1.6f), INT_MAX);
+    EXPECT_EQ(ZoScaleByZoom(-2000000000, 1.6f), INT_MIN);
+    EXPECT_EQ(ZoScaleByZoom(5, 0.0f), 0);
 }
 
 // Pixel heights of the built-in font sizes at the three size classes.

@@ -1,0 +1,40 @@
+// Running a test case in a fresh process (for behaviour a process caches once, such as a marker
+// file read at first use).
+//   ZOTEST_RUN_IN_FRESH_PROCESS()   first statement of a TEST: in the test process it re-launches
+//                                   this executable for just this test and returns; in that child
+//                                   it does nothing and the test body runs
+//   RunTestInFreshProcess           non-asserting: run any test (DISABLED_ ones too) in a child
+//   IsFreshProcessChild             true inside such a child
+// The child is told by the environment variable ZOTEST_FRESH_CHILD (the test's full name).
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace zotest {
+
+struct ChildRun {
+    bool started = false;   // the child process could be created
+    bool timedOut = false;  // killed after the time-out
+    bool testRan = false;   // the child's output shows the test finished
+    bool passed = false;    // exit code 0 and the test reported OK
+    DWORD exitCode = 0;
+    std::string output;     // the child's stdout and stderr
+};
+
+// `testName` is "Suite.Name" as gtest prints it.
+ChildRun RunTestInFreshProcess(const std::string& testName, DWORD timeoutMilliseconds = 120000);
+bool IsFreshProcessChild();
+std::string CurrentTestName();
+
+namespace detail {
+// True when the caller should return: the test ran (and was judged) in a child process.
+bool HandOverToFreshProcess(const char* file, int line);
+} // namespace detail
+
+} // namespace zotest
+
+#define ZOTEST_RUN_IN_FRESH_PROCESS()                                   \
+    if (::zotest::detail::HandOverToFreshProcess(__FILE__, __LINE__)) \
+    return

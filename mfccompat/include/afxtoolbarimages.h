@@ -1,0 +1,21 @@
+// MFC-compatible <afxtoolbarimages.h>: CPngImage.
+//
+// CPngImage decodes a PNG (or any picture GDI+ reads) into a 32-bit top-down DIB section
+// whose pixels are B, G, R, A with straight (not premultiplied) alpha, as GDI+ delivers
+// PixelFormat32bppARGB. Blending such a bitmap with AlphaBlend and AC_SRC_ALPHA needs the
+// colours premultiplied first.
+#pragma once
+#include <afxwin.h>
+
+class ZOAFX_API CPngImage : public CBitmap
+{
+public:
+    CPngImage();
+    virtual ~CPngImage();
+
+    // A resource of type "PNG"; with hinstRes NULL it is looked up through the resource chain.
+    BOOL Load(UINT uiResID, HINSTANCE hinstRes = NULL);
+    BOOL Load(LPCTSTR lpszResourceName, HINSTANCE hinstRes = NULL);
+    BOOL LoadFromFile(LPCTSTR lpszPath);
+    BOOL LoadFromBuffer(LPBYTE lpBuffer, UINT uiSize);
+};

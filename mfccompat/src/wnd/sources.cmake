@@ -1,0 +1,6 @@
+list(APPEND ZOAFX_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/wnd.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/wndmsg.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/wndops.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/thread.cpp
+)

@@ -342,10 +342,14 @@ bool Dib::SaveBmp(const wchar_t* path) const
     HANDLE handle = CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (handle == INVALID_HANDLE_VALUE)
         return false;
+    // Themed drawing leaves alpha bytes behind; viewers would take them as transparency.
+    std::vector<DWORD> opaque(bits_, bits_ + static_cast<size_t>(width_) * height_);
+    for (DWORD& pixel : opaque)
+        pixel |= 0xFF000000;
     DWORD written = 0;
     bool ok = WriteFile(handle, &file, sizeof file, &written, nullptr) &&
               WriteFile(handle, &info.bmiHeader, sizeof info.bmiHeader, &written, nullptr) &&
-              WriteFile(handle, bits_, imageBytes, &written, nullptr);
+              WriteFile(handle, opaque.data(), imageBytes, &written, nullptr);
     CloseHandle(handle);
     return ok;
 }

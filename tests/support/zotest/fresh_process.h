@@ -35,6 +35,8 @@ bool HandOverToFreshProcess(const char* file, int line);
 
 } // namespace zotest
 
-#define ZOTEST_RUN_IN_FRESH_PROCESS()                                   \
-    if (::zotest::detail::HandOverToFreshProcess(__FILE__, __LINE__)) \
-    return
+// The if/else shape keeps the macro safe inside an unbraced if.
+#define ZOTEST_RUN_IN_FRESH_PROCESS()                                      \
+    if (!::zotest::detail::HandOverToFreshProcess(__FILE__, __LINE__)) { \
+    } else                                                                 \
+        return

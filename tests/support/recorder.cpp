@@ -19,6 +19,15 @@ std::vector<MessageRecorder*>& LiveRecorders()
 }
 
 HHOOK g_getMessageHook = nullptr;
+HHOOK g_creationHook = nullptr;
+
+bool AnyRecorderWatchesCreations()
+{
+    for (MessageRecorder* recorder : LiveRecorders())
+        if (recorder && recorder->WatchesCreatedWindows())
+            return true;
+    return false;
+}
 
 const UINT kDefaultNoise[] = {
     WM_GETICON, WM_NCHITTEST, WM_SETCURSOR, WM_GETOBJECT, WM_IME_SETCONTEXT, WM_IME_NOTIFY,
@@ -162,6 +171,7 @@ MessageRecorder::MessageRecorder()
 
 MessageRecorder::~MessageRecorder()
 {
+    StopWatchingCreatedWindows();
     UnwatchAll();
     auto& recorders = LiveRecorders();
     recorders.erase(std::remove(recorders.begin(), recorders.end(), this), recorders.end());
@@ -203,6 +213,39 @@ void MessageRecorder::Unwatch(HWND window)
     if (IsWindow(window))
         RemoveWindowSubclass(window, SubclassProc, reinterpret_cast<UINT_PTR>(this));
     Forget(window);
+}
+
+void MessageRecorder::WatchCreatedWindows(const wchar_t* className, WindowRole role)
+{
+    watchingCreations_ = true;
+    createdClass_ = className ? className : L"";
+    createdRole_ = role;
+    if (!g_creationHook)
+        g_creationHook = SetWindowsHookExW(WH_CBT, CreationHook, nullptr, GetCurrentThreadId());
+}
+
+void MessageRecorder::StopWatchingCreatedWindows()
+{
+    watchingCreations_ = false;
+    if (g_creationHook && !AnyRecorderWatchesCreations()) {
+        UnhookWindowsHookEx(g_creationHook);
+        g_creationHook = nullptr;
+    }
+}
+
+LRESULT CALLBACK MessageRecorder::CreationHook(int hookCode, WPARAM wParam, LPARAM lParam)
+{
+    if (hookCode == HCBT_CREATEWND) {
+        HWND created = reinterpret_cast<HWND>(wParam);
+        wchar_t className[256] = L"";
+        GetClassNameW(created, className, 256);
+        for (MessageRecorder* recorder : LiveRecorders()) {
+            if (recorder->watchingCreations_ &&
+                (recorder->createdClass_.empty() || lstrcmpiW(recorder->createdClass_.c_str(), className) == 0))
+                recorder->Watch(created, recorder->createdRole_);
+        }
+    }
+    return CallNextHookEx(nullptr, hookCode, wParam, lParam);
 }
 
 void MessageRecorder::UnwatchAll()

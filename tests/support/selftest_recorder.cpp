@@ -299,3 +299,24 @@ TEST(MessageNames, CommonMessagesHaveNames)
     EXPECT_NE(shared.find("PBM_SETPOS"), std::string::npos) << shared;
     EXPECT_NE(shared.find("TBM_GETRANGEMAX"), std::string::npos) << shared;
 }
+
+TEST(RecorderCreation, CreationMessagesOfNewWindowsAreRecorded)
+{
+    MessageRecorder recorder;
+    recorder.WatchCreatedWindows(L"button");
+    ScopedWindow parentWindow(CreateSolidWindow({0, 0, 100, 100}, RGB(1, 1, 1)));
+    HWND button = CreateWindowExW(0, L"BUTTON", L"OK", WS_CHILD | BS_PUSHBUTTON, 0, 0, 50, 20, parentWindow,
+                                  nullptr, nullptr, nullptr);
+    recorder.StopWatchingCreatedWindows();
+    EXPECT_TRUE(recorder.IsWatched(button));
+    EXPECT_FALSE(recorder.IsWatched(parentWindow)) << "only the requested class is watched";
+    const ExpectedMessage creation[] = {
+        {WM_NCCREATE, sent},
+        {WM_NCCALCSIZE, sent | optional},
+        {WM_CREATE, sent},
+    };
+    recorder.MatchOnlyListed(true);
+    ZOTEST_EXPECT_SEQUENCE(recorder, creation);
+    ScopedWindow later(CreateWindowExW(0, L"BUTTON", L"", WS_POPUP, 0, 0, 5, 5, nullptr, nullptr, nullptr, nullptr));
+    EXPECT_FALSE(recorder.IsWatched(later)) << "watching creations stops on request";
+}

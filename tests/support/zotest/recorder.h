@@ -20,6 +20,11 @@
 // then reaches the window procedure it is recorded as posted. Everything else is recorded as sent.
 // Queue-made messages (input, WM_PAINT, WM_TIMER) count as posted when a loop dispatches them.
 //
+// Watch a window after its MFC object (if any) has subclassed it: the recorder then sits outermost
+// and sees every message, including those a handler answers without calling the default. To see
+// creation messages (WM_NCCREATE, WM_CREATE, ...), call WatchCreatedWindows before creating: a
+// WH_CBT hook subclasses each new window of the thread (optionally only of one class) at once.
+//
 // Noise: messages in the ignore set (WM_GETICON, WM_NCHITTEST, WM_SETCURSOR, WM_GETOBJECT, IME and
 // undocumented theme messages, registered messages >= 0xC000) are left out of the comparison unless
 // the table lists that message number. MatchOnlyListed(true) leaves out every unlisted message.
@@ -87,7 +92,12 @@ public:
     bool WatchWithParent(HWND control);
     void Unwatch(HWND window);
     void UnwatchAll();
+    // Watches every window this thread creates from now on (only class `className` when given,
+    // compared case-insensitively) until StopWatchingCreatedWindows.
+    void WatchCreatedWindows(const wchar_t* className = nullptr, WindowRole role = WindowRole::Control);
+    void StopWatchingCreatedWindows();
     bool IsWatched(HWND window) const;
+    bool WatchesCreatedWindows() const { return watchingCreations_; }
 
     void Clear();
     void Pause() { recording_ = false; }
@@ -108,6 +118,7 @@ public:
 private:
     static LRESULT CALLBACK SubclassProc(HWND, UINT, WPARAM, LPARAM, UINT_PTR, DWORD_PTR);
     static LRESULT CALLBACK GetMessageHook(int, WPARAM, LPARAM);
+    static LRESULT CALLBACK CreationHook(int, WPARAM, LPARAM);
     void Record(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     const WindowRole* RoleOf(HWND window) const;
     void Forget(HWND window);
@@ -123,6 +134,9 @@ private:
     bool recording_ = true;
     bool queuedPending_ = false;
     MSG queued_{};
+    bool watchingCreations_ = false;
+    std::wstring createdClass_;
+    WindowRole createdRole_ = WindowRole::Control;
 };
 
 // Compares what `recorder` holds with the table (platform flags resolved for the running system).

@@ -1,0 +1,11 @@
+// ZoCtrl: what a host includes. Include it after the MFC headers (<afxwin.h> ...).
+// Each subsystem adds its public headers below when it lands, in this order: images/,
+// controls/, dialogs/, lists/, frames/.
+#pragma once
+
+#include "ZoCtrlExport.h"
+#include "ZoLibrary.h"
+#include "ZoThemeTypes.h"
+#include "ZoThemeMath.h"
+#include "ZoThemeManager.h"
+#include "ZoUIBase.h"

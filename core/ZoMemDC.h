@@ -1,0 +1,50 @@
+// CZoMemDC: the off-screen surface of the controls' paint handlers. Everything is drawn
+// into it and copied to the screen once, so painting never flickers. Internal to the library.
+#pragma once
+#include <afxwin.h>
+
+namespace ZoControls {
+
+class CZoMemDC : public CDC
+{
+public:
+    CZoMemDC(CDC* pTarget, int width, int height);
+    virtual ~CZoMemDC();
+
+    // Copies the whole surface to the target at (0, 0). Call once, after drawing everything.
+    void CopyToTarget();
+
+    // Text and visibility go straight to the memory DC's own handle.
+    using CDC::PtVisible;
+    using CDC::TextOut;
+    using CDC::ExtTextOut;
+    using CDC::TabbedTextOut;
+    using CDC::DrawText;
+    using CDC::DrawTextEx;
+    using CDC::Escape;
+    virtual BOOL PtVisible(int x, int y) const;
+    virtual BOOL RectVisible(LPCRECT lpRect) const;
+    virtual BOOL TextOut(int x, int y, LPCTSTR lpszString, int nCount);
+    virtual BOOL ExtTextOut(int x, int y, UINT nOptions, LPCRECT lpRect, LPCTSTR lpszString, UINT nCount,
+                            LPINT lpDxWidths);
+    virtual CSize TabbedTextOut(int x, int y, LPCTSTR lpszString, int nCount, int nTabPositions,
+                                LPINT lpnTabStopPositions, int nTabOrigin);
+    virtual int DrawText(LPCTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat);
+    virtual int DrawTextEx(LPTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat,
+                           LPDRAWTEXTPARAMS lpDTParams);
+    virtual BOOL GrayString(CBrush* pBrush, BOOL(CALLBACK* lpfnOutput)(HDC, LPARAM, int), LPARAM lpData,
+                            int nCount, int x, int y, int nWidth, int nHeight);
+    virtual int Escape(int nEscape, int nCount, LPCSTR lpszInData, LPVOID lpOutData);
+
+private:
+    CZoMemDC(const CZoMemDC&);
+    CZoMemDC& operator=(const CZoMemDC&);
+
+    int m_nWidth;
+    int m_nHeight;
+    CDC* m_pTargetDC;
+    HBITMAP m_hBitmap;
+    HBITMAP m_hOldBitmap; // null when no bitmap could be made
+};
+
+} // namespace ZoControls

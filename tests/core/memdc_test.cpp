@@ -1,0 +1,155 @@
+// The off-screen surface: drawing lands in it, reaches the target only through CopyToTarget,
+// and degenerate sizes neither crash nor touch the target.
+#include <gtest/gtest.h>
+
+#include <zotest/renderer.h>
+#include <zotest/resource_counter.h>
+
+#include "ZoMemDC.h"
+
+using namespace ZoControls;
+
+namespace {
+
+const COLORREF kFill = RGB(0x20, 0x80, 0xC0);
+
+// A CDC over a test DIB for the life of the object.
+class TargetDC
+{
+public:
+    explicit TargetDC(const zotest::Dib& dib) { dc_.Attach(dib.dc()); }
+    ~TargetDC() { dc_.Detach(); }
+    CDC* get() { return &dc_; }
+
+private:
+    CDC dc_;
+};
+
+} // namespace
+
+TEST(MemDC, NothingReachesTheTargetBeforeTheCopy)
+{
+    zotest::Dib target(60, 40);
+    TargetDC targetDC(target);
+    {
+        CZoMemDC mem(targetDC.get(), 60, 40);
+        mem.FillSolidRect(0, 0, 60, 40, kFill);
+        ZOTEST_EXPECT_FILL(target, (RECT{0, 0, 60, 40}), zotest::kUnpainted);
+    }
+    // Destroyed without the copy: the target stays untouched.
+    ZOTEST_EXPECT_FILL(target, (RECT{0, 0, 60, 40}), zotest::kUnpainted);
+}
+
+TEST(MemDC, CopyToTargetCopiesTheWholeSurfaceAtTheOrigin)
+{
+    zotest::Dib target(80, 50);
+    TargetDC targetDC(target);
+    CZoMemDC mem(targetDC.get(), 60, 40);
+    mem.FillSolidRect(0, 0, 60, 40, kFill);
+    mem.FillSolidRect(10, 10, 5, 5, RGB(255, 0, 0));
+    mem.CopyToTarget();
+    ZOTEST_EXPECT_FILL(target, (RECT{0, 0, 60, 10}), kFill);
+    ZOTEST_EXPECT_FILL(target, (RECT{10, 10, 15, 15}), RGB(255, 0, 0));
+    ZOTEST_EXPECT_FILL(target, (RECT{60, 0, 80, 50}), zotest::kUnpainted);
+    ZOTEST_EXPECT_FILL(target, (RECT{0, 40, 60, 50}), zotest::kUnpainted);
+}
+
+TEST(MemDC, DrawTextLandsInTheSurfaceNotTheTarget)
+{
+    zotest::Dib target(120, 40);
+    TargetDC targetDC(target);
+    CZoMemDC mem(targetDC.get(), 120, 40);
+    mem.FillSolidRect(0, 0, 120, 40, RGB(255, 255, 255));
+    mem.SetTextColor(RGB(0, 0, 0));
+    mem.SetBkMode(TRANSPARENT);
+    CRect area(0, 0, 120, 40);
+    CDC* asBase = &mem; // through the base class, as paint handlers hold it
+    EXPECT_GT(asBase->DrawText(L"Zo text", -1, &area, DT_SINGLELINE | DT_CENTER | DT_VCENTER), 0);
+    ZOTEST_EXPECT_FILL(target, (RECT{0, 0, 120, 40}), zotest::kUnpainted);
+    mem.CopyToTarget();
+    const RECT inked = zotest::BoundsOfDifferences(target, RGB(255, 255, 255));
+    EXPECT_GT(inked.right, inked.left);
+    // Centred text: the ink sits in the middle third horizontally and inside the surface.
+    EXPECT_GT(inked.left, 10);
+    EXPECT_LT(inked.right, 110);
+    EXPECT_GE(inked.top, 0);
+    EXPECT_LE(inked.bottom, 40);
+}
+
+TEST(MemDC, TextOperationsAllDrawIntoTheSurface)
+{
+    zotest::Dib target(200, 120);
+    TargetDC targetDC(target);
+    CZoMemDC mem(targetDC.get(), 200, 120);
+    mem.FillSolidRect(0, 0, 200, 120, RGB(255, 255, 255));
+    mem.SetTextColor(RGB(0, 0, 0));
+    CDC* dc = &mem;
+    EXPECT_TRUE(dc->TextOut(5, 5, L"TextOut", 7));
+    EXPECT_TRUE(dc->ExtTextOut(5, 30, 0, nullptr, L"ExtTextOut", 10, nullptr));
+    // Tab stops count from the tab origin, which is the text start here.
+    const CSize tabbed = dc->TabbedTextOut(5, 55, L"a\tb", 3, 0, nullptr, 5);
+    const DWORD expected = ::GetTabbedTextExtentW(mem.GetSafeHdc(), L"a\tb", 3, 0, nullptr);
+    EXPECT_EQ(tabbed.cx, static_cast<LONG>(LOWORD(expected)));
+    EXPECT_EQ(tabbed.cy, static_cast<LONG>(HIWORD(expected)));
+    wchar_t text[] = L"DrawTextEx";
+    CRect area(5, 80, 200, 120);
+    EXPECT_GT(dc->DrawTextEx(text, -1, &area, DT_SINGLELINE, nullptr), 0);
+    ZOTEST_EXPECT_FILL(target, (RECT{0, 0, 200, 120}), zotest::kUnpainted);
+    mem.CopyToTarget();
+    for (int band = 0; band < 4; ++band) {
+        const zotest::Dib strip = target.Crop(RECT{0, 5 + band * 25, 200, 25 + band * 25});
+        const RECT inked = zotest::BoundsOfDifferences(strip, RGB(255, 255, 255));
+        EXPECT_GT(inked.right, inked.left) << "band " << band;
+    }
+}
+
+TEST(MemDC, VisibilityIsAskedOfTheSurface)
+{
+    zotest::Dib target(30, 30);
+    TargetDC targetDC(target);
+    CZoMemDC mem(targetDC.get(), 30, 30);
+    EXPECT_TRUE(mem.PtVisible(5, 5));
+    CRect inside(0, 0, 10, 10);
+    EXPECT_TRUE(mem.RectVisible(&inside));
+    CRgn clip;
+    clip.CreateRectRgn(0, 0, 10, 10);
+    mem.SelectClipRgn(&clip);
+    EXPECT_FALSE(mem.PtVisible(20, 20));
+    CRect outside(15, 15, 25, 25);
+    EXPECT_FALSE(mem.RectVisible(&outside));
+}
+
+TEST(MemDC, ZeroSizeNeitherCrashesNorTouchesTheTarget)
+{
+    zotest::Dib target(20, 20);
+    TargetDC targetDC(target);
+    for (const SIZE size : {SIZE{0, 0}, SIZE{0, 10}, SIZE{10, 0}, SIZE{-5, -5}}) {
+        CZoMemDC mem(targetDC.get(), size.cx, size.cy);
+        mem.FillSolidRect(0, 0, 20, 20, kFill);
+        CRect area(0, 0, 20, 20);
+        mem.DrawText(L"x", -1, &area, DT_SINGLELINE);
+        mem.CopyToTarget();
+    }
+    ZOTEST_EXPECT_FILL(target, (RECT{0, 0, 20, 20}), zotest::kUnpainted);
+}
+
+TEST(MemDC, WithoutTargetTheSurfaceStillWorks)
+{
+    CZoMemDC mem(nullptr, 16, 16);
+    ASSERT_NE(mem.GetSafeHdc(), nullptr);
+    mem.FillSolidRect(0, 0, 16, 16, kFill);
+    EXPECT_EQ(mem.GetPixel(3, 3), kFill);
+    mem.CopyToTarget();
+}
+
+TEST(MemDC, CreatingAndDestroyingLeaksNoGdiObjects)
+{
+    zotest::Dib target(64, 64);
+    TargetDC targetDC(target);
+    ZOTEST_EXPECT_NO_LEAKS(3, [&] {
+        CZoMemDC mem(targetDC.get(), 64, 64);
+        mem.FillSolidRect(0, 0, 64, 64, kFill);
+        mem.CopyToTarget();
+        CZoMemDC empty(targetDC.get(), 0, 0);
+    }, zotest::count_gdi);
+}

@@ -1,0 +1,220 @@
+// How a control learns its theme and size class: asking its parent, measuring its monitor,
+// or obeying a fixed-mode marker file beside the executable.
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+#include <zotest/fresh_process.h>
+#include <zotest/test_window.h>
+
+#include "core_test_support.h"
+#include "ZoThemeMath.h"
+#include "ZoUIBase.h"
+
+using namespace ZoControls;
+
+namespace {
+
+// A container whose theme and size class the test sets.
+class AnsweringContainer : public CZoWnd
+{
+public:
+    using IZoUIBase::SetZoMonitorSize;
+    using IZoUIBase::GetZoMonitorSize;
+};
+
+const DWORD kPopup = WS_POPUP | WS_VISIBLE;
+
+bool CreateContainer(CZoWnd& wnd, CWnd* parent = nullptr)
+{
+    const DWORD style = parent ? (WS_CHILD | WS_VISIBLE) : kPopup;
+    return wnd.CreateEx(0, AfxRegisterWndClass(0), L"container", style, 0, 0, 300, 200,
+                        parent ? parent->GetSafeHwnd() : nullptr, nullptr) != FALSE;
+}
+
+bool CreateChildStatic(CWnd& child, CWnd* parent)
+{
+    return child.Create(L"STATIC", L"x", WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 20), parent, 1) != FALSE;
+}
+
+// The primary monitor's size in pixels.
+SIZE PrimaryMonitorSize()
+{
+    MONITORINFO info = {};
+    info.cbSize = sizeof(info);
+    const POINT origin = {0, 0};
+    ::GetMonitorInfoW(::MonitorFromPoint(origin, MONITOR_DEFAULTTOPRIMARY), &info);
+    return SIZE{info.rcMonitor.right - info.rcMonitor.left, info.rcMonitor.bottom - info.rcMonitor.top};
+}
+
+E_ZoMonitorSize PrimaryMonitorClass()
+{
+    const SIZE size = PrimaryMonitorSize();
+    return ZoMonitorSizeForArea(static_cast<long long>(size.cx) * size.cy);
+}
+
+} // namespace
+
+TEST(ThemeQuery, PlainParentLeavesThemeZero)
+{
+    zotest::ScopedWindow parent(zotest::CreateSolidWindow(RECT{0, 0, 200, 100}, RGB(1, 2, 3)));
+    CWnd child;
+    ASSERT_TRUE(CreateChildStatic(child, CWnd::FromHandle(parent)));
+    EXPECT_EQ(ZoGetCurrentThemeIndex(&child), ZoTheme_Default);
+    child.DestroyWindow();
+}
+
+TEST(ThemeQuery, ContainerAnswersItsTheme)
+{
+    AnsweringContainer container;
+    container.SetZoTheme(ZoTheme_2);
+    ASSERT_TRUE(CreateContainer(container));
+    CWnd child;
+    ASSERT_TRUE(CreateChildStatic(child, &container));
+    EXPECT_EQ(ZoGetCurrentThemeIndex(&child), ZoTheme_2);
+    container.DestroyWindow();
+}
+
+TEST(ThemeQuery, WindowWithoutParentOrWindowAtAllGivesThemeZero)
+{
+    AnsweringContainer top;
+    top.SetZoTheme(ZoTheme_1);
+    ASSERT_TRUE(CreateContainer(top));
+    EXPECT_EQ(ZoGetCurrentThemeIndex(&top), ZoTheme_Default); // asks the parent, and there is none
+    EXPECT_EQ(ZoGetCurrentThemeIndex(nullptr), ZoTheme_Default);
+    top.DestroyWindow();
+    EXPECT_EQ(ZoGetCurrentThemeIndex(&top), ZoTheme_Default);
+}
+
+TEST(MonitorQuery, ParentAnswerWins)
+{
+    AnsweringContainer container;
+    ASSERT_TRUE(CreateContainer(container));
+    container.SetZoMonitorSize(ZoMonitorSize_5M);
+    CWnd child;
+    ASSERT_TRUE(CreateChildStatic(child, &container));
+    EXPECT_EQ(ZoGetCurrentMonitorSize(&child, false), ZoMonitorSize_5M);
+    container.SetZoMonitorSize(ZoMonitorSize_3M);
+    EXPECT_EQ(ZoGetCurrentMonitorSize(&child, false), ZoMonitorSize_3M);
+    container.DestroyWindow();
+}
+
+TEST(MonitorQuery, AskSelfAsksTheWindowItself)
+{
+    AnsweringContainer outer;
+    ASSERT_TRUE(CreateContainer(outer));
+    outer.SetZoMonitorSize(ZoMonitorSize_3M);
+    AnsweringContainer inner;
+    ASSERT_TRUE(CreateContainer(inner, &outer));
+    inner.SetZoMonitorSize(ZoMonitorSize_5M);
+    EXPECT_EQ(ZoGetCurrentMonitorSize(&inner, true), ZoMonitorSize_5M);
+    EXPECT_EQ(ZoGetCurrentMonitorSize(&inner, false), ZoMonitorSize_3M);
+    outer.DestroyWindow();
+}
+
+TEST(MonitorQuery, UnansweredQueryMeasuresTheMonitor)
+{
+    zotest::ScopedWindow parent(zotest::CreateSolidWindow(RECT{0, 0, 200, 100}, RGB(1, 2, 3)));
+    CWnd child;
+    ASSERT_TRUE(CreateChildStatic(child, CWnd::FromHandle(parent)));
+    EXPECT_EQ(ZoGetCurrentMonitorSize(&child, false), PrimaryMonitorClass());
+    EXPECT_EQ(ZoGetCurrentMonitorSize(&child, true), PrimaryMonitorClass());
+    EXPECT_EQ(ZoGetCurrentMonitorSize(nullptr, false), PrimaryMonitorClass());
+    child.DestroyWindow();
+    EXPECT_EQ(ZoGetCurrentMonitorSize(&child, false), PrimaryMonitorClass());
+}
+
+TEST(MonitorQuery, ContainerStillUndecidedCountsAsNoAnswer)
+{
+    AnsweringContainer container;
+    ASSERT_TRUE(CreateContainer(container));
+    container.SetZoMonitorSize(ZoMonitorSize_Unknown);
+    CWnd child;
+    ASSERT_TRUE(CreateChildStatic(child, &container));
+    EXPECT_EQ(ZoGetCurrentMonitorSize(&child, false), PrimaryMonitorClass());
+    container.DestroyWindow();
+}
+
+// Registered once per screen size in CMakeLists.txt with ZO_SCREEN=WxH; without it the
+// default 1280x1024 screen of the test run.
+TEST(MonitorOnScreen, ClassMatchesTheScreenSize)
+{
+    const char* screen = std::getenv("ZO_SCREEN");
+    const std::string registered = screen && *screen ? screen : "1280x1024";
+    int width = 0, height = 0;
+    ASSERT_EQ(sscanf(registered.c_str(), "%dx%d", &width, &height), 2) << registered;
+    const SIZE actual = PrimaryMonitorSize();
+    ASSERT_EQ(actual.cx, width) << "monitor is not the registered " << registered;
+    ASSERT_EQ(actual.cy, height) << "monitor is not the registered " << registered;
+
+    E_ZoMonitorSize expected = ZoMonitorSize_Unknown;
+    if (registered == "1280x1024" || registered == "1920x1080")
+        expected = ZoMonitorSize_Normal;
+    else if (registered == "2560x1440")
+        expected = ZoMonitorSize_3M;
+    else if (registered == "3840x2160")
+        expected = ZoMonitorSize_5M;
+    ASSERT_NE(expected, ZoMonitorSize_Unknown) << "no expectation for " << registered;
+
+    zotest::ScopedWindow parent(zotest::CreateSolidWindow(RECT{0, 0, 200, 100}, RGB(1, 2, 3)));
+    EXPECT_EQ(ZoGetCurrentMonitorSize(CWnd::FromHandle(parent), true), expected);
+    AnsweringContainer container;
+    ASSERT_TRUE(CreateContainer(container));
+    EXPECT_EQ(container.GetZoMonitorSize(), expected);
+    EXPECT_FLOAT_EQ(container.GetZoZoomFactor(), ZoZoomFactorOf(expected));
+    container.DestroyWindow();
+}
+
+// The fixed mode is read once per process, so each of these runs in a fresh process.
+namespace {
+
+std::wstring MarkerPath(int mode)
+{
+    return coretest::ExePath() + L".ZoCtrl.FixedMode." + std::to_wstring(mode);
+}
+
+} // namespace
+
+TEST(FixedMode, LowestMarkerWinsForEveryWindowAndIsReadOnce)
+{
+    ZOTEST_RUN_IN_FRESH_PROCESS();
+    ASSERT_TRUE(coretest::WriteTextFile(MarkerPath(3), ""));
+    ASSERT_TRUE(coretest::WriteTextFile(MarkerPath(2), "contents are never read"));
+
+    AnsweringContainer container;
+    ASSERT_TRUE(CreateContainer(container));
+    container.SetZoMonitorSize(ZoMonitorSize_5M);
+    CWnd child;
+    ASSERT_TRUE(CreateChildStatic(child, &container));
+    const E_ZoMonitorSize withMarkers = ZoGetCurrentMonitorSize(&child, false);
+    const E_ZoMonitorSize forNull = ZoGetCurrentMonitorSize(nullptr, true);
+
+    // Markers appearing or vanishing later change nothing.
+    coretest::WriteTextFile(MarkerPath(1), "");
+    coretest::RemoveTestFile(MarkerPath(2));
+    const E_ZoMonitorSize afterChange = ZoGetCurrentMonitorSize(&child, true);
+    coretest::RemoveTestFile(MarkerPath(1));
+    coretest::RemoveTestFile(MarkerPath(3));
+    container.DestroyWindow();
+
+    EXPECT_EQ(withMarkers, ZoMonitorSize_3M);
+    EXPECT_EQ(forNull, ZoMonitorSize_3M);
+    EXPECT_EQ(afterChange, ZoMonitorSize_3M);
+}
+
+TEST(FixedMode, FolderNamedAsMarkerCounts)
+{
+    ZOTEST_RUN_IN_FRESH_PROCESS();
+    ASSERT_TRUE(::CreateDirectoryW(MarkerPath(3).c_str(), nullptr) || ::GetLastError() == ERROR_ALREADY_EXISTS);
+    const E_ZoMonitorSize forNull = ZoGetCurrentMonitorSize(nullptr, false);
+    AnsweringContainer container;
+    const bool created = CreateContainer(container);
+    const E_ZoMonitorSize containerSize = container.GetZoMonitorSize();
+    ::RemoveDirectoryW(MarkerPath(3).c_str());
+    ASSERT_TRUE(created);
+    container.DestroyWindow();
+    EXPECT_EQ(forNull, ZoMonitorSize_5M);
+    EXPECT_EQ(containerSize, ZoMonitorSize_5M);
+}

@@ -1,0 +1,212 @@
+// The theme-aware container: query answers, child registration and rescaling, CZoWnd's
+// creation and sizing.
+#include <gtest/gtest.h>
+
+#include "core_test_support.h"
+#include "ZoThemeMath.h"
+#include "ZoUIBase.h"
+
+using namespace ZoControls;
+
+namespace {
+
+class Container : public CZoWnd
+{
+public:
+    using IZoUIBase::ChangeRegisteredWindowRect;
+    using IZoUIBase::GetRegisteredWindowRect;
+    using IZoUIBase::GetZoMonitorSize;
+    using IZoUIBase::GetZoTheme;
+    using IZoUIBase::RegisterChildWindow;
+    using IZoUIBase::RemoveAllRegistered;
+    using IZoUIBase::RemoveRegisterdWindow;
+    using IZoUIBase::SetZoMonitorSize;
+};
+
+class UiBaseTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(container.CreateEx(0, AfxRegisterWndClass(0), L"container", WS_POPUP | WS_VISIBLE, 0, 0, 400,
+                                       300, nullptr, nullptr));
+        ASSERT_TRUE(first.Create(L"STATIC", L"1", WS_CHILD | WS_VISIBLE, CRect(300, 200, 310, 210), &container, 1));
+        ASSERT_TRUE(second.Create(L"STATIC", L"2", WS_CHILD | WS_VISIBLE, CRect(300, 200, 310, 210), &container, 2));
+    }
+    void TearDown() override
+    {
+        if (::IsWindow(container.GetSafeHwnd()))
+            container.DestroyWindow();
+    }
+
+    // The child's rectangle in the container's client coordinates.
+    CRect PlaceOf(CWnd& child)
+    {
+        CRect rect;
+        child.GetWindowRect(&rect);
+        container.ScreenToClient(&rect);
+        return rect;
+    }
+
+    Container container;
+    CWnd first;
+    CWnd second;
+};
+
+} // namespace
+
+TEST(DesignRect, ScaledPositionScalesEveryEdge)
+{
+    EXPECT_EQ(ZoScaleDesignRect(CRect(10, 10, 110, 30), true, 1.2f), CRect(12, 12, 132, 36));
+    EXPECT_EQ(ZoScaleDesignRect(CRect(10, 10, 110, 30), true, 1.0f), CRect(10, 10, 110, 30));
+    EXPECT_EQ(ZoScaleDesignRect(CRect(5, 7, 15, 17), true, 1.6f), CRect(8, 11, 24, 27));
+}
+
+TEST(DesignRect, KeptCentreScalesOnlyTheSize)
+{
+    EXPECT_EQ(ZoScaleDesignRect(CRect(10, 10, 110, 30), false, 1.2f), CRect(0, 8, 120, 32));
+    EXPECT_EQ(ZoScaleDesignRect(CRect(10, 10, 110, 30), false, 1.0f), CRect(10, 10, 110, 30));
+    // (15 - 24) / 2 rounds toward zero.
+    EXPECT_EQ(ZoScaleDesignRect(CRect(0, 0, 15, 15), false, 1.6f), CRect(-4, -4, 20, 20));
+}
+
+TEST_F(UiBaseTest, ConstructionStartsWithThemeZeroAndUnknownSize)
+{
+    Container fresh;
+    EXPECT_EQ(fresh.GetZoTheme(), ZoTheme_Default);
+    EXPECT_EQ(fresh.GetZoMonitorSize(), ZoMonitorSize_Unknown);
+    EXPECT_FLOAT_EQ(fresh.GetZoZoomFactor(), 1.0f);
+}
+
+TEST_F(UiBaseTest, QueriesAnswerThroughLParamAndReturnMinusOne)
+{
+    container.SetZoTheme(ZoTheme_2);
+    container.SetZoMonitorSize(ZoMonitorSize_3M);
+    int theme = 0, size = -1;
+    EXPECT_EQ(container.SendMessage(WM_APP + 2, 0, reinterpret_cast<LPARAM>(&theme)), -1);
+    EXPECT_EQ(container.SendMessage(WM_APP + 3, 0, reinterpret_cast<LPARAM>(&size)), -1);
+    EXPECT_EQ(theme, 2);
+    EXPECT_EQ(size, 1);
+}
+
+TEST_F(UiBaseTest, QueriesWithNullLParamReturnMinusOneAndWriteNothing)
+{
+    EXPECT_EQ(container.SendMessage(WM_APP + 2, 0, 0), -1);
+    EXPECT_EQ(container.SendMessage(WM_APP + 3, 0, 0), -1);
+    IZoUIBase& base = container;
+    EXPECT_EQ(base.OnMsgGetCurrentZoTheme(0, 0), -1);
+    EXPECT_EQ(base.OnMsgGetCurrentMonitorSize(0, 0), -1);
+}
+
+TEST_F(UiBaseTest, SecondRegistrationIsRefusedAndKeepsTheFirstRectangle)
+{
+    EXPECT_TRUE(container.RegisterChildWindow(&first, CRect(1, 2, 3, 4), true));
+    EXPECT_FALSE(container.RegisterChildWindow(&first, CRect(5, 6, 7, 8), false));
+    CRect stored;
+    ASSERT_TRUE(container.GetRegisteredWindowRect(&first, stored));
+    EXPECT_EQ(stored, CRect(1, 2, 3, 4));
+}
+
+TEST_F(UiBaseTest, ChangeRegistersAnUnregisteredWindowAndReplacesARegisteredOne)
+{
+    CRect stored;
+    EXPECT_FALSE(container.GetRegisteredWindowRect(&first, stored));
+    container.ChangeRegisteredWindowRect(&first, CRect(1, 2, 3, 4), true);
+    ASSERT_TRUE(container.GetRegisteredWindowRect(&first, stored));
+    EXPECT_EQ(stored, CRect(1, 2, 3, 4));
+    container.ChangeRegisteredWindowRect(&first, CRect(9, 9, 19, 19), false);
+    ASSERT_TRUE(container.GetRegisteredWindowRect(&first, stored));
+    EXPECT_EQ(stored, CRect(9, 9, 19, 19));
+    EXPECT_FALSE(container.RegisterChildWindow(&first, CRect(0, 0, 1, 1), true));
+}
+
+TEST_F(UiBaseTest, RemovingReportsWhetherAnEntryWentAway)
+{
+    container.RegisterChildWindow(&first, CRect(1, 2, 3, 4), true);
+    container.RegisterChildWindow(&second, CRect(1, 2, 3, 4), true);
+    EXPECT_TRUE(container.RemoveRegisterdWindow(&first));
+    EXPECT_FALSE(container.RemoveRegisterdWindow(&first));
+    EXPECT_FALSE(container.RemoveRegisterdWindow(nullptr));
+    CRect stored;
+    EXPECT_TRUE(container.GetRegisteredWindowRect(&second, stored));
+    container.RemoveAllRegistered();
+    EXPECT_FALSE(container.GetRegisteredWindowRect(&second, stored));
+}
+
+TEST_F(UiBaseTest, AtZoomOneChildrenGoExactlyToTheirDesignRectangles)
+{
+    container.SetZoMonitorSize(ZoMonitorSize_Normal);
+    container.RegisterChildWindow(&first, CRect(10, 10, 110, 30), true);
+    container.RegisterChildWindow(&second, CRect(10, 40, 110, 60), false);
+    container.ResizeRegisteredWindows();
+    EXPECT_EQ(PlaceOf(first), CRect(10, 10, 110, 30));
+    EXPECT_EQ(PlaceOf(second), CRect(10, 40, 110, 60));
+}
+
+TEST_F(UiBaseTest, AtZoomOnePointTwoRectanglesScaleAsDesigned)
+{
+    container.SetZoMonitorSize(ZoMonitorSize_3M);
+    container.RegisterChildWindow(&first, CRect(10, 10, 110, 30), false);
+    container.RegisterChildWindow(&second, CRect(10, 10, 110, 30), true);
+    container.ResizeRegisteredWindows();
+    EXPECT_EQ(PlaceOf(first), CRect(0, 8, 120, 32));
+    EXPECT_EQ(PlaceOf(second), CRect(12, 12, 132, 36));
+    // Design rectangles stay as registered, so repeated resizes don't drift.
+    container.ResizeRegisteredWindows();
+    EXPECT_EQ(PlaceOf(second), CRect(12, 12, 132, 36));
+    CRect stored;
+    ASSERT_TRUE(container.GetRegisteredWindowRect(&second, stored));
+    EXPECT_EQ(stored, CRect(10, 10, 110, 30));
+}
+
+TEST_F(UiBaseTest, DestroyedEmptyAndNullEntriesAreSkippedAndStayRegistered)
+{
+    container.SetZoMonitorSize(ZoMonitorSize_Normal);
+    container.RegisterChildWindow(&first, CRect(10, 10, 110, 30), true);
+    container.RegisterChildWindow(&second, CRect(50, 50, 50, 80), true); // empty: zero width
+    container.RegisterChildWindow(nullptr, CRect(1, 1, 5, 5), true);
+    first.DestroyWindow();
+    container.ResizeRegisteredWindows();
+    EXPECT_EQ(PlaceOf(second), CRect(300, 200, 310, 210));
+    CRect stored;
+    EXPECT_TRUE(container.GetRegisteredWindowRect(&first, stored));
+}
+
+TEST_F(UiBaseTest, SizeMessageRescalesOnlyForAPositiveClientSize)
+{
+    container.SetZoMonitorSize(ZoMonitorSize_Normal);
+    container.RegisterChildWindow(&first, CRect(10, 10, 110, 30), true);
+    container.SendMessage(WM_SIZE, SIZE_MINIMIZED, MAKELPARAM(0, 0));
+    EXPECT_EQ(PlaceOf(first), CRect(300, 200, 310, 210));
+    container.SendMessage(WM_SIZE, SIZE_RESTORED, MAKELPARAM(400, 0));
+    EXPECT_EQ(PlaceOf(first), CRect(300, 200, 310, 210));
+    container.SetWindowPos(nullptr, 0, 0, 500, 350, SWP_NOZORDER | SWP_NOMOVE);
+    EXPECT_EQ(PlaceOf(first), CRect(10, 10, 110, 30));
+}
+
+TEST_F(UiBaseTest, CreationTakesTheParentsSizeClass)
+{
+    container.SetZoMonitorSize(ZoMonitorSize_5M);
+    Container child;
+    ASSERT_TRUE(child.CreateEx(0, AfxRegisterWndClass(0), L"child", WS_CHILD | WS_VISIBLE, 0, 0, 50, 50,
+                               container.GetSafeHwnd(), nullptr));
+    EXPECT_EQ(child.GetZoMonitorSize(), ZoMonitorSize_5M);
+    EXPECT_FLOAT_EQ(child.GetZoZoomFactor(), 1.6f);
+    EXPECT_EQ(child.GetZoParent(), &container);
+}
+
+TEST_F(UiBaseTest, TopLevelWindowMeasuresItsMonitorAndNeverStoresUnknown)
+{
+    EXPECT_NE(container.GetZoMonitorSize(), ZoMonitorSize_Unknown);
+    EXPECT_EQ(container.GetZoMonitorSize(), ZoGetCurrentMonitorSize(&container, true));
+    EXPECT_EQ(container.GetZoParent(), nullptr);
+}
+
+TEST_F(UiBaseTest, RunTimeClassIsCZoWndDerivedFromCWnd)
+{
+    CRuntimeClass* runtime = container.GetRuntimeClass();
+    ASSERT_NE(runtime, nullptr);
+    EXPECT_STREQ(runtime->m_lpszClassName, "CZoWnd");
+    EXPECT_TRUE(container.IsKindOf(RUNTIME_CLASS(CWnd)));
+    EXPECT_TRUE(container.IsKindOf(RUNTIME_CLASS(CZoWnd)));
+}

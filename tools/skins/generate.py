@@ -13,6 +13,7 @@ import argparse
 import os
 import sys
 
+sys.dont_write_bytecode = True  # keep the source tree free of caches
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
 from skinlib import (Canvas, AlphaCanvas, hex_rgb, mix, rect, rounded_rect, circle, polygon,  # noqa: E402
@@ -397,8 +398,11 @@ def slider_thumbs(shape):
 
 def slider_strips():
     both = slider_thumbs(rounded_rect(0.5, 0.5, 10.5, 20.5, 3))
-    up = slider_thumbs(polygon([(5.5, 0.3), (10.5, 5.3), (10.5, 20.5), (0.5, 20.5), (0.5, 5.3)]))
-    down = [c.flipped_vertically() for c in up]
+    pointer = polygon([(5.5, 0.3), (10.5, 5.3), (10.5, 20.5), (0.5, 20.5), (0.5, 5.3)])
+    flat_end = rounded_rect(0.5, -10, 10.5, 20.5, 3)
+    up = slider_thumbs(lambda x, y: pointer(x, y) and flat_end(x, y))
+    # Mirrored geometry rather than a mirrored picture, so the light still falls from above.
+    down = slider_thumbs(lambda x, y: pointer(x, 21 - y) and flat_end(x, 21 - y))
 
     def horizontal(cells):
         return assemble(44, 21, [(c, 11 * s, 0) for s, c in enumerate(cells)])

@@ -75,8 +75,9 @@ void CStringW::FormatV(PCXSTR pszFormat, va_list args)
 {
     if (pszFormat == NULL)
         AfxThrowInvalidArgException();
-    Empty();
-    AppendFormatV(pszFormat, args);
+    CStringW result; // the arguments may point into this string
+    result.AppendFormatV(pszFormat, args);
+    *this = static_cast<CStringW&&>(result);
 }
 
 void CStringW::AppendFormatV(PCXSTR pszFormat, va_list args)

@@ -1,0 +1,13 @@
+# Objects, strings, geometry, collections, files, exceptions and handle maps of the layer.
+zo_add_test_executable(test_afx_core
+  core/object_test.cpp
+  core/exception_test.cpp
+  core/string_test.cpp
+  core/string_resource_test.cpp
+  core/geometry_test.cpp
+  core/collection_test.cpp
+  core/file_test.cpp
+  core/handlemap_test.cpp
+  core/core_test.rc
+)
+target_link_libraries(test_afx_core PRIVATE zoafx)

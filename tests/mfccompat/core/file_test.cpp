@@ -1,0 +1,333 @@
+// CFile and CFileFind against a scratch folder in %TEMP%.
+#include <afx.h>
+#include <gtest/gtest.h>
+#include <vector>
+#include <algorithm>
+
+namespace {
+
+class FileTest : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        WCHAR temp[MAX_PATH];
+        GetTempPathW(MAX_PATH, temp);
+        m_dir.Format(L"%szo_core_%lu_%p", temp, GetCurrentProcessId(), (void*)this);
+        ASSERT_TRUE(CreateDirectoryW(m_dir, NULL));
+    }
+
+    void TearDown() override
+    {
+        CFileFind finder;
+        for (BOOL more = finder.FindFile(m_dir + L"\\*"); more;)
+        {
+            more = finder.FindNextFile();
+            if (finder.IsDots())
+                continue;
+            if (finder.IsDirectory())
+                RemoveDirectoryW(finder.GetFilePath());
+            else
+                DeleteFileW(finder.GetFilePath());
+        }
+        finder.Close();
+        RemoveDirectoryW(m_dir);
+    }
+
+    CString PathOf(LPCWSTR name) const { return m_dir + L"\\" + name; }
+
+    void WriteFile(LPCWSTR name, const char* bytes)
+    {
+        CFile file(PathOf(name), CFile::modeCreate | CFile::modeWrite);
+        file.Write(bytes, (UINT)strlen(bytes));
+    }
+
+    CString m_dir;
+};
+
+} // namespace
+
+TEST_F(FileTest, OpenMissingFileReportsFileNotFound)
+{
+    CFile file;
+    CFileException error;
+    CString path = PathOf(L"missing.bin");
+    EXPECT_FALSE(file.Open(path, CFile::modeRead, &error));
+    EXPECT_EQ(error.m_cause, CFileException::fileNotFound);
+    EXPECT_EQ(error.m_lOsError, (LONG)ERROR_FILE_NOT_FOUND);
+    EXPECT_STREQ(error.m_strFileName, path);
+    EXPECT_EQ(file.m_hFile, CFile::hFileNull);
+    EXPECT_FALSE(file.Open(path, CFile::modeRead)); // no exception object: just FALSE
+}
+
+TEST_F(FileTest, OpenInMissingFolderReportsBadPath)
+{
+    CFile file;
+    CFileException error;
+    CString path = PathOf(L"no_such_folder\\x.bin");
+    EXPECT_FALSE(file.Open(path, CFile::modeCreate | CFile::modeWrite, &error));
+    EXPECT_EQ(error.m_cause, CFileException::badPath);
+    EXPECT_STREQ(error.m_strFileName, path);
+    EXPECT_FALSE(file.Open(L"", CFile::modeRead, &error));
+    EXPECT_EQ(error.m_cause, CFileException::badPath);
+}
+
+TEST_F(FileTest, ConstructorThrowsWithCauseAndName)
+{
+    CString path = PathOf(L"absent.txt");
+    try
+    {
+        CFile file(path, CFile::modeRead | CFile::shareDenyNone);
+        FAIL() << "opened a missing file";
+    }
+    catch (CFileException* e)
+    {
+        EXPECT_EQ(e->m_cause, CFileException::fileNotFound);
+        EXPECT_STREQ(e->m_strFileName, path);
+        e->Delete();
+    }
+}
+
+TEST_F(FileTest, WriteSeekReadAndShortRead)
+{
+    CFile file(PathOf(L"data.bin"), CFile::modeCreate | CFile::modeReadWrite);
+    file.Write("0123456789", 10);
+    EXPECT_EQ(file.GetLength(), 10u);
+    EXPECT_EQ(file.GetPosition(), 10u);
+    file.SeekToBegin();
+    char buffer[32] = {};
+    EXPECT_EQ(file.Read(buffer, 4), 4u);
+    EXPECT_EQ(std::string(buffer, 4), "0123");
+    EXPECT_EQ(file.Seek(-3, CFile::end), 7u);
+    EXPECT_EQ(file.Read(buffer, sizeof(buffer)), 3u); // short read at the end: no exception
+    EXPECT_EQ(std::string(buffer, 3), "789");
+    EXPECT_EQ(file.Read(buffer, sizeof(buffer)), 0u);
+    EXPECT_EQ(file.Seek(2, CFile::begin), 2u);
+    EXPECT_EQ(file.Seek(3, CFile::current), 5u);
+    EXPECT_EQ(file.SeekToEnd(), 10u);
+    EXPECT_EQ(file.Read(buffer, 0), 0u);
+    file.SetLength(4);
+    EXPECT_EQ(file.GetLength(), 4u);
+    file.Flush();
+    file.Close();
+    EXPECT_EQ(file.m_hFile, CFile::hFileNull);
+}
+
+TEST_F(FileTest, SeekBeforeTheStartThrows)
+{
+    CFile file(PathOf(L"seek.bin"), CFile::modeCreate | CFile::modeReadWrite);
+    file.Write("abc", 3);
+    try
+    {
+        file.Seek(-10, CFile::begin);
+        FAIL() << "seek before the start accepted";
+    }
+    catch (CFileException* e)
+    {
+        EXPECT_EQ(e->m_cause, CFileException::badSeek);
+        EXPECT_STREQ(e->m_strFileName, file.GetFilePath());
+        e->Delete();
+    }
+    EXPECT_EQ(file.GetPosition(), 3u);
+}
+
+TEST_F(FileTest, OperationsOnAClosedFileThrowInvalidFile)
+{
+    CFile file;
+    char buffer[4];
+    try
+    {
+        file.Read(buffer, sizeof(buffer));
+        FAIL() << "read from a closed file";
+    }
+    catch (CFileException* e)
+    {
+        EXPECT_EQ(e->m_cause, CFileException::invalidFile);
+        e->Delete();
+    }
+    try
+    {
+        file.Write("x", 1);
+        FAIL() << "write to a closed file";
+    }
+    catch (CFileException* e)
+    {
+        EXPECT_EQ(e->m_cause, CFileException::invalidFile);
+        e->Delete();
+    }
+    file.Close(); // closing twice is harmless
+    file.Flush();
+}
+
+TEST_F(FileTest, ReadingAWriteOnlyFileIsAccessDenied)
+{
+    CFile file(PathOf(L"wo.bin"), CFile::modeCreate | CFile::modeWrite);
+    file.Write("abc", 3);
+    file.SeekToBegin();
+    char buffer[4];
+    try
+    {
+        file.Read(buffer, 3);
+        FAIL() << "read from a write-only file";
+    }
+    catch (CFileException* e)
+    {
+        EXPECT_EQ(e->m_cause, CFileException::accessDenied);
+        e->Delete();
+    }
+}
+
+TEST_F(FileTest, ShareDenyWriteBlocksASecondWriter)
+{
+    CFile first(PathOf(L"shared.bin"), CFile::modeCreate | CFile::modeWrite | CFile::shareDenyWrite);
+    CFile second;
+    CFileException error;
+    EXPECT_FALSE(second.Open(PathOf(L"shared.bin"), CFile::modeWrite | CFile::shareDenyNone, &error));
+    EXPECT_EQ(error.m_cause, CFileException::sharingViolation);
+}
+
+TEST_F(FileTest, CreateTruncatesUnlessNoTruncate)
+{
+    WriteFile(L"t.txt", "long content");
+    {
+        CFile file(PathOf(L"t.txt"), CFile::modeCreate | CFile::modeNoTruncate | CFile::modeReadWrite);
+        EXPECT_EQ(file.GetLength(), 12u);
+    }
+    CFile file(PathOf(L"t.txt"), CFile::modeCreate | CFile::modeReadWrite);
+    EXPECT_EQ(file.GetLength(), 0u);
+}
+
+TEST_F(FileTest, NamesOfTheOpenFile)
+{
+    WriteFile(L"report.final.txt", "x");
+    CFile file(PathOf(L"report.final.txt"), CFile::modeRead);
+    EXPECT_STREQ(file.GetFilePath(), PathOf(L"report.final.txt"));
+    EXPECT_STREQ(file.GetFileName(), L"report.final.txt");
+    // GetFileTitle asks the shell; with or without extension the name part is first.
+    EXPECT_EQ(file.GetFileTitle().Find(L"report.final"), 0);
+    file.SetFilePath(L"C:\\elsewhere\\name.bin");
+    EXPECT_STREQ(file.GetFileName(), L"name.bin");
+}
+
+TEST_F(FileTest, DuplicateSharesThePosition)
+{
+    CFile file(PathOf(L"dup.bin"), CFile::modeCreate | CFile::modeReadWrite);
+    file.Write("abcdef", 6);
+    CFile* pCopy = file.Duplicate();
+    ASSERT_NE(pCopy, nullptr);
+    EXPECT_EQ(pCopy->GetPosition(), 6u);
+    pCopy->SeekToBegin();
+    EXPECT_EQ(file.GetPosition(), 0u);
+    EXPECT_STREQ(pCopy->GetFilePath(), file.GetFilePath());
+    delete pCopy;
+    file.Write("g", 1); // the original handle still works
+}
+
+TEST_F(FileTest, RenameAndRemove)
+{
+    WriteFile(L"old.txt", "x");
+    CFile::Rename(PathOf(L"old.txt"), PathOf(L"new.txt"));
+    CFileFind finder;
+    EXPECT_FALSE(finder.FindFile(PathOf(L"old.txt")));
+    EXPECT_TRUE(finder.FindFile(PathOf(L"new.txt")));
+    finder.Close();
+    CFile::Remove(PathOf(L"new.txt"));
+    try
+    {
+        CFile::Remove(PathOf(L"new.txt"));
+        FAIL() << "removed a missing file";
+    }
+    catch (CFileException* e)
+    {
+        EXPECT_EQ(e->m_cause, CFileException::fileNotFound);
+        EXPECT_STREQ(e->m_strFileName, PathOf(L"new.txt"));
+        e->Delete();
+    }
+}
+
+TEST_F(FileTest, FindFilesByPattern)
+{
+    WriteFile(L"a.txt", "12345");
+    WriteFile(L"b.txt", "1");
+    WriteFile(L"c.dat", "1");
+    CreateDirectoryW(PathOf(L"sub"), NULL);
+
+    CFileFind finder;
+    std::vector<CString> names;
+    for (BOOL more = finder.FindFile(PathOf(L"*.txt")); more;)
+    {
+        more = finder.FindNextFile();
+        names.push_back(finder.GetFileName());
+        EXPECT_FALSE(finder.IsDirectory());
+        EXPECT_STREQ(finder.GetFilePath(), PathOf(finder.GetFileName()));
+        EXPECT_STREQ(finder.GetRoot(), m_dir);
+        if (finder.GetFileName() == L"a.txt")
+        {
+            EXPECT_EQ(finder.GetLength(), 5u);
+            EXPECT_STREQ(finder.GetFileTitle(), L"a");
+            FILETIME written = {};
+            EXPECT_TRUE(finder.GetLastWriteTime(&written));
+            EXPECT_TRUE(written.dwHighDateTime != 0 || written.dwLowDateTime != 0);
+        }
+    }
+    std::sort(names.begin(), names.end(), [](const CString& x, const CString& y) { return x < y; });
+    ASSERT_EQ(names.size(), 2u);
+    EXPECT_STREQ(names[0], L"a.txt");
+    EXPECT_STREQ(names[1], L"b.txt");
+}
+
+TEST_F(FileTest, FindFoldersAndDots)
+{
+    CreateDirectoryW(PathOf(L"sub"), NULL);
+    WriteFile(L"file.txt", "x");
+    CFileFind finder;
+    int nDots = 0, nFolders = 0, nFiles = 0;
+    for (BOOL more = finder.FindFile(PathOf(L"*")); more;)
+    {
+        more = finder.FindNextFile();
+        if (finder.IsDots())
+            ++nDots;
+        else if (finder.IsDirectory())
+            ++nFolders;
+        else
+            ++nFiles;
+    }
+    EXPECT_EQ(nDots, 2);
+    EXPECT_EQ(nFolders, 1);
+    EXPECT_EQ(nFiles, 1);
+
+    // A folder is found by its own name too (existence tests of markers rely on it).
+    ASSERT_TRUE(finder.FindFile(PathOf(L"sub")));
+    EXPECT_FALSE(finder.FindNextFile());
+    EXPECT_TRUE(finder.IsDirectory());
+    EXPECT_FALSE(finder.IsDots());
+    EXPECT_TRUE(finder.MatchesMask(FILE_ATTRIBUTE_DIRECTORY));
+}
+
+TEST_F(FileTest, FindWithADoubledBackslash)
+{
+    WriteFile(L"Fonts.ini", "x");
+    CString path = m_dir + L"\\\\Fonts.ini";
+    CFileFind finder;
+    EXPECT_TRUE(finder.FindFile(path));
+    finder.FindNextFile();
+    EXPECT_STREQ(finder.GetFileName(), L"Fonts.ini");
+}
+
+TEST_F(FileTest, FindNothingAndAccessorsBeforeTheFirstMatch)
+{
+    CFileFind finder;
+    EXPECT_FALSE(finder.FindFile(PathOf(L"*.none")));
+    EXPECT_FALSE(finder.FindNextFile());
+    EXPECT_FALSE(finder.FindFile(L""));
+    WriteFile(L"one.txt", "x");
+    ASSERT_TRUE(finder.FindFile(PathOf(L"one.txt")));
+    EXPECT_TRUE(finder.GetFileName().IsEmpty()); // nothing current before FindNextFile
+    EXPECT_FALSE(finder.IsDirectory());
+    EXPECT_EQ(finder.GetLength(), 0u);
+    EXPECT_FALSE(finder.FindNextFile()); // the match just made current is the last
+    EXPECT_STREQ(finder.GetFileName(), L"one.txt");
+    EXPECT_STREQ(finder.GetFileURL(), L"file://" + PathOf(L"one.txt"));
+    finder.Close();
+    EXPECT_TRUE(finder.GetFileName().IsEmpty());
+}

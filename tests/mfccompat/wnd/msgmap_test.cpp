@@ -1,0 +1,583 @@
+// Message-map dispatch: every macro family reaches its handler with the arguments cracked
+// from wParam/lParam as documented, and the handler's return value becomes the result.
+#include "wnd_test_support.h"
+
+#include <sstream>
+#include <vector>
+
+namespace {
+
+const UINT WM_TEST_APP = WM_APP + 7;
+const UINT g_registeredMessage = ::RegisterWindowMessageW(L"ZoAfxWndTestRegistered");
+
+enum
+{
+    ID_FIRST_COMMAND = 100,
+    ID_RANGE_FIRST = 200,
+    ID_RANGE_LAST = 210,
+    ID_EX_COMMAND = 300,
+    IDC_BUTTON = 50,
+    IDC_EDIT = 51,
+    IDC_LIST = 60,
+    IDC_LIST_LAST = 70,
+};
+
+std::string Name(const CWnd* wnd, const CWnd* self)
+{
+    if (wnd == NULL)
+        return "null";
+    if (wnd->m_hWnd == self->m_hWnd)
+        return "self";
+    return "other";
+}
+
+class CRecordWnd : public CWnd
+{
+public:
+    std::vector<std::string> calls;
+    HWND otherWindow = NULL;
+    HBRUSH brush = reinterpret_cast<HBRUSH>(::GetStockObject(GRAY_BRUSH));
+    HDC paintDC = NULL;
+    BOOL exResult = FALSE;
+
+    std::string Last() const { return calls.empty() ? std::string("<none>") : calls.back(); }
+
+    template <class... T>
+    void Record(const char* name, T... args)
+    {
+        std::ostringstream text;
+        text << name;
+        ((text << ' ' << args), ...);
+        calls.push_back(text.str());
+    }
+
+    using CWnd::Default;
+
+protected:
+    afx_msg void OnSize(UINT nType, int cx, int cy) { Record("OnSize", nType, cx, cy); }
+    afx_msg void OnMove(int x, int y) { Record("OnMove", x, y); }
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point) { Record("OnLButtonDown", nFlags, point.x, point.y); }
+    afx_msg void OnRButtonDblClk(UINT nFlags, CPoint point) { Record("OnRButtonDblClk", nFlags, point.x, point.y); }
+    afx_msg void OnMouseMove(UINT nFlags, CPoint point) { Record("OnMouseMove", nFlags, point.x, point.y); }
+    afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt)
+    {
+        Record("OnMouseWheel", nFlags, zDelta, pt.x, pt.y);
+        return TRUE;
+    }
+    afx_msg void OnMouseHover(UINT nFlags, CPoint point) { Record("OnMouseHover", nFlags, point.x, point.y); }
+    afx_msg void OnMouseLeave() { Record("OnMouseLeave"); }
+    afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) { Record("OnKeyDown", nChar, nRepCnt, nFlags); }
+    afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags) { Record("OnChar", nChar, nRepCnt, nFlags); }
+    afx_msg void OnSysKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) { Record("OnSysKeyDown", nChar, nRepCnt, nFlags); }
+    afx_msg void OnTimer(UINT_PTR nIDEvent) { Record("OnTimer", nIDEvent); }
+    afx_msg BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message)
+    {
+        Record("OnSetCursor", Name(pWnd, this), nHitTest, message);
+        return TRUE;
+    }
+    afx_msg LRESULT OnNcHitTest(CPoint point)
+    {
+        Record("OnNcHitTest", point.x, point.y);
+        return HTCAPTION;
+    }
+    afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized)
+    {
+        Record("OnActivate", nState, Name(pWndOther, this), bMinimized);
+    }
+    afx_msg void OnSetFocus(CWnd* pOldWnd) { Record("OnSetFocus", Name(pOldWnd, this)); }
+    afx_msg void OnKillFocus(CWnd* pNewWnd) { Record("OnKillFocus", Name(pNewWnd, this)); }
+    afx_msg void OnCaptureChanged(CWnd* pWnd) { Record("OnCaptureChanged", Name(pWnd, this)); }
+    afx_msg BOOL OnEraseBkgnd(CDC* pDC)
+    {
+        Record("OnEraseBkgnd", pDC != NULL && pDC->m_hDC == paintDC ? "dc" : "wrong-dc");
+        return TRUE;
+    }
+    afx_msg UINT OnGetDlgCode() { Record("OnGetDlgCode"); return DLGC_WANTARROWS | DLGC_WANTCHARS; }
+    afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
+    {
+        Record("OnHScroll", nSBCode, nPos, pScrollBar == NULL ? "null" : "bar");
+    }
+    afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor)
+    {
+        Record("OnCtlColor", pDC != NULL && pDC->m_hDC == paintDC ? "dc" : "wrong-dc",
+               pWnd != NULL && pWnd->m_hWnd == otherWindow ? "other" : "wrong", nCtlColor);
+        return brush;
+    }
+    afx_msg void OnShowWindow(BOOL bShow, UINT nStatus) { Record("OnShowWindow", bShow, nStatus); }
+    afx_msg void OnEnable(BOOL bEnable) { Record("OnEnable", bEnable); }
+    afx_msg void OnSysCommand(UINT nID, LPARAM lParam) { Record("OnSysCommand", nID, lParam); }
+    afx_msg void OnContextMenu(CWnd* pWnd, CPoint pos) { Record("OnContextMenu", Name(pWnd, this), pos.x, pos.y); }
+    afx_msg BOOL OnNcActivate(BOOL bActive)
+    {
+        Record("OnNcActivate", bActive);
+        return TRUE;
+    }
+    afx_msg void OnNcLButtonDown(UINT nHitTest, CPoint point) { Record("OnNcLButtonDown", nHitTest, point.x, point.y); }
+    afx_msg void OnNcMouseMove(UINT nHitTest, CPoint point) { Record("OnNcMouseMove", nHitTest, point.x, point.y); }
+    afx_msg void OnNcMouseLeave() { Record("OnNcMouseLeave"); }
+    afx_msg void OnNcCalcSize(BOOL bCalcValidRects, NCCALCSIZE_PARAMS* lpncsp)
+    {
+        Record("OnNcCalcSize", bCalcValidRects, lpncsp != NULL ? lpncsp->rgrc[0].right : -1);
+    }
+    afx_msg void OnGetMinMaxInfo(MINMAXINFO* lpMMI)
+    {
+        Record("OnGetMinMaxInfo");
+        lpMMI->ptMinTrackSize.x = 77;
+    }
+    afx_msg void OnSizing(UINT fwSide, LPRECT pRect) { Record("OnSizing", fwSide, pRect->right); }
+    afx_msg void OnWindowPosChanging(WINDOWPOS* lpwndpos) { Record("OnWindowPosChanging", lpwndpos->cx); }
+    afx_msg void OnSettingChange(UINT uFlags, LPCTSTR lpszSection)
+    {
+        Record("OnSettingChange", uFlags, wndtest::Narrow(lpszSection));
+    }
+    afx_msg void OnSysColorChange() { Record("OnSysColorChange"); }
+    afx_msg void OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct)
+    {
+        Record("OnDrawItem", nIDCtl, lpDrawItemStruct->itemID);
+    }
+    afx_msg void OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct)
+    {
+        Record("OnMeasureItem", nIDCtl);
+        lpMeasureItemStruct->itemHeight = 19;
+    }
+    afx_msg void OnMenuSelect(UINT nItemID, UINT nFlags, HMENU hSysMenu)
+    {
+        Record("OnMenuSelect", nItemID, nFlags, hSysMenu == NULL ? "null" : "menu");
+    }
+    afx_msg void OnUpdateUIState(UINT nAction, UINT nUIElement) { Record("OnUpdateUIState", nAction, nUIElement); }
+    afx_msg void OnActivateApp(BOOL bActive, DWORD dwThreadID) { Record("OnActivateApp", bActive, dwThreadID); }
+    afx_msg void OnDropFiles(HDROP hDropInfo) { Record("OnDropFiles", hDropInfo == NULL ? "null" : "drop"); }
+    afx_msg void OnClose() { Record("OnClose"); }
+    afx_msg LRESULT OnTestApp(WPARAM wParam, LPARAM lParam)
+    {
+        Record("OnTestApp", wParam, lParam);
+        return 1234;
+    }
+    afx_msg LRESULT OnRegistered(WPARAM wParam, LPARAM lParam)
+    {
+        Record("OnRegistered", wParam, lParam);
+        return 99;
+    }
+    afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam)
+    {
+        Record("OnPrintClient", reinterpret_cast<HDC>(wParam) == paintDC ? "dc" : "wrong-dc", lParam);
+        return 0;
+    }
+    afx_msg void OnFirstCommand() { Record("OnFirstCommand"); }
+    afx_msg void OnRangeCommand(UINT nID) { Record("OnRangeCommand", nID); }
+    afx_msg BOOL OnExCommand(UINT nID)
+    {
+        Record("OnExCommand", nID);
+        return exResult;
+    }
+    afx_msg void OnExFallback() { Record("OnExFallback"); }
+    afx_msg void OnButtonClicked() { Record("OnButtonClicked"); }
+    afx_msg void OnEditChange() { Record("OnEditChange"); }
+    afx_msg void OnListClick(NMHDR* pNMHDR, LRESULT* pResult)
+    {
+        Record("OnListClick", pNMHDR->idFrom);
+        *pResult = 42;
+    }
+    afx_msg void OnListRange(UINT id, NMHDR* pNMHDR, LRESULT* pResult)
+    {
+        Record("OnListRange", id, static_cast<int>(pNMHDR->code));
+        *pResult = 43;
+    }
+    afx_msg BOOL OnListEx(UINT id, NMHDR*, LRESULT* pResult)
+    {
+        Record("OnListEx", id);
+        *pResult = 44;
+        return exResult;
+    }
+    afx_msg void OnListExFallback(NMHDR*, LRESULT* pResult)
+    {
+        Record("OnListExFallback");
+        *pResult = 45;
+    }
+
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CRecordWnd, CWnd)
+    ON_WM_SIZE()
+    ON_WM_MOVE()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_RBUTTONDBLCLK()
+    ON_WM_MOUSEMOVE()
+    ON_WM_MOUSEWHEEL()
+    ON_WM_MOUSEHOVER()
+    ON_WM_MOUSELEAVE()
+    ON_WM_KEYDOWN()
+    ON_WM_CHAR()
+    ON_WM_SYSKEYDOWN()
+    ON_WM_TIMER()
+    ON_WM_SETCURSOR()
+    ON_WM_NCHITTEST()
+    ON_WM_ACTIVATE()
+    ON_WM_SETFOCUS()
+    ON_WM_KILLFOCUS()
+    ON_WM_CAPTURECHANGED()
+    ON_WM_ERASEBKGND()
+    ON_WM_GETDLGCODE()
+    ON_WM_HSCROLL()
+    ON_WM_CTLCOLOR()
+    ON_WM_SHOWWINDOW()
+    ON_WM_ENABLE()
+    ON_WM_SYSCOMMAND()
+    ON_WM_CONTEXTMENU()
+    ON_WM_NCACTIVATE()
+    ON_WM_NCLBUTTONDOWN()
+    ON_WM_NCMOUSEMOVE()
+    ON_WM_NCMOUSELEAVE()
+    ON_WM_NCCALCSIZE()
+    ON_WM_GETMINMAXINFO()
+    ON_WM_SIZING()
+    ON_WM_WINDOWPOSCHANGING()
+    ON_WM_SETTINGCHANGE()
+    ON_WM_SYSCOLORCHANGE()
+    ON_WM_DRAWITEM()
+    ON_WM_MEASUREITEM()
+    ON_WM_MENUSELECT()
+    ON_WM_UPDATEUISTATE()
+    ON_WM_ACTIVATEAPP()
+    ON_WM_DROPFILES()
+    ON_WM_CLOSE()
+    ON_MESSAGE(WM_TEST_APP, OnTestApp)
+    ON_MESSAGE(WM_PRINTCLIENT, OnPrintClient)
+    ON_REGISTERED_MESSAGE(g_registeredMessage, OnRegistered)
+    ON_COMMAND(ID_FIRST_COMMAND, OnFirstCommand)
+    ON_COMMAND_RANGE(ID_RANGE_FIRST, ID_RANGE_LAST, OnRangeCommand)
+    ON_COMMAND_EX(ID_EX_COMMAND, OnExCommand)
+    ON_COMMAND(ID_EX_COMMAND, OnExFallback)
+    ON_BN_CLICKED(IDC_BUTTON, OnButtonClicked)
+    ON_EN_CHANGE(IDC_EDIT, OnEditChange)
+    ON_NOTIFY(NM_CLICK, IDC_LIST, OnListClick)
+    ON_NOTIFY_RANGE(NM_DBLCLK, IDC_LIST, IDC_LIST_LAST, OnListRange)
+    ON_NOTIFY_EX(NM_RCLICK, IDC_LIST, OnListEx)
+    ON_NOTIFY(NM_RCLICK, IDC_LIST, OnListExFallback)
+END_MESSAGE_MAP()
+
+class MessageMapTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(wnd.CreateEx(0, AfxRegisterWndClass(0), L"record", WS_POPUP, 0, 0, 200, 100, NULL, NULL));
+        other = wndtest::CreatePlainWindow(L"STATIC", WS_POPUP);
+        wnd.otherWindow = other;
+        wnd.paintDC = ::CreateCompatibleDC(NULL);
+        wnd.calls.clear();
+    }
+    void TearDown() override
+    {
+        ::DeleteDC(wnd.paintDC);
+        ::DestroyWindow(other);
+        wnd.DestroyWindow();
+    }
+    LRESULT Send(UINT message, WPARAM wParam, LPARAM lParam)
+    {
+        return ::SendMessageW(wnd.m_hWnd, message, wParam, lParam);
+    }
+    // A child control window that sends notifications to the recorder.
+    HWND Child(LPCWSTR className, int id)
+    {
+        return wndtest::CreatePlainWindow(className, WS_CHILD, wnd.m_hWnd, id);
+    }
+    LRESULT Notify(HWND from, UINT code)
+    {
+        NMHDR header = { from, static_cast<UINT_PTR>(::GetDlgCtrlID(from)), code };
+        return Send(WM_NOTIFY, header.idFrom, reinterpret_cast<LPARAM>(&header));
+    }
+
+    CRecordWnd wnd;
+    HWND other = NULL;
+};
+
+// ---- mouse and keyboard ----
+
+TEST_F(MessageMapTest, SizeAndMoveCrackTheirCoordinates)
+{
+    Send(WM_SIZE, SIZE_MAXIMIZED, MAKELPARAM(300, 200));
+    EXPECT_EQ("OnSize 2 300 200", wnd.Last());
+    Send(WM_MOVE, 0, MAKELPARAM(static_cast<WORD>(-5), 7));
+    EXPECT_EQ("OnMove -5 7", wnd.Last());
+}
+
+TEST_F(MessageMapTest, MouseButtonsGetFlagsAndSignedPoint)
+{
+    Send(WM_LBUTTONDOWN, MK_LBUTTON | MK_SHIFT, MAKELPARAM(static_cast<WORD>(-3), 40));
+    EXPECT_EQ("OnLButtonDown 5 -3 40", wnd.Last());
+    Send(WM_RBUTTONDBLCLK, MK_RBUTTON, MAKELPARAM(11, 12));
+    EXPECT_EQ("OnRButtonDblClk 2 11 12", wnd.Last());
+    Send(WM_MOUSEMOVE, 0, MAKELPARAM(1, 2));
+    EXPECT_EQ("OnMouseMove 0 1 2", wnd.Last());
+    Send(WM_MOUSEHOVER, MK_CONTROL, MAKELPARAM(8, 9));
+    EXPECT_EQ("OnMouseHover 8 8 9", wnd.Last());
+    Send(WM_MOUSELEAVE, 0, 0);
+    EXPECT_EQ("OnMouseLeave", wnd.Last());
+}
+
+TEST_F(MessageMapTest, MouseWheelSplitsFlagsAndDeltaAndReturnsTheHandlersAnswer)
+{
+    EXPECT_EQ(TRUE, Send(WM_MOUSEWHEEL, MAKEWPARAM(MK_SHIFT, static_cast<WORD>(-120)), MAKELPARAM(10, 20)));
+    EXPECT_EQ("OnMouseWheel 4 -120 10 20", wnd.Last());
+}
+
+TEST_F(MessageMapTest, KeyMessagesSplitRepeatCountAndFlags)
+{
+    Send(WM_KEYDOWN, 'A', 0x001E0003);
+    EXPECT_EQ("OnKeyDown 65 3 30", wnd.Last());
+    Send(WM_CHAR, 'a', 0x801E0001);
+    EXPECT_EQ("OnChar 97 1 32798", wnd.Last());
+    Send(WM_SYSKEYDOWN, VK_F10, 0x20440001);
+    EXPECT_EQ("OnSysKeyDown 121 1 8260", wnd.Last());
+}
+
+// ---- window state ----
+
+TEST_F(MessageMapTest, WindowArgumentsArriveAsCWndObjects)
+{
+    Send(WM_ACTIVATE, MAKEWPARAM(WA_CLICKACTIVE, 1), reinterpret_cast<LPARAM>(other));
+    EXPECT_EQ("OnActivate 2 other 1", wnd.Last());
+    Send(WM_SETFOCUS, reinterpret_cast<WPARAM>(other), 0);
+    EXPECT_EQ("OnSetFocus other", wnd.Last());
+    Send(WM_KILLFOCUS, 0, 0);
+    EXPECT_EQ("OnKillFocus null", wnd.Last());
+    Send(WM_CAPTURECHANGED, 0, reinterpret_cast<LPARAM>(other));
+    EXPECT_EQ("OnCaptureChanged other", wnd.Last());
+    EXPECT_EQ(TRUE, Send(WM_SETCURSOR, reinterpret_cast<WPARAM>(wnd.m_hWnd), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE)));
+    EXPECT_EQ("OnSetCursor self 1 512", wnd.Last());
+    Send(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(wnd.m_hWnd), MAKELPARAM(0xFFFF, 0xFFFF));
+    EXPECT_EQ("OnContextMenu self -1 -1", wnd.Last());
+}
+
+TEST_F(MessageMapTest, StateMessagesPassTheirFlags)
+{
+    Send(WM_SHOWWINDOW, TRUE, SW_PARENTOPENING);
+    EXPECT_EQ("OnShowWindow 1 3", wnd.Last());
+    Send(WM_ENABLE, FALSE, 0);
+    EXPECT_EQ("OnEnable 0", wnd.Last());
+    Send(WM_SYSCOMMAND, SC_KEYMENU, 0x20);
+    EXPECT_EQ("OnSysCommand 61696 32", wnd.Last());
+    Send(WM_UPDATEUISTATE, MAKEWPARAM(UIS_SET, UISF_HIDEFOCUS), 0);
+    EXPECT_EQ("OnUpdateUIState 1 1", wnd.Last());
+    Send(WM_ACTIVATEAPP, TRUE, 1234);
+    EXPECT_EQ("OnActivateApp 1 1234", wnd.Last());
+    Send(WM_SETTINGCHANGE, SPI_SETWORKAREA, reinterpret_cast<LPARAM>(L"Policy"));
+    EXPECT_EQ("OnSettingChange 47 Policy", wnd.Last());
+    Send(WM_SYSCOLORCHANGE, 0, 0);
+    EXPECT_EQ("OnSysColorChange", wnd.Last());
+    Send(WM_DROPFILES, 0, 0);
+    EXPECT_EQ("OnDropFiles null", wnd.Last());
+    Send(WM_CLOSE, 0, 0);
+    EXPECT_EQ("OnClose", wnd.Last());
+    EXPECT_TRUE(::IsWindow(wnd.m_hWnd)) << "a handled WM_CLOSE does not reach DefWindowProc";
+}
+
+TEST_F(MessageMapTest, TimerAndDialogCodeHandlers)
+{
+    Send(WM_TIMER, 77, 0);
+    EXPECT_EQ("OnTimer 77", wnd.Last());
+    EXPECT_EQ(static_cast<LRESULT>(DLGC_WANTARROWS | DLGC_WANTCHARS), Send(WM_GETDLGCODE, 0, 0));
+    EXPECT_EQ("OnGetDlgCode", wnd.Last());
+}
+
+TEST_F(MessageMapTest, PositionMessagesHandTheirStructures)
+{
+    MINMAXINFO info = {};
+    Send(WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&info));
+    EXPECT_EQ("OnGetMinMaxInfo", wnd.Last());
+    EXPECT_EQ(77, info.ptMinTrackSize.x);
+    RECT sizing = { 0, 0, 321, 10 };
+    Send(WM_SIZING, WMSZ_RIGHT, reinterpret_cast<LPARAM>(&sizing));
+    EXPECT_EQ("OnSizing 2 321", wnd.Last());
+    WINDOWPOS pos = {};
+    pos.cx = 55;
+    Send(WM_WINDOWPOSCHANGING, 0, reinterpret_cast<LPARAM>(&pos));
+    EXPECT_EQ("OnWindowPosChanging 55", wnd.Last());
+}
+
+// ---- non-client area ----
+
+TEST_F(MessageMapTest, NonClientMessages)
+{
+    EXPECT_EQ(HTCAPTION, Send(WM_NCHITTEST, 0, MAKELPARAM(5, 6)));
+    EXPECT_EQ("OnNcHitTest 5 6", wnd.Last());
+    EXPECT_EQ(TRUE, Send(WM_NCACTIVATE, FALSE, 0));
+    EXPECT_EQ("OnNcActivate 0", wnd.Last());
+    Send(WM_NCLBUTTONDOWN, HTCAPTION, MAKELPARAM(400, 300));
+    EXPECT_EQ("OnNcLButtonDown 2 400 300", wnd.Last());
+    Send(WM_NCMOUSEMOVE, HTBORDER, MAKELPARAM(1, 2));
+    EXPECT_EQ("OnNcMouseMove 18 1 2", wnd.Last());
+    Send(WM_NCMOUSELEAVE, 0, 0);
+    EXPECT_EQ("OnNcMouseLeave", wnd.Last());
+    NCCALCSIZE_PARAMS params = {};
+    params.rgrc[0].right = 640;
+    Send(WM_NCCALCSIZE, TRUE, reinterpret_cast<LPARAM>(&params));
+    EXPECT_EQ("OnNcCalcSize 1 640", wnd.Last());
+}
+
+// ---- painting ----
+
+TEST_F(MessageMapTest, EraseBackgroundGetsTheDeviceContextAsCDC)
+{
+    EXPECT_EQ(TRUE, Send(WM_ERASEBKGND, reinterpret_cast<WPARAM>(wnd.paintDC), 0));
+    EXPECT_EQ("OnEraseBkgnd dc", wnd.Last());
+}
+
+TEST_F(MessageMapTest, EveryControlColorMessageReachesOnCtlColorWithItsType)
+{
+    const struct { UINT message; UINT type; } cases[] = {
+        { WM_CTLCOLORMSGBOX, CTLCOLOR_MSGBOX }, { WM_CTLCOLOREDIT, CTLCOLOR_EDIT },
+        { WM_CTLCOLORLISTBOX, CTLCOLOR_LISTBOX }, { WM_CTLCOLORBTN, CTLCOLOR_BTN },
+        { WM_CTLCOLORDLG, CTLCOLOR_DLG }, { WM_CTLCOLORSCROLLBAR, CTLCOLOR_SCROLLBAR },
+        { WM_CTLCOLORSTATIC, CTLCOLOR_STATIC },
+    };
+    for (const auto& c : cases)
+    {
+        LRESULT result = Send(c.message, reinterpret_cast<WPARAM>(wnd.paintDC), reinterpret_cast<LPARAM>(other));
+        EXPECT_EQ(reinterpret_cast<LRESULT>(wnd.brush), result);
+        EXPECT_EQ("OnCtlColor dc other " + std::to_string(c.type), wnd.Last());
+    }
+}
+
+TEST_F(MessageMapTest, ScrollMessageWithoutControlPassesNull)
+{
+    Send(WM_HSCROLL, MAKEWPARAM(SB_THUMBTRACK, 55), 0);
+    EXPECT_EQ("OnHScroll 5 55 null", wnd.Last());
+}
+
+TEST_F(MessageMapTest, OwnerDrawMessagesForUnknownControlsReachTheParentHandlers)
+{
+    DRAWITEMSTRUCT draw = {};
+    draw.CtlType = ODT_BUTTON;
+    draw.CtlID = 5;
+    draw.itemID = 3;
+    draw.hwndItem = other;
+    EXPECT_EQ(TRUE, Send(WM_DRAWITEM, 5, reinterpret_cast<LPARAM>(&draw)));
+    EXPECT_EQ("OnDrawItem 5 3", wnd.Last());
+    MEASUREITEMSTRUCT measure = {};
+    measure.CtlType = ODT_LISTBOX;
+    measure.CtlID = 6;
+    EXPECT_EQ(TRUE, Send(WM_MEASUREITEM, 6, reinterpret_cast<LPARAM>(&measure)));
+    EXPECT_EQ("OnMeasureItem 6", wnd.Last());
+    EXPECT_EQ(19u, measure.itemHeight);
+}
+
+TEST_F(MessageMapTest, MenuSelectSplitsItemAndFlags)
+{
+    Send(WM_MENUSELECT, MAKEWPARAM(12, MF_POPUP), 0);
+    EXPECT_EQ("OnMenuSelect 12 16 null", wnd.Last());
+}
+
+// ---- user, registered and unhandled messages ----
+
+TEST_F(MessageMapTest, OnMessageAndRegisteredMessageReturnTheHandlersResult)
+{
+    EXPECT_EQ(1234, Send(WM_TEST_APP, 5, 6));
+    EXPECT_EQ("OnTestApp 5 6", wnd.Last());
+    EXPECT_EQ(99, Send(g_registeredMessage, 7, 8));
+    EXPECT_EQ("OnRegistered 7 8", wnd.Last());
+    Send(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(wnd.paintDC), PRF_CLIENT);
+    EXPECT_EQ("OnPrintClient dc 4", wnd.Last());
+}
+
+TEST_F(MessageMapTest, UnhandledMessagesGetTheDefaultProcessing)
+{
+    wnd.SetWindowText(L"caption");
+    wchar_t text[32] = L"";
+    EXPECT_EQ(7, Send(WM_GETTEXT, 32, reinterpret_cast<LPARAM>(text)));
+    EXPECT_STREQ(L"caption", text);
+    EXPECT_TRUE(wnd.calls.empty());
+}
+
+// ---- commands and notifications ----
+
+TEST_F(MessageMapTest, CommandEntriesByIdAndRange)
+{
+    EXPECT_EQ(1, Send(WM_COMMAND, MAKEWPARAM(ID_FIRST_COMMAND, 0), 0));
+    EXPECT_EQ("OnFirstCommand", wnd.Last());
+    Send(WM_COMMAND, MAKEWPARAM(205, 1), 0);   // an accelerator
+    EXPECT_EQ("OnRangeCommand 205", wnd.Last());
+    wnd.calls.clear();
+    EXPECT_EQ(0, Send(WM_COMMAND, MAKEWPARAM(ID_RANGE_LAST + 1, 0), 0));
+    EXPECT_TRUE(wnd.calls.empty());
+}
+
+TEST_F(MessageMapTest, CommandExHandlerThatDeclinesLetsTheNextEntryHandleIt)
+{
+    wnd.exResult = TRUE;
+    Send(WM_COMMAND, MAKEWPARAM(ID_EX_COMMAND, 0), 0);
+    EXPECT_EQ((std::vector<std::string>{ "OnExCommand 300" }), wnd.calls);
+    wnd.calls.clear();
+    wnd.exResult = FALSE;
+    Send(WM_COMMAND, MAKEWPARAM(ID_EX_COMMAND, 0), 0);
+    EXPECT_EQ((std::vector<std::string>{ "OnExCommand 300", "OnExFallback" }), wnd.calls);
+}
+
+TEST_F(MessageMapTest, ControlNotificationsMatchIdAndCode)
+{
+    HWND button = Child(L"BUTTON", IDC_BUTTON);
+    HWND edit = Child(L"EDIT", IDC_EDIT);
+    Send(WM_COMMAND, MAKEWPARAM(IDC_BUTTON, BN_CLICKED), reinterpret_cast<LPARAM>(button));
+    EXPECT_EQ("OnButtonClicked", wnd.Last());
+    Send(WM_COMMAND, MAKEWPARAM(IDC_EDIT, EN_CHANGE), reinterpret_cast<LPARAM>(edit));
+    EXPECT_EQ("OnEditChange", wnd.Last());
+    wnd.calls.clear();
+    // Same id, other code: no entry.
+    EXPECT_EQ(0, Send(WM_COMMAND, MAKEWPARAM(IDC_EDIT, EN_UPDATE), reinterpret_cast<LPARAM>(edit)));
+    EXPECT_TRUE(wnd.calls.empty());
+}
+
+TEST_F(MessageMapTest, NotifyEntriesSetTheResult)
+{
+    HWND list = Child(WC_LISTVIEWW, IDC_LIST);
+    HWND list2 = Child(WC_LISTVIEWW, IDC_LIST + 3);
+    EXPECT_EQ(42, Notify(list, NM_CLICK));
+    EXPECT_EQ("OnListClick 60", wnd.Last());
+    EXPECT_EQ(43, Notify(list2, NM_DBLCLK));
+    EXPECT_EQ("OnListRange 63 -3", wnd.Last());
+}
+
+TEST_F(MessageMapTest, NotifyExHandlerThatDeclinesLetsTheNextEntryHandleIt)
+{
+    HWND list = Child(WC_LISTVIEWW, IDC_LIST);
+    wnd.exResult = TRUE;
+    EXPECT_EQ(44, Notify(list, NM_RCLICK));
+    EXPECT_EQ((std::vector<std::string>{ "OnListEx 60" }), wnd.calls);
+    wnd.calls.clear();
+    wnd.exResult = FALSE;
+    EXPECT_EQ(45, Notify(list, NM_RCLICK));
+    EXPECT_EQ((std::vector<std::string>{ "OnListEx 60", "OnListExFallback" }), wnd.calls);
+}
+
+// ---- derived maps ----
+
+class CDerivedRecordWnd : public CRecordWnd
+{
+protected:
+    afx_msg void OnSize(UINT nType, int cx, int cy)
+    {
+        Record("Derived::OnSize", nType, cx, cy);
+        CRecordWnd::OnSize(nType, cx, cy);
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CDerivedRecordWnd, CRecordWnd)
+    ON_WM_SIZE()
+END_MESSAGE_MAP()
+
+TEST(MessageMapInheritance, DerivedEntriesComeFirstAndBaseEntriesStillWork)
+{
+    CDerivedRecordWnd wnd;
+    ASSERT_TRUE(wnd.CreateEx(0, AfxRegisterWndClass(0), L"derived", WS_POPUP, 0, 0, 50, 50, NULL, NULL));
+    wnd.calls.clear();
+    wnd.SendMessage(WM_SIZE, SIZE_RESTORED, MAKELPARAM(4, 5));
+    EXPECT_EQ((std::vector<std::string>{ "Derived::OnSize 0 4 5", "OnSize 0 4 5" }), wnd.calls);
+    wnd.SendMessage(WM_TIMER, 3);
+    EXPECT_EQ("OnTimer 3", wnd.Last());
+    wnd.DestroyWindow();
+}
+
+} // namespace

@@ -1,0 +1,263 @@
+// Message reflection: notifications a control sends to its parent come back to the control's
+// own _REFLECT entries; the _EX variants that decline let the parent handle them too.
+#include "wnd_test_support.h"
+
+#include <vector>
+
+namespace {
+
+enum { IDC_CHILD = 40 };
+
+class CReflectingChild : public CWnd
+{
+public:
+    std::vector<std::string> calls;
+    HBRUSH brush = reinterpret_cast<HBRUSH>(::GetStockObject(DKGRAY_BRUSH));
+    BOOL exResult = FALSE;
+
+protected:
+    afx_msg HBRUSH CtlColor(CDC* pDC, UINT nCtlColor)
+    {
+        calls.push_back("CtlColor " + std::to_string(nCtlColor) + (pDC != NULL ? " dc" : " null"));
+        return brush;
+    }
+    afx_msg void OnClickedReflect() { calls.push_back("OnClickedReflect"); }
+    afx_msg BOOL OnDoubleClickedReflect()
+    {
+        calls.push_back("OnDoubleClickedReflect");
+        return exResult;
+    }
+    afx_msg void OnNotifyClick(NMHDR* pNMHDR, LRESULT* pResult)
+    {
+        calls.push_back("OnNotifyClick " + std::to_string(static_cast<int>(pNMHDR->code)));
+        *pResult = 7;
+    }
+    afx_msg BOOL OnNotifyDblClk(NMHDR*, LRESULT* pResult)
+    {
+        calls.push_back("OnNotifyDblClk");
+        *pResult = 8;
+        return exResult;
+    }
+    afx_msg void HScroll(UINT nSBCode, UINT nPos)
+    {
+        calls.push_back("HScroll " + std::to_string(nSBCode) + " " + std::to_string(nPos));
+    }
+    afx_msg void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
+    {
+        calls.push_back("DrawItem " + std::to_string(lpDrawItemStruct->itemID));
+    }
+    afx_msg void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct)
+    {
+        calls.push_back("MeasureItem");
+        lpMeasureItemStruct->itemHeight = 33;
+    }
+    afx_msg void ParentNotify(UINT message, LPARAM)
+    {
+        calls.push_back("ParentNotify " + std::to_string(LOWORD(message)));
+    }
+
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CReflectingChild, CWnd)
+    ON_WM_CTLCOLOR_REFLECT()
+    ON_CONTROL_REFLECT(BN_CLICKED, OnClickedReflect)
+    ON_CONTROL_REFLECT_EX(BN_DOUBLECLICKED, OnDoubleClickedReflect)
+    ON_NOTIFY_REFLECT(NM_CLICK, OnNotifyClick)
+    ON_NOTIFY_REFLECT_EX(NM_DBLCLK, OnNotifyDblClk)
+    ON_WM_HSCROLL_REFLECT()
+    ON_WM_DRAWITEM_REFLECT()
+    ON_WM_MEASUREITEM_REFLECT()
+    ON_WM_PARENTNOTIFY_REFLECT()
+END_MESSAGE_MAP()
+
+class CParentWnd : public CWnd
+{
+public:
+    std::vector<std::string> calls;
+
+protected:
+    afx_msg void OnChildClicked() { calls.push_back("Parent OnChildClicked"); }
+    afx_msg void OnChildDoubleClicked() { calls.push_back("Parent OnChildDoubleClicked"); }
+    afx_msg void OnChildDblClk(NMHDR*, LRESULT* pResult)
+    {
+        calls.push_back("Parent OnChildDblClk");
+        *pResult = 9;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CParentWnd, CWnd)
+    ON_BN_CLICKED(IDC_CHILD, OnChildClicked)
+    ON_BN_DOUBLECLICKED(IDC_CHILD, OnChildDoubleClicked)
+    ON_NOTIFY(NM_DBLCLK, IDC_CHILD, OnChildDblClk)
+END_MESSAGE_MAP()
+
+// A parent whose own OnCtlColor does not call the base class keeps the message.
+class CColoringParent : public CParentWnd
+{
+public:
+    HBRUSH brush = reinterpret_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH));
+
+protected:
+    afx_msg HBRUSH OnCtlColor(CDC*, CWnd*, UINT)
+    {
+        calls.push_back("Parent OnCtlColor");
+        return brush;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CColoringParent, CParentWnd)
+    ON_WM_CTLCOLOR()
+END_MESSAGE_MAP()
+
+class ReflectionTest : public testing::Test
+{
+protected:
+    void Build(CParentWnd& parentWnd)
+    {
+        parent = &parentWnd;
+        ASSERT_TRUE(parent->CreateEx(0, AfxRegisterWndClass(0), L"parent", WS_POPUP, 0, 0, 200, 100, NULL, NULL));
+        HWND hChild = wndtest::CreatePlainWindow(L"BUTTON", WS_CHILD | BS_OWNERDRAW, parent->m_hWnd, IDC_CHILD);
+        ASSERT_TRUE(child.SubclassWindow(hChild));
+        dc = ::CreateCompatibleDC(NULL);
+    }
+    void TearDown() override
+    {
+        // The test's parent object destroyed its window (and the child's) on leaving the test.
+        ::DeleteDC(dc);
+    }
+    LRESULT Send(UINT message, WPARAM wParam, LPARAM lParam)
+    {
+        return ::SendMessageW(parent->m_hWnd, message, wParam, lParam);
+    }
+    LRESULT Command(UINT code)
+    {
+        return Send(WM_COMMAND, MAKEWPARAM(IDC_CHILD, code), reinterpret_cast<LPARAM>(child.m_hWnd));
+    }
+    LRESULT Notify(UINT code)
+    {
+        NMHDR header = { child.m_hWnd, IDC_CHILD, code };
+        return Send(WM_NOTIFY, IDC_CHILD, reinterpret_cast<LPARAM>(&header));
+    }
+
+    CParentWnd* parent = NULL;
+    CReflectingChild child;
+    HDC dc = NULL;
+};
+
+TEST_F(ReflectionTest, ControlColorIsAnsweredByTheChild)
+{
+    CParentWnd parentWnd;
+    Build(parentWnd);
+    LRESULT result = Send(WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(child.m_hWnd));
+    EXPECT_EQ(reinterpret_cast<LRESULT>(child.brush), result);
+    EXPECT_EQ((std::vector<std::string>{ "CtlColor 3 dc" }), child.calls);
+}
+
+TEST_F(ReflectionTest, ControlColorWithNoBrushFromTheChildFallsBackToTheDefault)
+{
+    CParentWnd parentWnd;
+    Build(parentWnd);
+    child.brush = NULL;
+    LRESULT result = Send(WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(child.m_hWnd));
+    EXPECT_EQ((std::vector<std::string>{ "CtlColor 6 dc" }), child.calls);
+    // DefWindowProc's brush for statics is the system's; anything but the child's NULL.
+    EXPECT_NE(0, result);
+}
+
+TEST_F(ReflectionTest, ParentThatHandlesControlColorItselfKeepsIt)
+{
+    CColoringParent parentWnd;
+    Build(parentWnd);
+    LRESULT result = Send(WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(child.m_hWnd));
+    EXPECT_EQ(reinterpret_cast<LRESULT>(parentWnd.brush), result);
+    EXPECT_TRUE(child.calls.empty());
+    EXPECT_EQ((std::vector<std::string>{ "Parent OnCtlColor" }), parentWnd.calls);
+}
+
+TEST_F(ReflectionTest, ReflectedCommandIsTakenByTheChildFirst)
+{
+    CParentWnd parentWnd;
+    Build(parentWnd);
+    EXPECT_EQ(1, Command(BN_CLICKED));
+    EXPECT_EQ((std::vector<std::string>{ "OnClickedReflect" }), child.calls);
+    EXPECT_TRUE(parentWnd.calls.empty());
+}
+
+TEST_F(ReflectionTest, ReflectedCommandExDecidesWhetherTheParentSeesIt)
+{
+    CParentWnd parentWnd;
+    Build(parentWnd);
+    child.exResult = FALSE;
+    Command(BN_DOUBLECLICKED);
+    EXPECT_EQ((std::vector<std::string>{ "OnDoubleClickedReflect" }), child.calls);
+    EXPECT_EQ((std::vector<std::string>{ "Parent OnChildDoubleClicked" }), parentWnd.calls);
+
+    child.calls.clear();
+    parentWnd.calls.clear();
+    child.exResult = TRUE;
+    Command(BN_DOUBLECLICKED);
+    EXPECT_EQ((std::vector<std::string>{ "OnDoubleClickedReflect" }), child.calls);
+    EXPECT_TRUE(parentWnd.calls.empty());
+}
+
+TEST_F(ReflectionTest, ReflectedNotifySetsTheParentsResult)
+{
+    CParentWnd parentWnd;
+    Build(parentWnd);
+    EXPECT_EQ(7, Notify(NM_CLICK));
+    EXPECT_EQ((std::vector<std::string>{ "OnNotifyClick -2" }), child.calls);
+}
+
+TEST_F(ReflectionTest, ReflectedNotifyExDecidesWhetherTheParentSeesIt)
+{
+    CParentWnd parentWnd;
+    Build(parentWnd);
+    child.exResult = FALSE;
+    EXPECT_EQ(9, Notify(NM_DBLCLK));
+    EXPECT_EQ((std::vector<std::string>{ "OnNotifyDblClk" }), child.calls);
+    EXPECT_EQ((std::vector<std::string>{ "Parent OnChildDblClk" }), parentWnd.calls);
+
+    child.calls.clear();
+    parentWnd.calls.clear();
+    child.exResult = TRUE;
+    EXPECT_EQ(8, Notify(NM_DBLCLK));
+    EXPECT_TRUE(parentWnd.calls.empty());
+}
+
+TEST_F(ReflectionTest, ScrollDrawAndMeasureMessagesReachTheChild)
+{
+    CParentWnd parentWnd;
+    Build(parentWnd);
+    Send(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 17), reinterpret_cast<LPARAM>(child.m_hWnd));
+
+    DRAWITEMSTRUCT draw = {};
+    draw.CtlType = ODT_BUTTON;
+    draw.CtlID = IDC_CHILD;
+    draw.itemID = 4;
+    draw.hwndItem = child.m_hWnd;
+    EXPECT_EQ(TRUE, Send(WM_DRAWITEM, IDC_CHILD, reinterpret_cast<LPARAM>(&draw)));
+
+    MEASUREITEMSTRUCT measure = {};
+    measure.CtlType = ODT_BUTTON;
+    measure.CtlID = IDC_CHILD;
+    EXPECT_EQ(TRUE, Send(WM_MEASUREITEM, IDC_CHILD, reinterpret_cast<LPARAM>(&measure)));
+    EXPECT_EQ(33u, measure.itemHeight);
+
+    Send(WM_PARENTNOTIFY, MAKEWPARAM(WM_CREATE, IDC_CHILD), reinterpret_cast<LPARAM>(child.m_hWnd));
+    EXPECT_EQ((std::vector<std::string>{ "HScroll 4 17", "DrawItem 4", "MeasureItem", "ParentNotify 1" }), child.calls);
+}
+
+TEST_F(ReflectionTest, NotificationsFromControlsWithoutObjectsStayWithTheParent)
+{
+    CParentWnd parentWnd;
+    Build(parentWnd);
+    HWND plain = wndtest::CreatePlainWindow(L"BUTTON", WS_CHILD, parentWnd.m_hWnd, IDC_CHILD + 1);
+    LRESULT result = Send(WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(plain));
+    EXPECT_NE(reinterpret_cast<LRESULT>(child.brush), result);
+    EXPECT_TRUE(child.calls.empty());
+}
+
+} // namespace

@@ -4,7 +4,8 @@
 // Every ON_ macro converts the handler to a member-function pointer of the exact documented
 // type first (static_cast), so a handler with a wrong signature does not compile; the entry
 // then stores it under a uniform type together with the signature code that says how the
-// message is cracked when it is called.
+// message is cracked when it is called. Entries that take a handler take it as MFC does,
+// as a qualified member pointer: ON_BN_CLICKED(IDC_OK, &CMyDialog::OnClickedOk).
 #pragma once
 #include <afx.h>
 #include <commctrl.h>
@@ -188,36 +189,36 @@ protected: \
 
 #define ON_COMMAND(id, memberFxn) \
     { WM_COMMAND, CN_COMMAND, (WORD)(id), (WORD)(id), AfxSigCmd_v, \
-      static_cast<AFX_PMSG>(&ThisClass::memberFxn) },
+      static_cast<AFX_PMSG>(memberFxn) },
 #define ON_COMMAND_EX(id, memberFxn) \
     { WM_COMMAND, CN_COMMAND, (WORD)(id), (WORD)(id), AfxSigCmd_EX, \
-      AFX_MSGFN(BOOL (AFX_MSG_CALL CCmdTarget::*)(UINT), &ThisClass::memberFxn) },
+      AFX_MSGFN(BOOL (AFX_MSG_CALL CCmdTarget::*)(UINT), memberFxn) },
 #define ON_COMMAND_RANGE(id, idLast, memberFxn) \
     { WM_COMMAND, CN_COMMAND, (WORD)(id), (WORD)(idLast), AfxSigCmd_RANGE, \
-      AFX_MSGFN(void (AFX_MSG_CALL CCmdTarget::*)(UINT), &ThisClass::memberFxn) },
+      AFX_MSGFN(void (AFX_MSG_CALL CCmdTarget::*)(UINT), memberFxn) },
 #define ON_COMMAND_EX_RANGE(id, idLast, memberFxn) \
     { WM_COMMAND, CN_COMMAND, (WORD)(id), (WORD)(idLast), AfxSigCmd_EX, \
-      AFX_MSGFN(BOOL (AFX_MSG_CALL CCmdTarget::*)(UINT), &ThisClass::memberFxn) },
+      AFX_MSGFN(BOOL (AFX_MSG_CALL CCmdTarget::*)(UINT), memberFxn) },
 
 #define ON_CONTROL(wNotifyCode, id, memberFxn) \
     { WM_COMMAND, (WORD)(wNotifyCode), (WORD)(id), (WORD)(id), AfxSigCmd_v, \
-      static_cast<AFX_PMSG>(&ThisClass::memberFxn) },
+      static_cast<AFX_PMSG>(memberFxn) },
 #define ON_CONTROL_RANGE(wNotifyCode, id, idLast, memberFxn) \
     { WM_COMMAND, (WORD)(wNotifyCode), (WORD)(id), (WORD)(idLast), AfxSigCmd_RANGE, \
-      AFX_MSGFN(void (AFX_MSG_CALL CCmdTarget::*)(UINT), &ThisClass::memberFxn) },
+      AFX_MSGFN(void (AFX_MSG_CALL CCmdTarget::*)(UINT), memberFxn) },
 
 #define ON_NOTIFY(wNotifyCode, id, memberFxn) \
     { WM_NOTIFY, (WORD)(int)(wNotifyCode), (WORD)(id), (WORD)(id), AfxSigNotify_v, \
-      AFX_MSGFN(void (AFX_MSG_CALL CCmdTarget::*)(NMHDR*, LRESULT*), &ThisClass::memberFxn) },
+      AFX_MSGFN(void (AFX_MSG_CALL CCmdTarget::*)(NMHDR*, LRESULT*), memberFxn) },
 #define ON_NOTIFY_RANGE(wNotifyCode, id, idLast, memberFxn) \
     { WM_NOTIFY, (WORD)(int)(wNotifyCode), (WORD)(id), (WORD)(idLast), AfxSigNotify_RANGE, \
-      AFX_MSGFN(void (AFX_MSG_CALL CCmdTarget::*)(UINT, NMHDR*, LRESULT*), &ThisClass::memberFxn) },
+      AFX_MSGFN(void (AFX_MSG_CALL CCmdTarget::*)(UINT, NMHDR*, LRESULT*), memberFxn) },
 #define ON_NOTIFY_EX(wNotifyCode, id, memberFxn) \
     { WM_NOTIFY, (WORD)(int)(wNotifyCode), (WORD)(id), (WORD)(id), AfxSigNotify_EX, \
-      AFX_MSGFN(BOOL (AFX_MSG_CALL CCmdTarget::*)(UINT, NMHDR*, LRESULT*), &ThisClass::memberFxn) },
+      AFX_MSGFN(BOOL (AFX_MSG_CALL CCmdTarget::*)(UINT, NMHDR*, LRESULT*), memberFxn) },
 #define ON_NOTIFY_EX_RANGE(wNotifyCode, id, idLast, memberFxn) \
     { WM_NOTIFY, (WORD)(int)(wNotifyCode), (WORD)(id), (WORD)(idLast), AfxSigNotify_EX, \
-      AFX_MSGFN(BOOL (AFX_MSG_CALL CCmdTarget::*)(UINT, NMHDR*, LRESULT*), &ThisClass::memberFxn) },
+      AFX_MSGFN(BOOL (AFX_MSG_CALL CCmdTarget::*)(UINT, NMHDR*, LRESULT*), memberFxn) },
 
 // Command-entry signature codes: the cracking of WM_COMMAND / WM_NOTIFY entries.
 enum
@@ -269,27 +270,27 @@ enum
 
 #define ON_MESSAGE(message, memberFxn) \
     { (UINT)(message), 0, 0, 0, AfxSig_lwl, \
-      AFX_MSGFN(LRESULT (AFX_MSG_CALL CWnd::*)(WPARAM, LPARAM), &ThisClass::memberFxn) },
+      AFX_MSGFN(LRESULT (AFX_MSG_CALL CWnd::*)(WPARAM, LPARAM), memberFxn) },
 // nSig holds the address of the variable with the registered message id.
 #define ON_REGISTERED_MESSAGE(nMessageVariable, memberFxn) \
     { 0xC000, 0, 0, 0, (UINT_PTR)(UINT*)(&nMessageVariable), \
-      AFX_MSGFN(LRESULT (AFX_MSG_CALL CWnd::*)(WPARAM, LPARAM), &ThisClass::memberFxn) },
+      AFX_MSGFN(LRESULT (AFX_MSG_CALL CWnd::*)(WPARAM, LPARAM), memberFxn) },
 
 // ---------------------------------------------------------------------------------------
 // Reflected notifications, handled by the child that sent them
 
 #define ON_CONTROL_REFLECT(wNotifyCode, memberFxn) \
     { WM_COMMAND + WM_REFLECT_BASE, (WORD)(wNotifyCode), 0, 0, AfxSig_vv, \
-      static_cast<AFX_PMSG>(&ThisClass::memberFxn) },
+      static_cast<AFX_PMSG>(memberFxn) },
 #define ON_CONTROL_REFLECT_EX(wNotifyCode, memberFxn) \
     { WM_COMMAND + WM_REFLECT_BASE, (WORD)(wNotifyCode), 0, 0, AfxSig_bv, \
-      AFX_MSGFN(BOOL (AFX_MSG_CALL CCmdTarget::*)(void), &ThisClass::memberFxn) },
+      AFX_MSGFN(BOOL (AFX_MSG_CALL CCmdTarget::*)(void), memberFxn) },
 #define ON_NOTIFY_REFLECT(wNotifyCode, memberFxn) \
     { WM_NOTIFY + WM_REFLECT_BASE, (WORD)(int)(wNotifyCode), 0, 0, AfxSig_vNMHDRpl, \
-      AFX_MSGFN(void (AFX_MSG_CALL CCmdTarget::*)(NMHDR*, LRESULT*), &ThisClass::memberFxn) },
+      AFX_MSGFN(void (AFX_MSG_CALL CCmdTarget::*)(NMHDR*, LRESULT*), memberFxn) },
 #define ON_NOTIFY_REFLECT_EX(wNotifyCode, memberFxn) \
     { WM_NOTIFY + WM_REFLECT_BASE, (WORD)(int)(wNotifyCode), 0, 0, AfxSig_bNMHDRpl, \
-      AFX_MSGFN(BOOL (AFX_MSG_CALL CCmdTarget::*)(NMHDR*, LRESULT*), &ThisClass::memberFxn) },
+      AFX_MSGFN(BOOL (AFX_MSG_CALL CCmdTarget::*)(NMHDR*, LRESULT*), memberFxn) },
 #define ON_WM_CTLCOLOR_REFLECT() \
     { WM_CTLCOLOR + WM_REFLECT_BASE, 0, 0, 0, AfxSig_hDw, \
       AFX_MSGFN(HBRUSH (AFX_MSG_CALL CWnd::*)(CDC*, UINT), &ThisClass::CtlColor) },

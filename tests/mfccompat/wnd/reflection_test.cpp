@@ -61,10 +61,10 @@ protected:
 
 BEGIN_MESSAGE_MAP(CReflectingChild, CWnd)
     ON_WM_CTLCOLOR_REFLECT()
-    ON_CONTROL_REFLECT(BN_CLICKED, OnClickedReflect)
-    ON_CONTROL_REFLECT_EX(BN_DOUBLECLICKED, OnDoubleClickedReflect)
-    ON_NOTIFY_REFLECT(NM_CLICK, OnNotifyClick)
-    ON_NOTIFY_REFLECT_EX(NM_DBLCLK, OnNotifyDblClk)
+    ON_CONTROL_REFLECT(BN_CLICKED, &CReflectingChild::OnClickedReflect)
+    ON_CONTROL_REFLECT_EX(BN_DOUBLECLICKED, &CReflectingChild::OnDoubleClickedReflect)
+    ON_NOTIFY_REFLECT(NM_CLICK, &CReflectingChild::OnNotifyClick)
+    ON_NOTIFY_REFLECT_EX(NM_DBLCLK, &CReflectingChild::OnNotifyDblClk)
     ON_WM_HSCROLL_REFLECT()
     ON_WM_DRAWITEM_REFLECT()
     ON_WM_MEASUREITEM_REFLECT()
@@ -88,9 +88,9 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(CParentWnd, CWnd)
-    ON_BN_CLICKED(IDC_CHILD, OnChildClicked)
-    ON_BN_DOUBLECLICKED(IDC_CHILD, OnChildDoubleClicked)
-    ON_NOTIFY(NM_DBLCLK, IDC_CHILD, OnChildDblClk)
+    ON_BN_CLICKED(IDC_CHILD, &CParentWnd::OnChildClicked)
+    ON_BN_DOUBLECLICKED(IDC_CHILD, &CParentWnd::OnChildDoubleClicked)
+    ON_NOTIFY(NM_DBLCLK, IDC_CHILD, &CParentWnd::OnChildDblClk)
 END_MESSAGE_MAP()
 
 // A parent whose own OnCtlColor does not call the base class keeps the message.

@@ -4,10 +4,12 @@
 //   resource_counter.h  GDI/USER/heap counts and ZOTEST_EXPECT_NO_LEAKS
 //   pump.h              PumpUntilIdle, PumpFor, PumpUntil
 //   fresh_process.h     ZOTEST_RUN_IN_FRESH_PROCESS
-//   test_window.h       RunningUnderWine, CreateSolidWindow, ScopedWindow
+//   input.h             SendClick, SendKey, MoveCursorTo, RealClick, PumpUntilReceived
+//   test_window.h       RunningUnderWine, CreateSolidWindow, ScopedWindow, ScopedCommonControls6
 #pragma once
 
 #include <zotest/fresh_process.h>
+#include <zotest/input.h>
 #include <zotest/pump.h>
 #include <zotest/recorder.h>
 #include <zotest/renderer.h>

@@ -5,6 +5,9 @@
 //   CWnd              wrapper of one HWND: creation, subclassing, message dispatch, reflection
 //   CWinThread        a user-interface thread: message pump, idle processing, routing
 //   CWinApp           the application object: start-up data, AfxWinMain's InitInstance/Run
+//   CDialog           modal and modeless dialogs from templates found in the resource chain
+//   CDataExchange     the state of one UpdateData pass; DDX_ and DDV_ functions
+//   CDynLinkLibrary   an extension DLL in the resource chain (AFX_EXTENSION_MODULE)
 //
 // A CWnd is "permanent" when it owns its HWND (Attach, Create, SubclassWindow); FromHandle
 // returns such an object, or else a temporary one that lives until the thread's next idle
@@ -22,6 +25,7 @@ class CScrollBar;
 class CFont;
 class CRgn;
 class CFrameWnd;
+class CDataExchange;
 struct CCreateContext;
 namespace zoafx { struct WndAccess; }
 
@@ -285,7 +289,6 @@ public:
     int GetCheckedRadioButton(int nIDFirstButton, int nIDLastButton);
     CWnd* GetNextDlgGroupItem(CWnd* pWndCtl, BOOL bPrevious = FALSE) const;
     CWnd* GetNextDlgTabItem(CWnd* pWndCtl, BOOL bPrevious = FALSE) const;
-    void MapDialogRect(LPRECT lpRect) const;
 
     // Scrolling
     virtual CScrollBar* GetScrollBarCtrl(int nBar) const;
@@ -301,6 +304,9 @@ public:
     void ScrollWindow(int xAmount, int yAmount, LPCRECT lpRect = NULL, LPCRECT lpClipRect = NULL);
     int ScrollWindowEx(int dx, int dy, LPCRECT lpRectScroll, LPCRECT lpRectClip,
                        CRgn* prgnUpdate, LPRECT lpRectUpdate, UINT flags);
+
+    // Dialog data
+    BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
 
     // Misc
     void DragAcceptFiles(BOOL bAccept = TRUE);
@@ -320,6 +326,8 @@ protected:
     static const MSG* PASCAL GetCurrentMessage();
     virtual WNDPROC* GetSuperWndProcAddr();
     virtual void PostNcDestroy();
+    virtual void DoDataExchange(CDataExchange* pDX);
+    BOOL CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, HINSTANCE hInst);
 
     // Default message handlers: derived handlers call these to get the platform behaviour.
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
@@ -489,3 +497,133 @@ ZOAFX_API BOOL AFXAPI AfxPumpMessage();
 ZOAFX_API void AFXAPI AfxPostQuitMessage(int nExitCode);
 ZOAFX_API int AFXAPI AfxMessageBox(LPCTSTR lpszText, UINT nType = MB_OK, UINT nIDHelp = 0);
 ZOAFX_API int AFXAPI AfxMessageBox(UINT nIDPrompt, UINT nType = MB_OK, UINT nIDHelp = (UINT)-1);
+
+/////////////////////////////////////////////////////////////////////////////
+// CDialog
+
+class ZOAFX_API CDialog : public CWnd
+{
+    DECLARE_DYNAMIC(CDialog)
+public:
+    CDialog();
+    explicit CDialog(LPCTSTR lpszTemplateName, CWnd* pParentWnd = NULL);
+    explicit CDialog(UINT nIDTemplate, CWnd* pParentWnd = NULL);
+    virtual ~CDialog();
+
+    // Modeless
+    virtual BOOL Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd = NULL);
+    virtual BOOL Create(UINT nIDTemplate, CWnd* pParentWnd = NULL);
+    virtual BOOL CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd = NULL,
+                                void* lpDialogInit = NULL);
+    virtual BOOL CreateIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd = NULL);
+
+    // Modal
+    BOOL InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd = NULL, void* lpDialogInit = NULL);
+    BOOL InitModalIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd = NULL);
+    virtual INT_PTR DoModal();
+    void EndDialog(int nResult);
+
+    // Controls
+    void MapDialogRect(LPRECT lpRect) const;
+    void SetHelpID(UINT nIDR);
+    void NextDlgCtrl() const;
+    void PrevDlgCtrl() const;
+    void GotoDlgCtrl(CWnd* pWndCtrl);
+    void SetDefID(UINT nID);
+    DWORD GetDefID() const;
+
+    virtual BOOL OnInitDialog();
+    virtual void OnSetFont(CFont* pFont);
+    virtual BOOL PreTranslateMessage(MSG* pMsg);
+
+    UINT m_nIDHelp;
+    LPCTSTR m_lpszTemplateName;
+    HGLOBAL m_hDialogTemplate;
+    LPCDLGTEMPLATE m_lpDialogTemplate;
+    void* m_lpDialogInit;
+    CWnd* m_pParentWnd;
+    HWND m_hWndTop;
+
+protected:
+    virtual void OnOK();
+    virtual void OnCancel();
+    virtual void PreInitDialog();
+    // The window the modal dialog belongs to (disabled while it runs).
+    HWND PreModal();
+    void PostModal();
+
+    afx_msg LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT HandleSetFont(WPARAM wParam, LPARAM lParam);
+
+    DECLARE_MESSAGE_MAP()
+};
+
+// The dialog procedure of dialogs a CDialog owns: WM_INITDIALOG calls OnInitDialog.
+ZOAFX_API INT_PTR CALLBACK AfxDlgProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
+
+/////////////////////////////////////////////////////////////////////////////
+// Dialog data exchange
+
+class ZOAFX_API CDataExchange
+{
+public:
+    CDataExchange(CWnd* pDlgWnd, BOOL bSaveAndValidate);
+
+    BOOL m_bSaveAndValidate;   // TRUE: controls to variables (with validation)
+    CWnd* m_pDlgWnd;
+
+    // The control's window; a missing control is a programming error (not supported).
+    HWND PrepareCtrl(int nIDC);
+    HWND PrepareEditCtrl(int nIDC);
+    // Puts the focus back on the last control and ends the exchange (CUserException).
+    void Fail();
+
+    UINT m_idLastControl;
+    BOOL m_bEditLastControl;
+};
+
+ZOAFX_API void AFXAPI DDX_Control(CDataExchange* pDX, int nIDC, CWnd& rControl);
+ZOAFX_API void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, CString& value);
+ZOAFX_API void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, int& value);
+ZOAFX_API void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, UINT& value);
+ZOAFX_API void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, long& value);
+ZOAFX_API void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, DWORD& value);
+ZOAFX_API void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, double& value);
+ZOAFX_API void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, float& value);
+ZOAFX_API void AFXAPI DDX_Check(CDataExchange* pDX, int nIDC, int& value);
+ZOAFX_API void AFXAPI DDX_Radio(CDataExchange* pDX, int nIDC, int& value);
+ZOAFX_API void AFXAPI DDV_MaxChars(CDataExchange* pDX, CString const& value, int nChars);
+ZOAFX_API void AFXAPI DDV_MinMaxInt(CDataExchange* pDX, int value, int minVal, int maxVal);
+
+/////////////////////////////////////////////////////////////////////////////
+// Extension DLLs
+
+class COleObjectFactory;
+
+struct AFX_EXTENSION_MODULE
+{
+    BOOL bInitialized;
+    HMODULE hModule;
+    HMODULE hResource;
+    CRuntimeClass* pFirstSharedClass;
+    COleObjectFactory* pFirstSharedFactory;
+};
+
+// Puts an extension DLL's resources (and classes) at the application's disposal while it
+// lives: resources are then found through AfxFindResourceHandle.
+class ZOAFX_API CDynLinkLibrary : public CCmdTarget
+{
+    DECLARE_DYNAMIC(CDynLinkLibrary)
+public:
+    explicit CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL bSystem = FALSE);
+    CDynLinkLibrary(HINSTANCE hModule, HINSTANCE hResource);
+    virtual ~CDynLinkLibrary();
+
+    HMODULE m_hModule;
+    HMODULE m_hResource;
+    BOOL m_bSystem;
+    CDynLinkLibrary* m_pNextDLL;   // every library object of the process, newest first
+};
+
+ZOAFX_API BOOL AFXAPI AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule);
+ZOAFX_API void AFXAPI AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL bAll = FALSE);

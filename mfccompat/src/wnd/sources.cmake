@@ -3,4 +3,6 @@ list(APPEND ZOAFX_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/wndmsg.cpp
   ${CMAKE_CURRENT_LIST_DIR}/wndops.cpp
   ${CMAKE_CURRENT_LIST_DIR}/thread.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/dialog.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/extdll.cpp
 )

@@ -720,11 +720,6 @@ CWnd* CWnd::GetNextDlgTabItem(CWnd* pWndCtl, BOOL bPrevious) const
     return WndOrNull(::GetNextDlgTabItem(m_hWnd, pWndCtl->GetSafeHwnd(), bPrevious));
 }
 
-void CWnd::MapDialogRect(LPRECT lpRect) const
-{
-    ::MapDialogRect(m_hWnd, lpRect);
-}
-
 /////////////////////////////////////////////////////////////////////////////
 // Scrolling: a sibling scroll bar control named by GetScrollBarCtrl takes the place of
 // the window's own bar.

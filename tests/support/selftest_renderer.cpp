@@ -88,6 +88,17 @@ TEST(RendererWindows, ScreenPathCopiesWhatIsOnScreen)
     ZOTEST_EXPECT_BOUNDS(image, kBlue, (RECT{10, 5, 40, 25}));
 }
 
+TEST(RendererWindows, ScreenPathCopiesAChildControl)
+{
+    ScopedWindow window(CreateSolidWindow({20, 20, 120, 80}, kBlue));
+    HWND child = CreateSolidWindow({10, 5, 40, 25}, kRed, window);
+    PumpUntilIdle();
+    const Dib image = RenderClient(child, RenderPath::Screen);
+    ASSERT_EQ(image.width(), 30);
+    ASSERT_EQ(image.height(), 20);
+    ZOTEST_EXPECT_FILL(image, (RECT{0, 0, 30, 20}), kRed);
+}
+
 TEST(RendererWindows, ScreenPathIncludesTheFrame)
 {
     ScopedWindow window(CreateSolidWindow({20, 20, 220, 120}, kBlue, nullptr, WS_CAPTION | WS_THICKFRAME));

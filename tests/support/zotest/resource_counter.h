@@ -12,7 +12,8 @@
 // are counted instead (top-level, message-only and all descendants); menus, cursors and icons are
 // then not counted.
 // Heap: busy blocks of every heap of the process (GetProcessHeaps + HeapWalk), which includes the
-// C runtime's heap and so malloc/new in any DLL of the process.
+// C runtime's heap and so malloc/new in any DLL of the process. A gtest failure inside a cycle
+// allocates too, so a failing cycle also shows as heap growth.
 #pragma once
 
 #include <windows.h>

@@ -436,10 +436,12 @@ def tab_block(selected, state):
 
 def tab_strips():
     top, bottom, left, right = [], [], [], []
+    # Only theme 0 has colours; the rows of themes 1 and 2 repeat its tabs.
+    blocks = {(selected, s): tab_block(selected, s) for selected in (True, False) for s in STATES}
     for theme in range(3):
         for sel_row, selected in enumerate((True, False)):
             for s in STATES:
-                block = tab_block(selected, s)
+                block = blocks[(selected, s)]
                 y = 25 * (theme * 2 + sel_row)
                 top.append((block, 21 * s, y))
                 bottom.append((block.flipped_vertically(), 21 * s, y))

@@ -307,6 +307,22 @@ void Dib::SetPixel(int x, int y, COLORREF color)
     bits_[static_cast<size_t>(y) * width_ + x] = ToPixel(color);
 }
 
+DWORD Dib::Argb(int x, int y) const
+{
+    if (!bits_ || x < 0 || y < 0 || x >= width_ || y >= height_)
+        return 0;
+    GdiFlush();
+    return bits_[static_cast<size_t>(y) * width_ + x];
+}
+
+void Dib::SetArgb(int x, int y, DWORD argb)
+{
+    if (!bits_ || x < 0 || y < 0 || x >= width_ || y >= height_)
+        return;
+    GdiFlush();
+    bits_[static_cast<size_t>(y) * width_ + x] = argb;
+}
+
 void Dib::Fill(COLORREF color)
 {
     if (!bits_)

@@ -151,6 +151,22 @@ TEST(RendererDib, DrawnLineLandsOnItsPixels)
     ZOTEST_EXPECT_BOUNDS(image, RGB(255, 255, 255), (RECT{5, 10, 40, 11}));
 }
 
+TEST(RendererDib, AlphaBytesAreKeptButIgnoredByColourChecks)
+{
+    Dib image(4, 4, kBlue);
+    image.SetArgb(1, 2, 0x80402010);
+    EXPECT_EQ(image.Argb(1, 2), 0x80402010u);
+    ZOTEST_EXPECT_PIXEL(image, 1, 2, RGB(0x40, 0x20, 0x10));
+    EXPECT_EQ(image.bits()[2 * 4 + 1], 0x80402010u);
+    EXPECT_EQ(image.Argb(4, 0), 0u);
+    // A per-pixel alpha blend of half-transparent white over blue.
+    Dib source(1, 1);
+    source.SetArgb(0, 0, 0x80808080);
+    BLENDFUNCTION blend{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
+    ASSERT_TRUE(AlphaBlend(image.dc(), 0, 0, 1, 1, source.dc(), 0, 0, 1, 1, blend));
+    ZOTEST_EXPECT_PIXEL(image, 0, 0, RGB(0x80, 0x80, 0xFF));
+}
+
 TEST(RendererDib, FailuresNameTheirPixelsAndColours)
 {
     Dib image(10, 10, kBlue);

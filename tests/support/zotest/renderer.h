@@ -63,6 +63,11 @@ public:
     // CLR_INVALID outside the DIB.
     COLORREF Pixel(int x, int y) const;
     void SetPixel(int x, int y, COLORREF color);
+    // The raw 0xAARRGGBB value with its alpha byte (for premultiplied-alpha pictures); 0 outside.
+    DWORD Argb(int x, int y) const;
+    void SetArgb(int x, int y, DWORD argb);
+    // Rows of width() pixels, top row first; null for an empty Dib.
+    DWORD* bits() const { return bits_; }
     void Fill(COLORREF color);
     // The part of this DIB inside `area` (clipped); empty when nothing is left.
     Dib Crop(const RECT& area) const;

@@ -3,10 +3,10 @@
 // Layout: one pointer to the characters, which follow a small header on the heap (the same
 // shape MFC uses), so a CString object is exactly pointer-sized.
 //
-// Passing a CString through "..." (Format, printf, TRACE): with MSVC this happens to work; with
-// GCC a class with a copy constructor is passed by invisible reference, so %s would receive
-// the address of a temporary copy instead of the characters. Always pass (LPCTSTR)str or
-// str.GetString() to variadic functions.
+// Passing a CString through "..." (Format, TRACE): MSVC copies the object, which is the
+// character pointer, so %s works. GCC passes the address of a temporary copy instead;
+// Format and AppendFormat recognise such an argument for a wide %s and use its characters.
+// Other variadic functions (swprintf, ...) do not: pass (LPCTSTR)str or str.GetString().
 #pragma once
 #include <zoafx/config.h>
 #include <windows.h>

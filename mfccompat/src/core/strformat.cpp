@@ -1,7 +1,8 @@
 // CString formatting and string resources. The C runtime's Microsoft printf family is used
 // (not MinGW's C99 one) so that %s in a wide format means a wide string, as in MFC.
-#include <afx.h>
+#include "stringdata.h"
 #include <wchar.h>
+#include <type_traits>
 
 namespace {
 
@@ -67,6 +68,126 @@ inline LPCWSTR StringBlockName(UINT nID)
     return MAKEINTRESOURCEW((nID >> 4) + 1);
 }
 
+// ---- CString objects passed through "..." ----
+//
+// GCC passes a class with a copy constructor to "..." as the address of a temporary copy,
+// so a CString given for %s arrives as a pointer to the object, not to its characters.
+// The object is one pointer to characters that follow a header with a magic number, which
+// lets Format recognise such an argument and replace it in the argument area by the
+// characters themselves. Every memory read is checked first; a real text pointer is never
+// mistaken for an object unless its first bytes happen to address a string buffer.
+
+static_assert(std::is_same<va_list, char*>::value, "argument walking needs a plain va_list");
+
+bool IsReadable(const void* p, size_t nBytes)
+{
+    const char* begin = static_cast<const char*>(p);
+    const char* end = begin + nBytes;
+    while (begin < end)
+    {
+        MEMORY_BASIC_INFORMATION info;
+        if (VirtualQuery(begin, &info, sizeof(info)) == 0 || info.State != MEM_COMMIT
+            || (info.Protect & (PAGE_NOACCESS | PAGE_GUARD)) != 0)
+            return false;
+        begin = static_cast<const char*>(info.BaseAddress) + info.RegionSize;
+    }
+    return true;
+}
+
+// The characters of the CString object at pArg, or NULL when pArg is not one.
+LPCWSTR CharsOfStringObject(const void* pArg)
+{
+    if (pArg == NULL || ((UINT_PTR)pArg % sizeof(void*)) != 0 || !IsReadable(pArg, sizeof(void*)))
+        return NULL;
+    wchar_t* pChars = *static_cast<wchar_t* const*>(pArg);
+    if (pChars == zoafx::g_emptyString.data.Chars())
+        return pChars;
+    if (pChars == NULL || ((UINT_PTR)pChars % sizeof(int)) != 0)
+        return NULL;
+    const CStringW::Data* pData = reinterpret_cast<const CStringW::Data*>(pChars) - 1;
+    if (!IsReadable(pData, sizeof(CStringW::Data)) || pData->nMagic != CStringW::Data::kMagic
+        || pData->nDataLength < 0 || pData->nDataLength > pData->nAllocLength)
+        return NULL;
+    if (!IsReadable(pChars, ((size_t)pData->nDataLength + 1) * sizeof(wchar_t)) || pChars[pData->nDataLength] != 0)
+        return NULL;
+    return pChars;
+}
+
+// Bytes one argument of the given conversion occupies in the argument area (0: unknown).
+size_t ArgumentSize(wchar_t conversion, bool b64)
+{
+    const size_t nSlot = sizeof(void*);
+    switch (conversion)
+    {
+    case 'd': case 'i': case 'u': case 'o': case 'x': case 'X': case 'c': case 'C':
+        return b64 ? (8 > nSlot ? 8 : nSlot) : nSlot;
+    case 'e': case 'E': case 'f': case 'F': case 'g': case 'G': case 'a': case 'A':
+        return 8 > nSlot ? 8 : nSlot;
+    case 's': case 'S': case 'Z': case 'p': case 'n':
+        return nSlot;
+    default:
+        return 0;
+    }
+}
+
+// Walks the arguments of pszFormat and turns each CString object given for a wide %s into
+// its characters. Stops at anything it cannot size.
+void RepairStringArguments(LPCWSTR pszFormat, va_list args)
+{
+    char* pCursor = args;
+    for (const wchar_t* p = pszFormat; *p != 0; ++p)
+    {
+        if (*p != '%')
+            continue;
+        if (*++p == '%')
+            continue;
+        while (*p == '-' || *p == '+' || *p == ' ' || *p == '#' || *p == '0')
+            ++p;
+        if (*p == '*')
+        {
+            pCursor += sizeof(void*);
+            ++p;
+        }
+        while (*p >= '0' && *p <= '9')
+            ++p;
+        if (*p == '.')
+        {
+            if (*++p == '*')
+            {
+                pCursor += sizeof(void*);
+                ++p;
+            }
+            while (*p >= '0' && *p <= '9')
+                ++p;
+        }
+        bool b64 = false, bNarrow = false;
+        if (p[0] == 'I' && p[1] == '6' && p[2] == '4')
+            b64 = true, p += 3;
+        else if (p[0] == 'I' && p[1] == '3' && p[2] == '2')
+            p += 3;
+        else if (p[0] == 'l' && p[1] == 'l')
+            b64 = true, p += 2;
+        else if (*p == 'I' || *p == 'z' || *p == 't')
+            b64 = sizeof(void*) == 8, ++p;
+        else if (*p == 'j')
+            b64 = true, ++p;
+        else if (*p == 'h')
+            bNarrow = true, p += (p[1] == 'h') ? 2 : 1;
+        else if (*p == 'l' || *p == 'w' || *p == 'L')
+            ++p;
+        size_t nSize = ArgumentSize(*p, b64);
+        if (nSize == 0)
+            return;
+        if (*p == 's' && !bNarrow)
+        {
+            void** pSlot = reinterpret_cast<void**>(pCursor);
+            if (LPCWSTR pChars = CharsOfStringObject(*pSlot))
+                *pSlot = const_cast<LPWSTR>(pChars);
+        }
+        pCursor += nSize;
+    }
+}
+
 } // namespace
 
 // ---- formatting ----
@@ -84,6 +205,7 @@ void CStringW::AppendFormatV(PCXSTR pszFormat, va_list args)
 {
     if (pszFormat == NULL)
         AfxThrowInvalidArgException();
+    RepairStringArguments(pszFormat, args);
     va_list measure;
     va_copy(measure, args);
     int nAdded = _vscwprintf(pszFormat, measure);

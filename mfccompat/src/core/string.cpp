@@ -1,26 +1,15 @@
 // CString: storage, editing, searching and formatting.
-#include <afx.h>
+#include "stringdata.h"
 #include <wchar.h>
 #include <wctype.h>
 
-// Header in front of the characters; m_pszData points just past it.
-struct CStringW::Data
-{
-    int nDataLength;  // characters, without the terminator
-    int nAllocLength; // capacity in characters, without the terminator
-    int nLocks;       // LockBuffer nesting
-    wchar_t* Chars() { return reinterpret_cast<wchar_t*>(this + 1); }
-};
+namespace zoafx {
+EmptyString g_emptyString = { { CStringW::Data::kMagic, 0, 0, 0 }, 0 };
+} // namespace zoafx
 
 namespace {
 
-// The shared empty string: never written, capacity 0 forces an allocation on first write.
-struct EmptyString
-{
-    CStringW::Data data;
-    wchar_t terminator;
-};
-EmptyString g_empty = { { 0, 0, 0 }, 0 };
+zoafx::EmptyString& g_empty = zoafx::g_emptyString;
 
 inline int SafeLength(LPCWSTR psz)
 {
@@ -66,6 +55,7 @@ void CStringW::Reserve(int nMinAlloc, bool bKeepContents)
     Data* pNew = (Data*)malloc(sizeof(Data) + ((size_t)nAlloc + 1) * sizeof(wchar_t));
     if (pNew == NULL)
         AfxThrowMemoryException();
+    pNew->nMagic = Data::kMagic;
     pNew->nAllocLength = nAlloc;
     pNew->nLocks = 0;
     pNew->nDataLength = bKeepContents ? pOld->nDataLength : 0;

@@ -58,6 +58,17 @@ TEST(StringFormat, CommonConversions)
     EXPECT_STREQ(s, L"file tree.bin");
 }
 
+TEST(StringFormat, CStringArgumentWithoutCastStillFormats)
+{
+    // GCC passes these as addresses of temporary copies; Format recognises them.
+    CString name(L"tree.bin"), empty;
+    CString s;
+    s.Format(L"%s|%d|%s|%5.1f|%I64d|%s|%*d|%s", name, 7, empty, 2.5, (__int64)1 << 40, L"plain", 3, 4, name);
+    EXPECT_STREQ(s, L"tree.bin|7||  2.5|1099511627776|plain|  4|tree.bin");
+    s.AppendFormat(L"+%s", s);
+    EXPECT_STREQ(s, L"tree.bin|7||  2.5|1099511627776|plain|  4|tree.bin+tree.bin|7||  2.5|1099511627776|plain|  4|tree.bin");
+}
+
 TEST(StringFormat, LongResultsAndAppendFormat)
 {
     CString big(L'a', 5000);

@@ -59,7 +59,8 @@ void ReadAvailable(HANDLE pipe, std::string& output)
     while (PeekNamedPipe(pipe, nullptr, 0, nullptr, &available, nullptr) && available > 0) {
         char buffer[4096];
         DWORD got = 0;
-        if (!ReadFile(pipe, buffer, available < sizeof buffer ? available : sizeof buffer, &got, nullptr) || got == 0)
+        const DWORD wanted = available < sizeof buffer ? available : static_cast<DWORD>(sizeof buffer);
+        if (!ReadFile(pipe, buffer, wanted, &got, nullptr) || got == 0)
             return;
         output.append(buffer, got);
     }

@@ -1,5 +1,7 @@
 #include <zotest/zotest.h>
 
+#include <cwctype>
+
 using namespace zotest;
 
 namespace {
@@ -15,7 +17,7 @@ std::wstring ModuleOfWindowProcedure(HWND window)
     GetModuleFileNameW(module, path, MAX_PATH);
     std::wstring name(path);
     for (wchar_t& c : name)
-        c = static_cast<wchar_t>(towlower(c));
+        c = static_cast<wchar_t>(std::towlower(c));
     return name.substr(name.find_last_of(L'\\') + 1);
 }
 

@@ -2,8 +2,9 @@
 //
 // CPngImage decodes a PNG (or any picture GDI+ reads) into a 32-bit top-down DIB section
 // whose pixels are B, G, R, A with straight (not premultiplied) alpha, as GDI+ delivers
-// PixelFormat32bppARGB. Blending such a bitmap with AlphaBlend and AC_SRC_ALPHA needs the
-// colours premultiplied first.
+// PixelFormat32bppARGB; MFC premultiplies in a separate step of its toolbar images
+// (CMFCToolBarImages::PreMultiplyAlpha), so a loaded CPngImage is straight there too.
+// Blending such a bitmap with AlphaBlend and AC_SRC_ALPHA needs the colours premultiplied.
 #pragma once
 #include <afxwin.h>
 

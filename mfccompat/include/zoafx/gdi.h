@@ -3,7 +3,7 @@
 // Classes in this file:
 //   CResourceException                                          a resource could not be made
 //   CGdiObject, CPen, CBrush, CFont, CBitmap, CPalette, CRgn   wrappers of one GDI handle
-//   CDC                                                         wrapper of a device context
+//   CDC, CPaintDC, CClientDC, CWindowDC                         wrappers of a device context
 //
 // A CDC holds two handles as MFC does: output goes to m_hDC, attribute queries read
 // m_hAttribDC, and attribute changes are made on both so that they stay in step.
@@ -253,6 +253,7 @@ public:
     // Handles and temporary objects
     HDC GetSafeHdc() const { return zoafx::IsNullObject(this) ? NULL : m_hDC; }
     operator HDC() const { return GetSafeHdc(); }
+    CWnd* GetWindow() const;
     static CDC* PASCAL FromHandle(HDC hDC);
     static void PASCAL DeleteTempMap();
     BOOL Attach(HDC hDC);
@@ -352,6 +353,7 @@ public:
     int SelectClipRgn(CRgn* pRgn, int nMode);
     int ExcludeClipRect(int x1, int y1, int x2, int y2);
     int ExcludeClipRect(LPCRECT lpRect);
+    int ExcludeUpdateRgn(CWnd* pWnd);
     int IntersectClipRect(int x1, int y1, int x2, int y2);
     int IntersectClipRect(LPCRECT lpRect);
     int OffsetClipRgn(int x, int y);
@@ -474,4 +476,39 @@ public:
 private:
     CDC(const CDC&);
     CDC& operator=(const CDC&);
+};
+
+class ZOAFX_API CPaintDC : public CDC
+{
+    DECLARE_DYNAMIC(CPaintDC)
+public:
+    explicit CPaintDC(CWnd* pWnd);
+    virtual ~CPaintDC();
+
+    PAINTSTRUCT m_ps;
+
+protected:
+    HWND m_hWnd;
+};
+
+class ZOAFX_API CClientDC : public CDC
+{
+    DECLARE_DYNAMIC(CClientDC)
+public:
+    explicit CClientDC(CWnd* pWnd);
+    virtual ~CClientDC();
+
+protected:
+    HWND m_hWnd;
+};
+
+class ZOAFX_API CWindowDC : public CDC
+{
+    DECLARE_DYNAMIC(CWindowDC)
+public:
+    explicit CWindowDC(CWnd* pWnd);
+    virtual ~CWindowDC();
+
+protected:
+    HWND m_hWnd;
 };

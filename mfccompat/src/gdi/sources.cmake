@@ -5,4 +5,5 @@ list(APPEND ZOAFX_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/dc.cpp
   ${CMAKE_CURRENT_LIST_DIR}/imagelist.cpp
   ${CMAKE_CURRENT_LIST_DIR}/pngimage.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/windc.cpp
 )

@@ -3,6 +3,7 @@
 #include <afxwin.h>
 #include <gtest/gtest.h>
 #include <zotest/renderer.h>
+#include "dib_dc.h"
 #include <zotest/resource_counter.h>
 #include <zotest/test_window.h>
 
@@ -14,14 +15,6 @@ const COLORREF kRed = RGB(255, 0, 0);
 const COLORREF kGreen = RGB(0, 255, 0);
 const COLORREF kBlue = RGB(0, 0, 255);
 const COLORREF kMagenta = RGB(255, 0, 255);
-
-// A CDC attached to a DIB's memory DC for the length of one test.
-class DibDC : public CDC
-{
-public:
-    explicit DibDC(zotest::Dib& dib) { Attach(dib.dc()); }
-    ~DibDC() { Detach(); }
-};
 
 BLENDFUNCTION Blend(BYTE constantAlpha, BYTE format)
 {
@@ -220,6 +213,15 @@ TEST(DCHandle, DestructorDeletesOwnedDC)
     EXPECT_EQ(0u, ::GetObjectType(hDC));
 }
 
+TEST(DCHandle, CreateDCForTheDisplay)
+{
+    CDC dc;
+    ASSERT_TRUE(dc.CreateDC(_T("DISPLAY"), NULL, NULL, NULL));
+    EXPECT_EQ(::GetSystemMetrics(SM_CXSCREEN), dc.GetDeviceCaps(HORZRES));
+    EXPECT_TRUE(dc.DeleteDC());
+    EXPECT_EQ(nullptr, dc.m_hDC);
+}
+
 TEST(DCHandle, EmptyDCIsSafe)
 {
     CDC dc;
@@ -231,6 +233,7 @@ TEST(DCHandle, EmptyDCIsSafe)
     CRect rect(0, 0, 5, 5);
     EXPECT_EQ(0, dc.DrawText(_T("x"), 1, NULL, 0));
     EXPECT_FALSE(dc.Polygon(NULL, 3));
+    EXPECT_EQ(nullptr, dc.GetWindow());
 }
 
 // ---- Filling and frames -----------------------------------------------------------------
@@ -702,6 +705,69 @@ TEST(DCDecorations, DrawIconAndDrawStateLandAtTheirPoint)
     EXPECT_TRUE(stateDC.DrawState(CPoint(5, 6), CSize(4, 4), &bitmap, DSS_NORMAL));
     ZOTEST_EXPECT_FILL(state, CRect(5, 6, 9, 10), kRed);
     ZOTEST_EXPECT_BOUNDS(state, kWhite, CRect(5, 6, 9, 10));
+}
+
+// ---- Window DCs -------------------------------------------------------------------------
+
+// A CWnd that wraps a test window only for the length of one test.
+class BorrowedWnd : public CWnd
+{
+public:
+    explicit BorrowedWnd(HWND hWnd) { m_hWnd = hWnd; }
+    ~BorrowedWnd() { m_hWnd = NULL; }
+};
+
+TEST(WindowDC, PaintDCValidatesTheUpdateRegion)
+{
+    zotest::ScopedWindow window(zotest::CreateSolidWindow(CRect(0, 0, 40, 30), kRed));
+    BorrowedWnd wnd(window);
+    ::InvalidateRect(window, NULL, FALSE);
+    {
+        CPaintDC dc(&wnd);
+        EXPECT_NE(nullptr, dc.m_hDC);
+        EXPECT_EQ(dc.m_hDC, dc.m_ps.hdc);
+        EXPECT_EQ(CRect(0, 0, 40, 30), CRect(dc.m_ps.rcPaint));
+    }
+    RECT update;
+    EXPECT_FALSE(::GetUpdateRect(window, &update, FALSE));
+}
+
+TEST(WindowDC, ClientAndWindowDCsBelongToTheWindow)
+{
+    zotest::ScopedWindow window(zotest::CreateSolidWindow(CRect(0, 0, 40, 30), kRed));
+    BorrowedWnd wnd(window);
+    {
+        CClientDC dc(&wnd);
+        ASSERT_NE(nullptr, dc.m_hDC);
+        EXPECT_EQ((HWND)window, ::WindowFromDC(dc.m_hDC));
+        CWnd* owner = dc.GetWindow();
+        ASSERT_NE(nullptr, owner);
+        EXPECT_EQ((HWND)window, owner->m_hWnd);
+    }
+    {
+        CWindowDC dc(&wnd);
+        ASSERT_NE(nullptr, dc.m_hDC);
+        EXPECT_EQ((HWND)window, ::WindowFromDC(dc.m_hDC));
+    }
+    CWnd::DeleteTempMap();
+}
+
+TEST(WindowDC, ScreenDCForNullWindow)
+{
+    CClientDC dc(NULL);
+    EXPECT_NE(nullptr, dc.m_hDC);
+    EXPECT_GT(dc.GetDeviceCaps(HORZRES), 0);
+}
+
+TEST(WindowDC, WindowDCsLeakNothing)
+{
+    zotest::ScopedWindow window(zotest::CreateSolidWindow(CRect(0, 0, 20, 20), kRed));
+    BorrowedWnd wnd(window);
+    ZOTEST_EXPECT_NO_LEAKS(10, [&wnd] {
+        CClientDC client(&wnd);
+        CWindowDC whole(&wnd);
+        client.FillSolidRect(0, 0, 2, 2, kBlue);
+    }, zotest::count_gdi | zotest::count_heap);
 }
 
 } // namespace

@@ -152,13 +152,28 @@ TEST(GdiObjectMap, NullHandleGivesNull)
     EXPECT_EQ(nullptr, CRgn::FromHandle(NULL));
 }
 
+TEST(GdiObjectMap, TemporaryGivesWayToAnObjectAttachedLater)
+{
+    HBRUSH handle = ::CreateSolidBrush(RGB(8, 8, 8));
+    CBrush* temp = CBrush::FromHandle(handle);
+    ASSERT_NE(nullptr, temp);
+    CBrush brush;
+    ASSERT_TRUE(brush.Attach(handle));
+    EXPECT_EQ(&brush, CBrush::FromHandle(handle));
+    EXPECT_EQ(&brush, CGdiObject::FromHandle(handle));
+}
+
 TEST(GdiObjectMap, UnlockingTempMapsDeletesTemporariesButNotHandles)
 {
     HBRUSH brush = ::CreateSolidBrush(RGB(3, 3, 3));
-    AfxLockTempMaps();
-    CBrush* temp = CBrush::FromHandle(brush);
-    ASSERT_NE(nullptr, temp);
-    AfxUnlockTempMaps();
+    ZOTEST_EXPECT_NO_LEAKS(10, [brush] {
+        AfxLockTempMaps();
+        CBrush* temp = CBrush::FromHandle(brush);
+        ASSERT_NE(nullptr, temp);
+        LOGBRUSH logBrush;
+        EXPECT_EQ((int)sizeof(logBrush), temp->GetLogBrush(&logBrush));
+        AfxUnlockTempMaps();
+    }, zotest::count_heap | zotest::count_gdi);
     EXPECT_TRUE(IsLiveGdiObject(brush));
     ::DeleteObject(brush);
 }

@@ -3,6 +3,7 @@
 #include <zoafx/imagelist.h>
 #include <gtest/gtest.h>
 #include <zotest/renderer.h>
+#include "dib_dc.h"
 #include "gdi_test_resources.h"
 
 namespace {
@@ -26,13 +27,6 @@ void MakeCell(CBitmap& bitmap, COLORREF colour)
     memory.SetPixel(0, 0, kMagenta);
     memory.SelectObject(old);
 }
-
-class DibDC : public CDC
-{
-public:
-    explicit DibDC(zotest::Dib& dib) { Attach(dib.dc()); }
-    ~DibDC() { Detach(); }
-};
 
 TEST(ImageList, AddWithMaskColourDrawsTransparently)
 {

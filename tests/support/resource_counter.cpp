@@ -94,6 +94,17 @@ long CountProcessWindows()
     return tally.count;
 }
 
+// Wine's USER handles are 0x0020..0xFFEE in steps of 2 (a generation in the high word, which
+// lookups accept as 0); IsMenu answers only for menus of this process.
+long CountWineMenus()
+{
+    long menus = 0;
+    for (UINT_PTR handle = 0x0020; handle <= 0xFFEE; handle += 2)
+        if (IsMenu(reinterpret_cast<HMENU>(handle)))
+            ++menus;
+    return menus;
+}
+
 void WalkHeaps(long& blocks, long long& bytes)
 {
     blocks = 0;
@@ -138,7 +149,7 @@ long CountUserObjects()
     const DWORD reported = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
     if (reported != 0)
         return static_cast<long>(reported);
-    return CountProcessWindows();
+    return CountProcessWindows() + (RunningUnderWine() ? CountWineMenus() : 0);
 }
 
 long CountHeapBlocks()
@@ -180,7 +191,7 @@ const char* CountSourceName(CountSource source)
     case CountSource::WineHandleTable:
         return "Wine GDI handle table";
     case CountSource::ProcessWindows:
-        return "windows of the process";
+        return "windows and menus of the process";
     default:
         return "unavailable";
     }

@@ -33,6 +33,18 @@ TEST(ResourceCounts, UserCountFollowsWindows)
     EXPECT_EQ(CountUserObjects(), before);
 }
 
+TEST(ResourceCounts, UserCountFollowsMenus)
+{
+    const long before = CountUserObjects();
+    HMENU menus[3];
+    for (HMENU& menu : menus)
+        menu = CreatePopupMenu();
+    EXPECT_EQ(CountUserObjects(), before + 3) << "counted by " << CountSourceName(UserCountSource());
+    for (HMENU menu : menus)
+        DestroyMenu(menu);
+    EXPECT_EQ(CountUserObjects(), before);
+}
+
 TEST(ResourceCounts, HeapBlocksFollowMallocAndNew)
 {
     std::vector<void*> blocks;

@@ -9,8 +9,8 @@
 // 0xF8 in 64-bit ones; entries of 24 bytes whose byte 14, the object type, is non-zero while the
 // object lives). Wine creates a few objects of its own on first use: hence the warm-up cycle.
 // USER objects: GetGuiResources(GR_USEROBJECTS); under Wine (0 again) the windows of this process
-// are counted instead (top-level, message-only and all descendants); menus, cursors and icons are
-// then not counted.
+// (top-level, message-only and all descendants) plus its menus (a scan of Wine's USER handle
+// range with IsMenu, about 10 ms) are counted instead; cursors and icons are then not counted.
 // Heap: busy blocks of every heap of the process (GetProcessHeaps + HeapWalk), which includes the
 // C runtime's heap and so malloc/new in any DLL of the process. A gtest failure inside a cycle
 // allocates too, so a failing cycle also shows as heap growth.

@@ -26,7 +26,7 @@ P0, P1, P2, P3, P4, P5, P6, P7, P8, P9, P10 = (hex_rgb(v) for v in (
     0x7E7E7E, 0xC8C8C8))
 P11, P12, P13, P14, P15, P16 = (hex_rgb(v) for v in (
     0x29455F, 0x466183, 0x4A7AA7, 0x5F93CD, 0x7ED9FF, 0x2656A0))
-P17, P18, P20, P21, P27 = (hex_rgb(v) for v in (0xFFFFFF, 0xE7E7E7, 0xACACAC, 0x919191, 0xFF0000))
+P17, P18, P20, P27 = (hex_rgb(v) for v in (0xFFFFFF, 0xE7E7E7, 0xACACAC, 0xFF0000))
 
 # What the controls paint under their strips (colour slots 0, 1, 28 and 66).
 DIALOG_BACK = P6

@@ -158,12 +158,6 @@ class Canvas:
                 else:
                     row[px] = mix(self.backdrop if old is None else old, c, cov)
 
-    def clear(self, shape):
-        for py in range(self.height):
-            for px in range(self.width):
-                if shape(px + 0.5, py + 0.5):
-                    self.pixels[py][px] = None
-
     def blit(self, src, x, y):
         for sy in range(src.height):
             for sx in range(src.width):

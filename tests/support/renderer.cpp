@@ -45,6 +45,26 @@ std::string RectText(const RECT& r)
            std::to_string(r.bottom) + "}";
 }
 
+// With ZOTEST_DUMP_DIR set, a failing pixel check saves the image it looked at and says where.
+std::string DumpForFailure(const Dib& dib)
+{
+    wchar_t folder[MAX_PATH];
+    const DWORD length = GetEnvironmentVariableW(L"ZOTEST_DUMP_DIR", folder, MAX_PATH);
+    if (length == 0 || length >= MAX_PATH || dib.empty())
+        return std::string();
+    static int serial = 0;
+    const ::testing::TestInfo* test = ::testing::UnitTest::GetInstance()->current_test_info();
+    std::string name = test ? std::string(test->test_suite_name()) + "." + test->name() : "outside-a-test";
+    for (char& c : name)
+        if (c == '/' || c == '\\')
+            c = '_';
+    name += "-" + std::to_string(++serial) + ".bmp";
+    const std::wstring path = std::wstring(folder) + L"\\" + std::wstring(name.begin(), name.end());
+    if (!dib.SaveBmp(path.c_str()))
+        return "; could not save the image into ZOTEST_DUMP_DIR";
+    return "; image saved as " + name + " in ZOTEST_DUMP_DIR";
+}
+
 // Window rectangle of `window` in the client coordinates of its parent (or screen for top-level).
 RECT WindowRectInParent(HWND window)
 {
@@ -182,7 +202,7 @@ Dib RenderWholeWindow(HWND window, RenderPath path)
         return ::testing::AssertionSuccess() << compared << " pixels equal";
     return ::testing::AssertionFailure() << wrong << " of " << compared << " pixels differ from cell "
                                          << RectText(cell) << " placed at " << PointText(at.x, at.y) << "; "
-                                         << first;
+                                         << first << DumpForFailure(dib);
 }
 
 } // namespace
@@ -350,7 +370,9 @@ bool Dib::SaveBmp(const wchar_t* path) const
         return false;
     GdiFlush();
     const DWORD imageBytes = static_cast<DWORD>(width_) * height_ * 4;
+    // Bottom-up rows, the layout every reader accepts (Wine's LoadImage reads top-down files blank).
     BITMAPINFO info = TopDown32(width_, height_);
+    info.bmiHeader.biHeight = height_;
     BITMAPFILEHEADER file{};
     file.bfType = 0x4D42; // "BM"
     file.bfOffBits = sizeof(BITMAPFILEHEADER) + sizeof(BITMAPINFOHEADER);
@@ -359,13 +381,15 @@ bool Dib::SaveBmp(const wchar_t* path) const
     if (handle == INVALID_HANDLE_VALUE)
         return false;
     // Themed drawing leaves alpha bytes behind; viewers would take them as transparency.
-    std::vector<DWORD> opaque(bits_, bits_ + static_cast<size_t>(width_) * height_);
-    for (DWORD& pixel : opaque)
-        pixel |= 0xFF000000;
+    std::vector<DWORD> rows;
+    rows.reserve(static_cast<size_t>(width_) * height_);
+    for (int y = height_; y-- > 0;)
+        for (int x = 0; x < width_; ++x)
+            rows.push_back(bits_[static_cast<size_t>(y) * width_ + x] | 0xFF000000);
     DWORD written = 0;
     bool ok = WriteFile(handle, &file, sizeof file, &written, nullptr) &&
               WriteFile(handle, &info.bmiHeader, sizeof info.bmiHeader, &written, nullptr) &&
-              WriteFile(handle, opaque.data(), imageBytes, &written, nullptr);
+              WriteFile(handle, rows.data(), imageBytes, &written, nullptr);
     CloseHandle(handle);
     return ok;
 }
@@ -418,7 +442,7 @@ std::string ColorText(COLORREF color)
                                              << "x" << dib.height() << " image";
     if (got != (expected & 0xFFFFFF))
         return ::testing::AssertionFailure() << "pixel " << PointText(x, y) << " is " << ColorText(got)
-                                             << ", expected " << ColorText(expected);
+                                             << ", expected " << ColorText(expected) << DumpForFailure(dib);
     return ::testing::AssertionSuccess();
 }
 
@@ -441,7 +465,8 @@ std::string ColorText(COLORREF color)
     if (wrong == 0)
         return ::testing::AssertionSuccess();
     return ::testing::AssertionFailure() << "rectangle " << RectText(area) << " should be " << ColorText(expected)
-                                         << " but " << wrong << " pixels differ; first " << first;
+                                         << " but " << wrong << " pixels differ; first " << first
+                                         << DumpForFailure(dib);
 }
 
 ::testing::AssertionResult MatchesCell(const Dib& dib, POINT at, HBITMAP source, const RECT& cell,
@@ -481,7 +506,8 @@ RECT BoundsOfDifferences(const Dib& dib, COLORREF background)
     if (EqualRect(&got, &expected))
         return ::testing::AssertionSuccess();
     return ::testing::AssertionFailure() << "pixels differing from " << ColorText(background) << " lie in "
-                                         << RectText(got) << ", expected " << RectText(expected);
+                                         << RectText(got) << ", expected " << RectText(expected)
+                                         << DumpForFailure(dib);
 }
 
 RECT CellRect(int width, int height, int columns, int rows, int column, int row)

@@ -182,6 +182,32 @@ TEST(RendererDib, FailuresNameTheirPixelsAndColours)
     ZOTEST_EXPECT_BOUNDS(image, kBlue, (RECT{3, 4, 4, 5}));
 }
 
+TEST(RendererDib, FailingCheckSavesItsImageWhenAskedTo)
+{
+    wchar_t folder[MAX_PATH];
+    ASSERT_NE(GetTempPathW(MAX_PATH, folder), 0u);
+    SetEnvironmentVariableW(L"ZOTEST_DUMP_DIR", folder);
+    Dib image(6, 6, kBlue);
+    const ::testing::AssertionResult result = PixelIs(image, 1, 1, kRed);
+    SetEnvironmentVariableW(L"ZOTEST_DUMP_DIR", nullptr);
+    EXPECT_FALSE(result);
+    const std::string message = result.message();
+    const size_t at = message.find("image saved as ");
+    ASSERT_NE(at, std::string::npos) << message;
+    const std::string name = message.substr(at + 15, message.find(" in ZOTEST_DUMP_DIR") - at - 15);
+    const std::wstring path = std::wstring(folder) + L"\\" + std::wstring(name.begin(), name.end());
+    HBITMAP saved = static_cast<HBITMAP>(LoadImageW(nullptr, path.c_str(), IMAGE_BITMAP, 0, 0,
+                                                    LR_LOADFROMFILE | LR_CREATEDIBSECTION));
+    ASSERT_TRUE(saved != nullptr) << "no readable file " << name;
+    const Dib reread = Dib::FromBitmap(saved);
+    DeleteObject(saved);
+    DeleteFileW(path.c_str());
+    ASSERT_EQ(reread.width(), 6);
+    ZOTEST_EXPECT_FILL(reread, (RECT{0, 0, 6, 6}), kBlue);
+    EXPECT_EQ(std::string(PixelIs(image, 1, 1, kRed).message()).find("saved"), std::string::npos)
+        << "nothing is saved without the variable";
+}
+
 TEST(RendererDib, BadInputGivesDefinedResults)
 {
     EXPECT_TRUE(Dib(0, 5).empty());

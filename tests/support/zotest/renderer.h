@@ -24,6 +24,8 @@
 //                path with frame and children, exactly as on screen; the window must be visible and
 //                uncovered (a hidden window gives kUnpainted).
 // Pixels the window did not paint keep kUnpainted.
+// With the environment variable ZOTEST_DUMP_DIR set (a Windows path), every failing pixel check
+// saves the image it examined there as <Suite.Test>-<n>.bmp.
 #pragma once
 
 #include <windows.h>

@@ -1,0 +1,7 @@
+list(APPEND ZOAFX_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/menu.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ctrls.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/cmnctrls.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/frame.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/bars.cpp
+)

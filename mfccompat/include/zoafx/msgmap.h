@@ -200,6 +200,13 @@ protected: \
     { WM_COMMAND, CN_COMMAND, (WORD)(id), (WORD)(idLast), AfxSigCmd_EX, \
       AFX_MSGFN(BOOL (AFX_MSG_CALL CCmdTarget::*)(UINT), memberFxn) },
 
+#define ON_UPDATE_COMMAND_UI(id, memberFxn) \
+    { WM_COMMAND, CN_UPDATE_COMMAND_UI, (WORD)(id), (WORD)(id), AfxSigCmdUI, \
+      AFX_MSGFN(void (AFX_MSG_CALL CCmdTarget::*)(CCmdUI*), memberFxn) },
+#define ON_UPDATE_COMMAND_UI_RANGE(id, idLast, memberFxn) \
+    { WM_COMMAND, CN_UPDATE_COMMAND_UI, (WORD)(id), (WORD)(idLast), AfxSigCmdUI, \
+      AFX_MSGFN(void (AFX_MSG_CALL CCmdTarget::*)(CCmdUI*), memberFxn) },
+
 #define ON_CONTROL(wNotifyCode, id, memberFxn) \
     { WM_COMMAND, (WORD)(wNotifyCode), (WORD)(id), (WORD)(id), AfxSigCmd_v, \
       static_cast<AFX_PMSG>(memberFxn) },
@@ -411,4 +418,6 @@ enum
 #define ON_WM_GETDLGCODE() ZOAFX_ON_WM(WM_GETDLGCODE, AfxSig_wv, UINT (AFX_MSG_CALL CWnd::*)(void), OnGetDlgCode)
 
 // menus
+#define ON_WM_INITMENUPOPUP() ZOAFX_ON_WM(WM_INITMENUPOPUP, AfxSig_vMwb, void (AFX_MSG_CALL CWnd::*)(CMenu*, UINT, BOOL), OnInitMenuPopup)
+#define ON_WM_MENUCHAR() ZOAFX_ON_WM(WM_MENUCHAR, AfxSig_lwwM, LRESULT (AFX_MSG_CALL CWnd::*)(UINT, UINT, CMenu*), OnMenuChar)
 #define ON_WM_MENUSELECT() ZOAFX_ON_WM(WM_MENUSELECT, AfxSig_vwwh, void (AFX_MSG_CALL CWnd::*)(UINT, UINT, HMENU), OnMenuSelect)

@@ -3,6 +3,7 @@
 // Classes in this file:
 //   CCmdTarget        message-map owner; routes commands and notifications (OnCmdMsg)
 //   CWnd              wrapper of one HWND: creation, subclassing, message dispatch, reflection
+//   CCmdUI            one user-interface item (menu item or control) during command-UI updates
 //   CWinThread        a user-interface thread: message pump, idle processing, routing
 //   CWinApp           the application object: start-up data, AfxWinMain's InitInstance/Run
 //   CDialog           modal and modeless dialogs from templates found in the resource chain
@@ -52,6 +53,14 @@ inline HWND WINAPI GetNextWindow(HWND hWnd, UINT wCmd)
 #define WF_MODALDISABLE 0x0200
 #define WF_KEEPMINIACTIVE 0x0800
 
+// Tool-info flags of the framework's tool tips (beyond commctrl's).
+#ifndef TTF_NOTBUTTON
+#define TTF_NOTBUTTON 0x80000000L   // the tool is no button: no status help on button-down
+#endif
+#ifndef TTF_ALWAYSTIP
+#define TTF_ALWAYSTIP 0x40000000L
+#endif
+
 // RunModalLoop flags.
 #define MLF_NOIDLEMSG 0x0001
 #define MLF_NOKICKIDLE 0x0002
@@ -85,6 +94,36 @@ ZOAFX_API BOOL AFXAPI AfxUnhookWindowCreate();
 ZOAFX_API LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor = 0,
                                              HBRUSH hbrBackground = 0, HICON hIcon = 0);
 ZOAFX_API BOOL AFXAPI AfxRegisterClass(WNDCLASS* lpWndClass);
+
+/////////////////////////////////////////////////////////////////////////////
+// CCmdUI
+
+class ZOAFX_API CCmdUI
+{
+public:
+    CCmdUI();
+    virtual ~CCmdUI() { }
+
+    UINT m_nID;
+    UINT m_nIndex;         // position of the menu item
+    CMenu* m_pMenu;        // the menu of the item, or NULL for a control
+    CMenu* m_pSubMenu;     // the popup the item opens, if any
+    CWnd* m_pOther;        // the control, or NULL for a menu item
+    CMenu* m_pParentMenu;
+
+    virtual void Enable(BOOL bOn = TRUE);
+    virtual void SetCheck(int nCheck = 1);
+    virtual void SetRadio(BOOL bOn = TRUE);
+    virtual void SetText(LPCTSTR lpszText);
+    void ContinueRouting();
+
+    // Asks pTarget's handlers about the item; without one, optionally disables it.
+    BOOL DoUpdate(CCmdTarget* pTarget, BOOL bDisableIfNoHndler);
+
+    BOOL m_bEnableChanged;
+    BOOL m_bContinueRouting;
+    UINT m_nIndexMax;
+};
 
 /////////////////////////////////////////////////////////////////////////////
 // CCmdTarget
@@ -307,6 +346,21 @@ public:
 
     // Dialog data
     BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
+    void UpdateDialogControls(CCmdTarget* pTarget, BOOL bDisableIfNoHndler);
+
+    // Menus and frames
+    CMenu* GetMenu() const;
+    BOOL SetMenu(CMenu* pMenu);
+    CMenu* GetSystemMenu(BOOL bRevert) const;
+    void DrawMenuBar();
+    CFrameWnd* GetParentFrame() const;
+    CFrameWnd* GetTopLevelFrame() const;
+
+    // Tool tips for child controls (text comes from TTN_NEEDTEXT handlers)
+    BOOL EnableToolTips(BOOL bEnable = TRUE);
+    virtual INT_PTR OnToolHitTest(CPoint point, TOOLINFO* pTI) const;
+    void FilterToolTipMessage(MSG* pMsg);
+    static void PASCAL CancelToolTips(BOOL bKeys = FALSE);
 
     // Misc
     void DragAcceptFiles(BOOL bAccept = TRUE);
@@ -403,6 +457,8 @@ protected:
     afx_msg void OnSysCommand(UINT nID, LPARAM lParam);
     afx_msg UINT OnGetDlgCode();
     afx_msg void OnMenuSelect(UINT nItemID, UINT nFlags, HMENU hSysMenu);
+    afx_msg void OnInitMenuPopup(CMenu* pPopupMenu, UINT nIndex, BOOL bSysMenu);
+    afx_msg LRESULT OnMenuChar(UINT nChar, UINT nFlags, CMenu* pMenu);
 
     WNDPROC m_pfnSuper;   // the window procedure AfxWndProc passes unhandled messages to
     UINT m_nFlags;        // WF_ flags

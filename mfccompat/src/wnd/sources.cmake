@@ -5,4 +5,6 @@ list(APPEND ZOAFX_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/thread.cpp
   ${CMAKE_CURRENT_LIST_DIR}/dialog.cpp
   ${CMAKE_CURRENT_LIST_DIR}/extdll.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/wndmenu.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/wndtips.cpp
 )

@@ -177,7 +177,7 @@ BOOL CWinThread::OnIdle(LONG lCount)
         CWnd* pMainWnd = m_pMainWnd;
         if (pMainWnd != NULL && pMainWnd->m_hWnd != NULL && pMainWnd->IsWindowVisible())
         {
-            zoafx::WndAccess::CallWindowProc(pMainWnd, WM_IDLEUPDATECMDUI, TRUE, 0);
+            AfxCallWndProc(pMainWnd, pMainWnd->m_hWnd, WM_IDLEUPDATECMDUI, TRUE, 0);
             pMainWnd->SendMessageToDescendants(WM_IDLEUPDATECMDUI, TRUE, 0, TRUE, TRUE);
         }
         return TRUE;

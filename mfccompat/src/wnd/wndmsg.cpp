@@ -204,6 +204,14 @@ BOOL CallWndHandler(CWnd* pWnd, const AFX_MSGMAP_ENTRY* pEntry, UINT message, WP
             static_cast<int>(wParam), reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
         lResult = TRUE;
         break;
+    case AfxSig_vMwb:
+        (pWnd->*Handler<void (CWnd::*)(CMenu*, UINT, BOOL)>(pEntry))(
+            CMenu::FromHandle(reinterpret_cast<HMENU>(wParam)), LOWORD(lParam), HIWORD(lParam));
+        break;
+    case AfxSig_lwwM:
+        lResult = (pWnd->*Handler<LRESULT (CWnd::*)(UINT, UINT, CMenu*)>(pEntry))(
+            LOWORD(wParam), HIWORD(wParam), CMenu::FromHandle(reinterpret_cast<HMENU>(lParam)));
+        break;
     case AfxSig_vwwh:
         (pWnd->*Handler<void (CWnd::*)(UINT, UINT, HMENU)>(pEntry))(LOWORD(wParam), HIWORD(wParam), reinterpret_cast<HMENU>(lParam));
         break;
@@ -270,6 +278,15 @@ BOOL CallCmdHandler(CCmdTarget* pTarget, const AFX_MSGMAP_ENTRY* pEntry, UINT nI
     case AfxSig_vw:
         (pTarget->*Handler<void (CCmdTarget::*)(UINT)>(pEntry))(nID);
         return TRUE;
+    case AfxSig_vCmdUI:
+    {
+        CCmdUI* pCmdUI = static_cast<CCmdUI*>(pExtra);
+        if (pCmdUI == NULL)
+            return FALSE;
+        pCmdUI->m_bContinueRouting = FALSE;
+        (pTarget->*Handler<void (CCmdTarget::*)(CCmdUI*)>(pEntry))(pCmdUI);
+        return !pCmdUI->m_bContinueRouting;
+    }
     }
     if (pNotify == NULL || pNotify->pResult == NULL)
         return FALSE;
@@ -388,6 +405,7 @@ void CCmdTarget::RestoreWaitCursor()
 // CWnd: dispatch
 
 BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
+    ON_WM_INITMENUPOPUP()
     ON_WM_CTLCOLOR()
     ON_WM_DRAWITEM()
     ON_WM_MEASUREITEM()
@@ -545,17 +563,44 @@ HBRUSH CWnd::OnCtlColor(CDC*, CWnd* pWnd, UINT)
 
 void CWnd::OnDrawItem(int, LPDRAWITEMSTRUCT lpDrawItemStruct)
 {
-    if (lpDrawItemStruct != NULL && lpDrawItemStruct->CtlType != ODT_MENU &&
-        ReflectLastMsg(lpDrawItemStruct->hwndItem))
-        return;
+    if (lpDrawItemStruct != NULL)
+    {
+        if (lpDrawItemStruct->CtlType == ODT_MENU)
+        {
+            // Owner-drawn menu items are drawn by the menu's permanent object.
+            CMenu* pMenu = CMenu::FromHandlePermanent(reinterpret_cast<HMENU>(lpDrawItemStruct->hwndItem));
+            if (pMenu != NULL)
+            {
+                pMenu->DrawItem(lpDrawItemStruct);
+                return;
+            }
+        }
+        else if (ReflectLastMsg(lpDrawItemStruct->hwndItem))
+        {
+            return;
+        }
+    }
     Default();
 }
 
 void CWnd::OnMeasureItem(int, LPMEASUREITEMSTRUCT lpMeasureItemStruct)
 {
-    if (lpMeasureItemStruct != NULL && lpMeasureItemStruct->CtlType != ODT_MENU &&
-        ReflectLastMsg(::GetDlgItem(m_hWnd, static_cast<int>(lpMeasureItemStruct->CtlID))))
-        return;
+    if (lpMeasureItemStruct != NULL)
+    {
+        if (lpMeasureItemStruct->CtlType == ODT_MENU)
+        {
+            CMenu* pMenu = zoafx::FindPermanentMenuOfItem(this, lpMeasureItemStruct->itemID);
+            if (pMenu != NULL)
+            {
+                pMenu->MeasureItem(lpMeasureItemStruct);
+                return;
+            }
+        }
+        else if (ReflectLastMsg(::GetDlgItem(m_hWnd, static_cast<int>(lpMeasureItemStruct->CtlID))))
+        {
+            return;
+        }
+    }
     Default();
 }
 
@@ -650,3 +695,11 @@ void CWnd::OnSysChar(UINT, UINT, UINT) { Default(); }
 void CWnd::OnSysCommand(UINT, LPARAM) { Default(); }
 UINT CWnd::OnGetDlgCode() { return static_cast<UINT>(Default()); }
 void CWnd::OnMenuSelect(UINT, UINT, HMENU) { Default(); }
+LRESULT CWnd::OnMenuChar(UINT, UINT, CMenu*) { return Default(); }
+
+void CWnd::OnInitMenuPopup(CMenu* pPopupMenu, UINT, BOOL)
+{
+    // Remembered so that WM_MEASUREITEM, which names no menu, can find the item's menu.
+    WndState().hMenuLastPopup = pPopupMenu->GetSafeHmenu();
+    Default();
+}

@@ -56,7 +56,7 @@ void CWnd::SendMessageToDescendants(UINT message, WPARAM wParam, LPARAM lParam, 
         else if (CWnd* pWnd = CWnd::FromHandlePermanent(hWndChild))
         {
             // Straight to the object, as if the message had arrived through its window.
-            zoafx::WndAccess::CallWindowProc(pWnd, message, wParam, lParam);
+            AfxCallWndProc(pWnd, hWndChild, message, wParam, lParam);
         }
         if (bDeep && ::GetTopWindow(hWndChild) != NULL)
         {
@@ -66,8 +66,12 @@ void CWnd::SendMessageToDescendants(UINT message, WPARAM wParam, LPARAM lParam, 
     }
 }
 
-BOOL CWnd::PreTranslateMessage(MSG*)
+BOOL CWnd::PreTranslateMessage(MSG* pMsg)
 {
+    // A window with tool tips watches the mouse over itself and its children.
+    if ((m_nFlags & WF_TOOLTIPS) && m_hWnd != NULL && pMsg != NULL &&
+        (pMsg->hwnd == m_hWnd || ::IsChild(m_hWnd, pMsg->hwnd)))
+        FilterToolTipMessage(pMsg);
     return FALSE;
 }
 

@@ -13,10 +13,21 @@ struct WndThreadState
     HHOOK hHookCbt;
     MSG msgLast;
     MSG msgCurrent;
+    HMENU hMenuLastPopup;   // the popup of the last WM_INITMENUPOPUP
+    // The thread's tool-tip control for EnableToolTips and the tool it shows.
+    HWND hWndToolTip;
+    HWND hWndToolTipOwner;
+    bool bHasTool;
+    INT_PTR nLastHit;
+    TTTOOLINFOW lastTool;
 };
 
 WndThreadState& WndState();
 CHandleMap<CWnd, HWND>& WndMap();
+
+// The permanent CMenu of the menu that holds item nID: searched in pWnd's menu bar, its
+// system menu and the last popup opened on this thread. NULL when none has one.
+CMenu* FindPermanentMenuOfItem(CWnd* pWnd, UINT nID);
 
 // The layer's own access to CWnd internals.
 struct WndAccess

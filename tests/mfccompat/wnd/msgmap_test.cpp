@@ -581,3 +581,48 @@ TEST(MessageMapInheritance, DerivedEntriesComeFirstAndBaseEntriesStillWork)
 }
 
 } // namespace
+
+namespace {
+
+class CCountingWnd : public CWnd
+{
+public:
+    int received = 0;
+    LRESULT defaultResult = -1;
+protected:
+    afx_msg LRESULT OnPing(WPARAM wParam, LPARAM lParam)
+    {
+        received += static_cast<int>(wParam + lParam);
+        // Default() works on the message being delivered, also when it came straight to the object.
+        defaultResult = Default();
+        return 0;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CCountingWnd, CWnd)
+    ON_MESSAGE(WM_APP + 9, &CCountingWnd::OnPing)
+END_MESSAGE_MAP()
+
+TEST(MessagesToDescendants, ReachChildrenAndGrandchildrenOrOnlyPermanentObjects)
+{
+    CWnd top;
+    ASSERT_TRUE(top.CreateEx(0, AfxRegisterWndClass(0), L"top", WS_POPUP, 0, 0, 100, 100, NULL, NULL));
+    CCountingWnd child;
+    ASSERT_TRUE(child.Create(NULL, L"child", WS_VISIBLE, CRect(0, 0, 50, 50), &top, 1));
+    CCountingWnd grandchild;
+    ASSERT_TRUE(grandchild.Create(NULL, L"grandchild", WS_VISIBLE, CRect(0, 0, 20, 20), &child, 2));
+    wndtest::CreatePlainWindow(L"STATIC", WS_CHILD, top.m_hWnd, 3);
+
+    top.SendMessageToDescendants(WM_APP + 9, 1, 2, TRUE, TRUE);
+    EXPECT_EQ(3, child.received);
+    EXPECT_EQ(3, grandchild.received);
+    EXPECT_EQ(0, child.defaultResult);
+
+    top.SendMessageToDescendants(WM_APP + 9, 10, 0, FALSE, FALSE);
+    EXPECT_EQ(13, child.received);
+    EXPECT_EQ(3, grandchild.received) << "not deep";
+    top.DestroyWindow();
+}
+
+} // namespace

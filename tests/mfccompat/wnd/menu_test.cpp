@@ -1,0 +1,179 @@
+// Menus seen from windows: menu messages with CMenu arguments, owner-drawn menu items drawn
+// by their permanent CMenu, and command-UI updates of menu items and controls.
+#include "wnd_test_support.h"
+
+#include <vector>
+
+namespace {
+
+enum
+{
+    ID_ITEM_OPEN = 500,
+    ID_ITEM_SAVE = 501,
+    ID_ITEM_QUIT = 502,
+    IDC_APPLY = 70,
+    IDC_AUTO = 71,
+};
+
+class COwnerDrawnMenu : public CMenu
+{
+public:
+    std::vector<UINT> drawn;
+    std::vector<UINT> measured;
+    void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) override { drawn.push_back(lpDrawItemStruct->itemID); }
+    void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct) override
+    {
+        measured.push_back(lpMeasureItemStruct->itemID);
+        lpMeasureItemStruct->itemHeight = 21;
+    }
+};
+
+class CMenuWnd : public CWnd
+{
+public:
+    std::vector<std::string> calls;
+    HMENU popupSeen = NULL;
+    bool saveEnabled = false;
+    bool openChecked = true;
+
+protected:
+    afx_msg void OnInitMenuPopup(CMenu* pPopupMenu, UINT nIndex, BOOL bSysMenu)
+    {
+        popupSeen = pPopupMenu->GetSafeHmenu();
+        calls.push_back("OnInitMenuPopup " + std::to_string(nIndex) + " " + std::to_string(bSysMenu));
+        CWnd::OnInitMenuPopup(pPopupMenu, nIndex, bSysMenu);
+    }
+    afx_msg LRESULT OnMenuChar(UINT nChar, UINT nFlags, CMenu* pMenu)
+    {
+        calls.push_back("OnMenuChar " + std::to_string(nChar) + " " + std::to_string(nFlags) +
+                        (pMenu != NULL ? " menu" : " null"));
+        return MAKELRESULT(1, MNC_EXECUTE);
+    }
+    afx_msg void OnUpdateOpen(CCmdUI* pCmdUI) { pCmdUI->SetCheck(openChecked); }
+    afx_msg void OnUpdateSave(CCmdUI* pCmdUI) { pCmdUI->Enable(saveEnabled); }
+    afx_msg void OnApply() { }
+    afx_msg void OnUpdateApply(CCmdUI* pCmdUI) { pCmdUI->SetText(L"Apply now"); }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CMenuWnd, CWnd)
+    ON_WM_INITMENUPOPUP()
+    ON_WM_MENUCHAR()
+    ON_UPDATE_COMMAND_UI(ID_ITEM_OPEN, &CMenuWnd::OnUpdateOpen)
+    ON_UPDATE_COMMAND_UI(ID_ITEM_SAVE, &CMenuWnd::OnUpdateSave)
+    ON_BN_CLICKED(IDC_APPLY, &CMenuWnd::OnApply)
+    ON_UPDATE_COMMAND_UI(IDC_APPLY, &CMenuWnd::OnUpdateApply)
+END_MESSAGE_MAP()
+
+class MenuTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(wnd.CreateEx(0, AfxRegisterWndClass(0), L"menus", WS_OVERLAPPEDWINDOW, 0, 0, 300, 200, NULL, NULL));
+        ASSERT_TRUE(bar.CreateMenu());
+        ASSERT_TRUE(popup.CreatePopupMenu());
+        popup.AppendMenu(MF_STRING, ID_ITEM_OPEN, L"Open");
+        popup.AppendMenu(MF_OWNERDRAW, ID_ITEM_SAVE, reinterpret_cast<LPCTSTR>(0));
+        popup.AppendMenu(MF_STRING, ID_ITEM_QUIT, L"Quit");
+        bar.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(popup.m_hMenu), L"File");
+        ASSERT_TRUE(wnd.SetMenu(&bar));
+    }
+    void TearDown() override
+    {
+        wnd.SetMenu(NULL);
+        wnd.DestroyWindow();
+        popup.Detach();   // owned by the bar
+        bar.DestroyMenu();
+    }
+    CCmdUI ItemUI(UINT index)
+    {
+        CCmdUI ui;
+        ui.m_pMenu = &popup;
+        ui.m_nIndex = index;
+        ui.m_nID = popup.GetMenuItemID(static_cast<int>(index));
+        ui.m_nIndexMax = popup.GetMenuItemCount();
+        return ui;
+    }
+
+    CMenuWnd wnd;
+    CMenu bar;
+    COwnerDrawnMenu popup;
+};
+
+TEST_F(MenuTest, WindowMenuIsReachableAsCMenu)
+{
+    ASSERT_NE(nullptr, wnd.GetMenu());
+    EXPECT_EQ(bar.m_hMenu, wnd.GetMenu()->m_hMenu);
+    EXPECT_EQ(&bar, wnd.GetMenu()) << "the permanent object, not a temporary one";
+    CMenu* system = wnd.GetSystemMenu(FALSE);
+    ASSERT_NE(nullptr, system);
+    EXPECT_TRUE(::IsMenu(system->m_hMenu));
+    wnd.DrawMenuBar();
+}
+
+TEST_F(MenuTest, InitMenuPopupAndMenuCharCrackTheirArguments)
+{
+    wnd.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(popup.m_hMenu), MAKELPARAM(0, FALSE));
+    EXPECT_EQ(popup.m_hMenu, wnd.popupSeen);
+    EXPECT_EQ("OnInitMenuPopup 0 0", wnd.calls.back());
+    EXPECT_EQ(MAKELRESULT(1, MNC_EXECUTE),
+              wnd.SendMessage(WM_MENUCHAR, MAKEWPARAM('s', MF_POPUP), reinterpret_cast<LPARAM>(popup.m_hMenu)));
+    EXPECT_EQ("OnMenuChar 115 16 menu", wnd.calls.back());
+}
+
+TEST_F(MenuTest, OwnerDrawnItemsAreDrawnAndMeasuredByTheirMenuObject)
+{
+    MEASUREITEMSTRUCT measure = {};
+    measure.CtlType = ODT_MENU;
+    measure.itemID = ID_ITEM_SAVE;
+    EXPECT_EQ(TRUE, wnd.SendMessage(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&measure)));
+    EXPECT_EQ(std::vector<UINT>{ ID_ITEM_SAVE }, popup.measured);
+    EXPECT_EQ(21u, measure.itemHeight);
+
+    DRAWITEMSTRUCT draw = {};
+    draw.CtlType = ODT_MENU;
+    draw.itemID = ID_ITEM_SAVE;
+    draw.hwndItem = reinterpret_cast<HWND>(popup.m_hMenu);
+    EXPECT_EQ(TRUE, wnd.SendMessage(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&draw)));
+    EXPECT_EQ(std::vector<UINT>{ ID_ITEM_SAVE }, popup.drawn);
+}
+
+TEST_F(MenuTest, UpdateHandlersEnableAndCheckMenuItems)
+{
+    CCmdUI open = ItemUI(0);
+    EXPECT_TRUE(open.DoUpdate(&wnd, TRUE));
+    EXPECT_TRUE(popup.GetMenuState(ID_ITEM_OPEN, MF_BYCOMMAND) & MF_CHECKED);
+
+    CCmdUI save = ItemUI(1);
+    EXPECT_TRUE(save.DoUpdate(&wnd, TRUE));
+    EXPECT_TRUE(popup.GetMenuState(ID_ITEM_SAVE, MF_BYCOMMAND) & MF_GRAYED);
+    wnd.saveEnabled = true;
+    save.DoUpdate(&wnd, TRUE);
+    EXPECT_FALSE(popup.GetMenuState(ID_ITEM_SAVE, MF_BYCOMMAND) & MF_GRAYED);
+}
+
+TEST_F(MenuTest, ItemsWithoutAnyHandlerAreDisabledOnlyWhenAsked)
+{
+    CCmdUI quit = ItemUI(2);
+    EXPECT_FALSE(quit.DoUpdate(&wnd, FALSE));
+    EXPECT_FALSE(popup.GetMenuState(ID_ITEM_QUIT, MF_BYCOMMAND) & MF_GRAYED);
+    EXPECT_FALSE(quit.DoUpdate(&wnd, TRUE));
+    EXPECT_TRUE(popup.GetMenuState(ID_ITEM_QUIT, MF_BYCOMMAND) & MF_GRAYED);
+}
+
+TEST_F(MenuTest, UpdateDialogControlsUpdatesChildControls)
+{
+    HWND apply = wndtest::CreatePlainWindow(L"BUTTON", WS_CHILD | BS_PUSHBUTTON, wnd.m_hWnd, IDC_APPLY);
+    HWND automatic = wndtest::CreatePlainWindow(L"BUTTON", WS_CHILD | BS_AUTOCHECKBOX, wnd.m_hWnd, IDC_AUTO);
+    HWND orphan = wndtest::CreatePlainWindow(L"BUTTON", WS_CHILD | BS_PUSHBUTTON, wnd.m_hWnd, IDC_AUTO + 1);
+    wnd.UpdateDialogControls(&wnd, TRUE);
+    wchar_t text[32] = L"";
+    ::GetWindowTextW(apply, text, 32);
+    EXPECT_STREQ(L"Apply now", text);
+    EXPECT_TRUE(::IsWindowEnabled(apply));
+    EXPECT_TRUE(::IsWindowEnabled(automatic)) << "automatic buttons need no handler";
+    EXPECT_FALSE(::IsWindowEnabled(orphan));
+}
+
+} // namespace

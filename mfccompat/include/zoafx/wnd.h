@@ -6,6 +6,7 @@
 //   CCmdUI            one user-interface item (menu item or control) during command-UI updates
 //   CWinThread        a user-interface thread: message pump, idle processing, routing
 //   CWinApp           the application object: start-up data, AfxWinMain's InitInstance/Run
+//   CWaitCursor       the wait cursor for a scope
 //   CDialog           modal and modeless dialogs from templates found in the resource chain
 //   CDataExchange     the state of one UpdateData pass; DDX_ and DDV_ functions
 //   CDynLinkLibrary   an extension DLL in the resource chain (AFX_EXTENSION_MODULE)
@@ -530,6 +531,8 @@ public:
     virtual int Run();
     virtual BOOL OnIdle(LONG lCount);
     virtual int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt);
+    // 1 shows the wait cursor (nesting), -1 ends one level, 0 shows it again if still waiting.
+    virtual void DoWaitCursor(int nCode);
 
     HICON LoadIcon(LPCTSTR lpszResourceName) const;
     HICON LoadIcon(UINT nIDResource) const;
@@ -540,6 +543,18 @@ public:
 
     // Called by AfxWinInit: fills the names derived from the executable.
     void SetCurrentHandles();
+
+    int m_nWaitCursorCount;
+    HCURSOR m_hcurWaitCursorRestore;
+};
+
+// Shows the wait cursor for the lifetime of the object.
+class ZOAFX_API CWaitCursor
+{
+public:
+    CWaitCursor();
+    ~CWaitCursor();
+    void Restore();
 };
 
 ZOAFX_API CWinApp* AFXAPI AfxGetApp();

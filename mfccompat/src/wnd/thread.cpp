@@ -195,7 +195,8 @@ IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
 
 CWinApp::CWinApp(LPCTSTR lpszAppName)
     : m_pszAppName(Duplicate(lpszAppName)), m_hInstance(NULL), m_lpCmdLine(NULL), m_nCmdShow(SW_SHOWNORMAL),
-      m_pszExeName(NULL), m_pszHelpFilePath(NULL), m_pszProfileName(NULL), m_pszRegistryKey(NULL)
+      m_pszExeName(NULL), m_pszHelpFilePath(NULL), m_pszProfileName(NULL), m_pszRegistryKey(NULL),
+      m_nWaitCursorCount(0), m_hcurWaitCursorRestore(NULL)
 {
     // The application object is the thread object of the thread that constructs it.
     m_nThreadID = ::GetCurrentThreadId();
@@ -295,6 +296,40 @@ int CWinApp::DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT)
             hWndOwner = ::GetLastActivePopup(pMainWnd->m_hWnd);
     }
     return ::MessageBoxW(hWndOwner, lpszPrompt != NULL ? lpszPrompt : L"", m_pszAppName, nType);
+}
+
+void CWinApp::DoWaitCursor(int nCode)
+{
+    if (nCode > 0)
+    {
+        HCURSOR hPrevious = ::SetCursor(::LoadCursorW(NULL, IDC_WAIT));
+        if (m_nWaitCursorCount++ == 0)
+            m_hcurWaitCursorRestore = hPrevious;
+    }
+    else if (nCode < 0)
+    {
+        if (m_nWaitCursorCount > 0 && --m_nWaitCursorCount == 0)
+            ::SetCursor(m_hcurWaitCursorRestore);
+    }
+    else if (m_nWaitCursorCount > 0)
+    {
+        ::SetCursor(::LoadCursorW(NULL, IDC_WAIT));
+    }
+}
+
+CWaitCursor::CWaitCursor()
+{
+    AfxGetApp()->BeginWaitCursor();
+}
+
+CWaitCursor::~CWaitCursor()
+{
+    AfxGetApp()->EndWaitCursor();
+}
+
+void CWaitCursor::Restore()
+{
+    AfxGetApp()->RestoreWaitCursor();
 }
 
 HICON CWinApp::LoadIcon(LPCTSTR lpszResourceName) const

@@ -386,19 +386,29 @@ BOOL CCmdTarget::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO*
     return FALSE;
 }
 
+// The application keeps the count of nested waits; without one each call acts alone.
 void CCmdTarget::BeginWaitCursor()
 {
-    ::SetCursor(::LoadCursorW(NULL, IDC_WAIT));
+    if (CWinApp* pApp = AfxGetApp())
+        pApp->DoWaitCursor(1);
+    else
+        ::SetCursor(::LoadCursorW(NULL, IDC_WAIT));
 }
 
 void CCmdTarget::EndWaitCursor()
 {
-    ::SetCursor(::LoadCursorW(NULL, IDC_ARROW));
+    if (CWinApp* pApp = AfxGetApp())
+        pApp->DoWaitCursor(-1);
+    else
+        ::SetCursor(::LoadCursorW(NULL, IDC_ARROW));
 }
 
 void CCmdTarget::RestoreWaitCursor()
 {
-    BeginWaitCursor();
+    if (CWinApp* pApp = AfxGetApp())
+        pApp->DoWaitCursor(0);
+    else
+        ::SetCursor(::LoadCursorW(NULL, IDC_WAIT));
 }
 
 /////////////////////////////////////////////////////////////////////////////

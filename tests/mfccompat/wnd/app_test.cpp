@@ -144,3 +144,26 @@ TEST(DialogValidation, TextThatIsNoNumberIsRefusedAndTheFieldGetsTheFocus)
 }
 
 } // namespace
+
+namespace {
+
+TEST(WaitCursor, ShowsTheWaitCursorWhileItLivesAndNests)
+{
+    HCURSOR arrow = ::LoadCursorW(NULL, IDC_ARROW);
+    HCURSOR wait = ::LoadCursorW(NULL, IDC_WAIT);
+    ::SetCursor(arrow);
+    {
+        CWaitCursor outer;
+        EXPECT_EQ(wait, ::GetCursor());
+        {
+            CWaitCursor inner;
+            ::SetCursor(arrow);   // e.g. a message box changed it
+            inner.Restore();
+            EXPECT_EQ(wait, ::GetCursor());
+        }
+        EXPECT_EQ(wait, ::GetCursor()) << "the outer wait still runs";
+    }
+    EXPECT_EQ(arrow, ::GetCursor());
+}
+
+} // namespace

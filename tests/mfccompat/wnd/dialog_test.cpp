@@ -4,6 +4,8 @@
 #include "wnd_test_support.h"
 #include "wnd_test_resources.h"
 
+#include <zotest/resource_counter.h>
+
 #include <functional>
 
 namespace {
@@ -323,6 +325,22 @@ TEST_F(ExtensionDll, UnloadingTheDllTakesItsResourcesOutOfTheChain)
     EXPECT_FALSE(text.LoadString(IDS_EXTENSION));
     CDialog dialog(IDD_EXTENSION);
     EXPECT_EQ(-1, dialog.DoModal());
+}
+
+} // namespace
+
+namespace {
+
+TEST(DialogLeaks, ModalDialogCyclesLeaveNothingBehind)
+{
+    ZOTEST_EXPECT_NO_LEAKS(10, [] {
+        CTestDialog dialog;
+        dialog.bindEdit = true;
+        dialog.m_name = L"cycle";
+        dialog.onInit = [](CTestDialog& dlg) { dlg.PostMessage(WM_TEST_END, 3); };
+        dialog.DoModal();
+        wndtest::RunIdle();
+    });
 }
 
 } // namespace

@@ -249,23 +249,38 @@ TEST(HandleMap, AttachReplacesTheTemporaryObject)
     ::DestroyWindow(hWnd);
 }
 
-TEST(HandleMap, IdleTimeDeletesTemporaryObjects)
+// Plain windows with a temporary object each; the heap count before the objects were made.
+class TemporaryObjects : public testing::Test
 {
-    const int count = 40;
-    std::vector<HWND> windows;
-    for (int i = 0; i < count; ++i)
-        windows.push_back(wndtest::CreatePlainWindow(L"STATIC", WS_POPUP));
-    wndtest::RunIdle();
+protected:
+    static constexpr int count = 40;
 
-    const long before = zotest::CountHeapBlocks();
-    for (HWND hWnd : windows)
-        CWnd::FromHandle(hWnd);
-    const long withTemporaries = zotest::CountHeapBlocks();
+    void SetUp() override
+    {
+        for (int i = 0; i < count; ++i)
+            windows.push_back(wndtest::CreatePlainWindow(L"STATIC", WS_POPUP));
+        wndtest::RunIdle();
+        before = zotest::CountHeapBlocks();
+        for (HWND hWnd : windows)
+            CWnd::FromHandle(hWnd);
+        withTemporaries = zotest::CountHeapBlocks();
+    }
+    void TearDown() override
+    {
+        for (HWND hWnd : windows)
+            ::DestroyWindow(hWnd);
+    }
+
+    std::vector<HWND> windows;
+    long before = 0;
+    long withTemporaries = 0;
+};
+
+TEST_F(TemporaryObjects, IdleTimeDeletesThem)
+{
     EXPECT_GE(withTemporaries - before, count);
     wndtest::RunIdle();
     EXPECT_LE(zotest::CountHeapBlocks(), withTemporaries - count);
-    for (HWND hWnd : windows)
-        ::DestroyWindow(hWnd);
 }
 
 void CALLBACK QuitWithFive(HWND, UINT, UINT_PTR, DWORD)
@@ -273,26 +288,15 @@ void CALLBACK QuitWithFive(HWND, UINT, UINT_PTR, DWORD)
     ::PostQuitMessage(5);
 }
 
-TEST(HandleMap, TheApplicationLoopFreesTemporaryObjectsWhenItGoesIdle)
+TEST_F(TemporaryObjects, TheApplicationLoopDeletesThemWhenItGoesIdle)
 {
-    const int count = 40;
-    std::vector<HWND> windows;
-    for (int i = 0; i < count; ++i)
-        windows.push_back(wndtest::CreatePlainWindow(L"STATIC", WS_POPUP));
-    wndtest::RunIdle();
-    const long before = zotest::CountHeapBlocks();
-    for (HWND hWnd : windows)
-        CWnd::FromHandle(hWnd);
-    EXPECT_GE(zotest::CountHeapBlocks() - before, count);
-
+    EXPECT_GE(withTemporaries - before, count);
     // The loop goes idle first; a timer ends it afterwards.
     ::SetTimer(windows[0], 1, 30, &QuitWithFive);
     CWinThread* thread = AfxGetThread();
     EXPECT_EQ(5, thread->CWinThread::Run());
     ::KillTimer(windows[0], 1);
     EXPECT_LT(zotest::CountHeapBlocks() - before, count);
-    for (HWND hWnd : windows)
-        ::DestroyWindow(hWnd);
 }
 
 // ---- dynamic creation ----

@@ -75,7 +75,7 @@ inline void UseFilesAndCollections(CFile* file, CList<CWnd*, CWnd*>& windows)
     try {
         AfxThrowFileException(CFileException::endOfFile, -1, L"tree.bin");
     } catch (CFileException* error) {
-        (void)error->m_cause;
+        (void)(error->m_cause == CFileException::genericException);
         error->Delete();
     } catch (CException* error) {
         error->Delete();
@@ -117,6 +117,8 @@ inline void UseFilesAndCollections(CFile* file, CList<CWnd*, CWnd*>& windows)
     (void)windows.Find(nullptr);
     windows.RemoveAll();
 
+    CList<CWnd*> controls(10);
+    controls.AddTail(static_cast<CWnd*>(nullptr));
     CList<DWORD, const DWORD&> nodes;
     nodes.AddTail(DWORD(1));
 
@@ -365,7 +367,7 @@ protected:
     afx_msg BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message) { return CWnd::OnSetCursor(pWnd, nHitTest, message); }
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor) { return CWnd::OnCtlColor(pDC, pWnd, nCtlColor); }
     afx_msg void OnHeaderItemClick(NMHDR*, LRESULT* pResult) { *pResult = 0; }
-    afx_msg void OnCheckClicked() {}
+    afx_msg void OnCheckClicked() { (void)Default(); }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -460,6 +462,8 @@ inline void UseWindow(CWnd* wnd, CWnd* parent)
     (void)wnd->EnableWindow(FALSE);
     CString text;
     wnd->GetWindowText(text);
+    (void)wnd->GetWindowTextLength();
+    wnd->MapWindowPoints(parent, &rect);
     wnd->SetWindowText(L"Dialog");
     (void)wnd->SetFocus();
     (void)CWnd::GetFocus();
@@ -624,8 +628,6 @@ inline void UseStaticsAndIndicators(CStatic& label, CProgressCtrl& progress, CSp
 // ---------------------------------------------------------------------------------------
 // skinned dialog and message boxes
 
-#if 0 // not in the layer yet: CDialog (constructors, DoModal, OnInitDialog, EndDialog, OnOK,
-      // OnCancel), CDataExchange, CWnd::DoDataExchange, DDX_Control
 class SurfaceDialog : public CDialog
 {
 public:
@@ -649,7 +651,6 @@ inline void UseDialog(SurfaceDialog& dialog)
     (void)dialog.DoModal();
     dialog.EndDialog(IDOK);
 }
-#endif
 
 // ---------------------------------------------------------------------------------------
 // scroll bar

@@ -177,3 +177,31 @@ TEST_F(MenuTest, UpdateDialogControlsUpdatesChildControls)
 }
 
 } // namespace
+
+namespace {
+
+TEST(ParentFrame, WindowsFindTheFrameAroundThem)
+{
+    CFrameWnd* frame = new CFrameWnd;   // frames delete themselves when destroyed
+    ASSERT_TRUE(frame->Create(NULL, L"frame"));
+    CWnd pane;
+    ASSERT_TRUE(pane.Create(NULL, L"pane", WS_VISIBLE, CRect(0, 0, 50, 50), frame, 1));
+    CWnd inner;
+    ASSERT_TRUE(inner.Create(NULL, L"inner", WS_VISIBLE, CRect(0, 0, 10, 10), &pane, 2));
+
+    EXPECT_EQ(frame, pane.GetParentFrame());
+    EXPECT_EQ(frame, inner.GetParentFrame());
+    EXPECT_EQ(frame, inner.GetTopLevelFrame());
+    EXPECT_EQ(frame, frame->GetTopLevelFrame());
+    EXPECT_EQ(nullptr, frame->GetParentFrame());
+
+    CWnd loose;
+    ASSERT_TRUE(loose.CreateEx(0, AfxRegisterWndClass(0), L"loose", WS_POPUP, 0, 0, 10, 10, NULL, NULL));
+    EXPECT_EQ(nullptr, loose.GetParentFrame());
+    EXPECT_EQ(nullptr, loose.GetTopLevelFrame());
+    loose.DestroyWindow();
+    frame->DestroyWindow();
+    EXPECT_EQ(NULL, pane.m_hWnd);
+}
+
+} // namespace

@@ -1,0 +1,91 @@
+#include <afxwin.h>
+
+#include "GalleryCapture.h"
+
+namespace {
+
+// Paints `hWnd`'s client area at `origin` of `hdc`, then its visible children, bottom of the
+// z-order first, each with its frame.
+void RenderClientTree(HWND hWnd, HDC hdc, POINT origin)
+{
+    POINT previous;
+    ::SetViewportOrgEx(hdc, origin.x, origin.y, &previous);
+    ::SendMessage(hWnd, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(hdc), PRF_CLIENT | PRF_ERASEBKGND);
+    ::SetViewportOrgEx(hdc, previous.x, previous.y, NULL);
+
+    HWND hChild = ::GetWindow(hWnd, GW_CHILD);
+    if (hChild)
+        hChild = ::GetWindow(hChild, GW_HWNDLAST);
+    for (; hChild; hChild = ::GetWindow(hChild, GW_HWNDPREV)) {
+        // The style, not IsWindowVisible: the main window stays hidden while it is captured.
+        if (!(::GetWindowLong(hChild, GWL_STYLE) & WS_VISIBLE))
+            continue;
+        RECT frame, client;
+        ::GetWindowRect(hChild, &frame);
+        ::MapWindowPoints(NULL, hWnd, reinterpret_cast<POINT*>(&frame), 2);
+        POINT clientOrigin = {0, 0};
+        ::ClientToScreen(hChild, &clientOrigin);
+        ::ScreenToClient(hWnd, &clientOrigin);
+        ::GetClientRect(hChild, &client);
+        ::SetViewportOrgEx(hdc, origin.x + frame.left, origin.y + frame.top, &previous);
+        ::SendMessage(hChild, WM_PRINT, reinterpret_cast<WPARAM>(hdc), PRF_NONCLIENT);
+        ::SetViewportOrgEx(hdc, previous.x, previous.y, NULL);
+        const POINT childOrigin = {origin.x + clientOrigin.x, origin.y + clientOrigin.y};
+        RenderClientTree(hChild, hdc, childOrigin);
+    }
+}
+
+bool WriteBitmapFile(const CString& path, const BITMAPINFOHEADER& header, const void* bits, DWORD size)
+{
+    BITMAPFILEHEADER file = {};
+    file.bfType = 0x4D42; // "BM"
+    file.bfOffBits = sizeof(file) + sizeof(header);
+    file.bfSize = file.bfOffBits + size;
+    HANDLE hFile = ::CreateFileW(path, GENERIC_WRITE, 0, NULL, CREATE_ALWAYS, 0, NULL);
+    if (hFile == INVALID_HANDLE_VALUE)
+        return false;
+    DWORD written = 0;
+    const bool ok = ::WriteFile(hFile, &file, sizeof(file), &written, NULL) &&
+                    ::WriteFile(hFile, &header, sizeof(header), &written, NULL) &&
+                    ::WriteFile(hFile, bits, size, &written, NULL);
+    ::CloseHandle(hFile);
+    return ok;
+}
+
+} // namespace
+
+bool SaveWindowClientBitmap(HWND hWnd, const CString& path)
+{
+    RECT client;
+    if (!::GetClientRect(hWnd, &client) || client.right <= 0 || client.bottom <= 0)
+        return false;
+    BITMAPINFO info = {};
+    info.bmiHeader.biSize = sizeof(info.bmiHeader);
+    info.bmiHeader.biWidth = client.right;
+    info.bmiHeader.biHeight = client.bottom;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 24;
+    info.bmiHeader.biCompression = BI_RGB;
+    void* pBits = NULL;
+    HDC hScreen = ::GetDC(NULL);
+    HDC hMem = ::CreateCompatibleDC(hScreen);
+    HBITMAP hDib = ::CreateDIBSection(hScreen, &info, DIB_RGB_COLORS, &pBits, NULL, 0);
+    ::ReleaseDC(NULL, hScreen);
+    if (!hDib || !hMem) {
+        if (hDib)
+            ::DeleteObject(hDib);
+        if (hMem)
+            ::DeleteDC(hMem);
+        return false;
+    }
+    HGDIOBJ hOld = ::SelectObject(hMem, hDib);
+    const POINT origin = {0, 0};
+    RenderClientTree(hWnd, hMem, origin);
+    ::GdiFlush();
+    const DWORD stride = (static_cast<DWORD>(client.right) * 3 + 3) & ~3u;
+    const bool ok = WriteBitmapFile(path, info.bmiHeader, pBits, stride * client.bottom);
+    ::SelectObject(hMem, hOld);
+    ::DeleteObject(hDib);
+    ::DeleteDC(hMem);
+    return ok;
+}

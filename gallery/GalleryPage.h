@@ -1,0 +1,60 @@
+// A gallery page: one control family shown in a themed window. Pages derive from
+// CGalleryPage, draw their background in DrawPage and create their controls in OnCreatePage.
+// To add a page: write the class and add one line to the table in GalleryPages.cpp.
+#pragma once
+#include <afxwin.h>
+
+#include "core/ZoCtrl.h"
+
+class CGalleryPage : public ZoControls::CZoWnd
+{
+public:
+    CGalleryPage();
+    virtual ~CGalleryPage();
+
+    BOOL CreatePage(CWnd* pParent, const CRect& rect, UINT nID);
+
+protected:
+    // Child controls of the page; called once the page window exists.
+    virtual BOOL OnCreatePage();
+    // Paints everything that isn't a child control, into an off-screen DC.
+    virtual void DrawPage(CDC& dc, const CRect& client);
+
+    afx_msg void OnPaint();
+    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void _paintInto(CDC& dc);
+};
+
+// WM_PRINTCLIENT: runs `paint` on a CDC around the DC the message brings.
+template <class Paint>
+LRESULT PaintForPrintClient(WPARAM wParam, Paint paint)
+{
+    const HDC hdc = reinterpret_cast<HDC>(wParam);
+    if (!hdc)
+        return 0;
+    CDC dc;
+    dc.Attach(hdc);
+    paint(dc);
+    dc.Detach();
+    return 0;
+}
+
+// One registered page: its title (also the screenshot's file name) and how to make it.
+struct GalleryPageEntry
+{
+    const wchar_t* title;
+    CGalleryPage* (*create)();
+};
+
+template <class TPage>
+CGalleryPage* CreateGalleryPage()
+{
+    return new TPage;
+}
+
+// The registered pages, in the order the gallery lists them.
+const GalleryPageEntry* GetGalleryPages(int& count);

@@ -1,0 +1,17 @@
+// The gallery's pages, in the order they are listed. One line per page.
+#include <afxwin.h>
+
+#include "GalleryPage.h"
+#include "ThemePage.h"
+
+namespace {
+const GalleryPageEntry kPages[] = {
+    {L"Theme", &CreateGalleryPage<CThemePage>},
+};
+} // namespace
+
+const GalleryPageEntry* GetGalleryPages(int& count)
+{
+    count = static_cast<int>(sizeof(kPages) / sizeof(kPages[0]));
+    return kPages;
+}

@@ -2,7 +2,6 @@
 // (not MinGW's C99 one) so that %s in a wide format means a wide string, as in MFC.
 #include "stringdata.h"
 #include <wchar.h>
-#include <type_traits>
 
 namespace {
 
@@ -77,7 +76,7 @@ inline LPCWSTR StringBlockName(UINT nID)
 // characters themselves. Every memory read is checked first; a real text pointer is never
 // mistaken for an object unless its first bytes happen to address a string buffer.
 
-static_assert(std::is_same<va_list, char*>::value, "argument walking needs a plain va_list");
+static_assert(sizeof(va_list) == sizeof(char*), "argument walking needs a pointer-like va_list");
 
 bool IsReadable(const void* p, size_t nBytes)
 {
@@ -134,7 +133,7 @@ size_t ArgumentSize(wchar_t conversion, bool b64)
 // its characters. Stops at anything it cannot size.
 void RepairStringArguments(LPCWSTR pszFormat, va_list args)
 {
-    char* pCursor = args;
+    char* pCursor = (char*)args;
     for (const wchar_t* p = pszFormat; *p != 0; ++p)
     {
         if (*p != '%')

@@ -8,7 +8,7 @@
 // maps whose ON_ macros check each handler's type. Everything else is called with
 // plausible arguments so that parameter types and default arguments are exercised.
 //
-// Blocks inside `#if 0` name what the layer does not offer yet.
+// A block inside `#if 0` names what the layer does not offer yet.
 
 #include <afxwin.h>
 #include <afxcmn.h>
@@ -149,15 +149,12 @@ inline void UseApplication()
     (void)AfxGetResourceHandle();
     (void)AfxFindResourceHandle(L"BMP_ZO_EDIT", RT_BITMAP);
     (void)AfxGetThread();
-#if 0 // not in the layer yet: CWaitCursor, AFX_EXTENSION_MODULE, AfxInitExtensionModule,
-      // CDynLinkLibrary, AfxTermExtensionModule
     CWaitCursor wait;
 
     static AFX_EXTENSION_MODULE module = {};
     (void)AfxInitExtensionModule(module, nullptr);
     new CDynLinkLibrary(module);
     AfxTermExtensionModule(module);
-#endif
 }
 
 // ---------------------------------------------------------------------------------------
@@ -330,12 +327,10 @@ protected:
     afx_msg void OnSize(UINT nType, int cx, int cy) { CWnd::OnSize(nType, cx, cy); }
     afx_msg void OnPaint() { CWnd::OnPaint(); }
     afx_msg BOOL OnEraseBkgnd(CDC* pDC) { return CWnd::OnEraseBkgnd(pDC); }
-#if 0 // not in the layer yet: CWnd::OnInitMenuPopup, CWnd::OnMenuChar, ON_WM_INITMENUPOPUP, ON_WM_MENUCHAR
     afx_msg void OnInitMenuPopup(CMenu* pPopupMenu, UINT nIndex, BOOL bSysMenu)
     { CWnd::OnInitMenuPopup(pPopupMenu, nIndex, bSysMenu); }
     afx_msg LRESULT OnMenuChar(UINT nChar, UINT nFlags, CMenu* pMenu)
     { return CWnd::OnMenuChar(nChar, nFlags, pMenu); }
-#endif
     afx_msg void OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct)
     { CWnd::OnMeasureItem(nIDCtl, lpMeasureItemStruct); }
     afx_msg void OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct)
@@ -381,10 +376,8 @@ BEGIN_MESSAGE_MAP(SurfaceWnd, CWnd)
     ON_WM_SIZE()
     ON_WM_PAINT()
     ON_WM_ERASEBKGND()
-#if 0 // see above
     ON_WM_INITMENUPOPUP()
     ON_WM_MENUCHAR()
-#endif
     ON_WM_MEASUREITEM()
     ON_WM_DRAWITEM()
     ON_WM_MOUSEMOVE()
@@ -469,9 +462,7 @@ inline void UseWindow(CWnd* wnd, CWnd* parent)
     (void)CWnd::GetFocus();
     CDC* dc = wnd->GetDC();
     wnd->ReleaseDC(dc);
-#if 0 // not in the layer yet: CWnd::EnableToolTips
     (void)wnd->EnableToolTips(TRUE);
-#endif
     (void)wnd->GetDlgItem(801);
     (void)wnd->SetTimer(0x8018, 1000, nullptr);
     (void)wnd->KillTimer(0x8018);
@@ -482,11 +473,9 @@ inline void UseWindow(CWnd* wnd, CWnd* parent)
     (void)wnd->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
     (void)wnd->LockWindowUpdate();
     wnd->UnlockWindowUpdate();
-#if 0 // not in the layer yet: CWnd::GetMenu, CWnd::GetSystemMenu, CWnd::GetParentFrame
     (void)wnd->GetMenu();
     (void)wnd->GetSystemMenu(FALSE);
     (void)wnd->GetParentFrame();
-#endif
     (void)wnd->GetFont();
     wnd->SetFont(wnd->GetFont(), TRUE);
     wnd->SetRedraw(FALSE);
@@ -963,12 +952,10 @@ protected:
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct) { return CFrameWnd::OnCreate(lpCreateStruct); }
     afx_msg void OnDestroy() { CFrameWnd::OnDestroy(); }
     afx_msg void OnSize(UINT nType, int cx, int cy) { CFrameWnd::OnSize(nType, cx, cy); }
-#if 0 // not in the layer yet: CWnd::OnInitMenuPopup, CWnd::OnMenuChar (inherited by CFrameWnd)
     afx_msg void OnInitMenuPopup(CMenu* pPopupMenu, UINT nIndex, BOOL bSysMenu)
     { CFrameWnd::OnInitMenuPopup(pPopupMenu, nIndex, bSysMenu); }
     afx_msg LRESULT OnMenuChar(UINT nChar, UINT nFlags, CMenu* pMenu)
     { return CFrameWnd::OnMenuChar(nChar, nFlags, pMenu); }
-#endif
     DECLARE_MESSAGE_MAP()
 };
 
@@ -978,17 +965,13 @@ BEGIN_MESSAGE_MAP(SurfaceFrame, CFrameWnd)
     ON_WM_CREATE()
     ON_WM_DESTROY()
     ON_WM_SIZE()
-#if 0 // see above
     ON_WM_INITMENUPOPUP()
     ON_WM_MENUCHAR()
-#endif
 END_MESSAGE_MAP()
 
-inline void UseFrames(CWnd* wnd, CFrameWnd* frame)
+inline void UseFrames(CWnd* wnd)
 {
-#if 0 // not in the layer yet: CWnd::GetParentFrame
-    frame = wnd->GetParentFrame();
-#endif
+    CFrameWnd* frame = wnd->GetParentFrame();
     (void)frame->IsKindOf(RUNTIME_CLASS(CMDIChildWnd));
     (void)frame->GetActiveFrame();
     POSITION pos = frame->m_listControlBars.GetHeadPosition();
@@ -1004,9 +987,7 @@ inline void UseFrames(CWnd* wnd, CFrameWnd* frame)
     if (wnd->IsKindOf(RUNTIME_CLASS(CMDIFrameWnd))) {
         BOOL maximised = FALSE;
         CMDIChildWnd* child = static_cast<CMDIFrameWnd*>(wnd)->MDIGetActive(&maximised);
-#if 0 // not in the layer yet: CWnd::GetSystemMenu
         (void)child->GetSystemMenu(FALSE);
-#endif
         (void)child->GetMDIFrame();
     }
     CObject* created = RUNTIME_CLASS(SurfaceFrame)->CreateObject();

@@ -570,6 +570,33 @@ TEST(DCState, AnisotropicScaling)
     EXPECT_EQ(MM_ANISOTROPIC, dc.GetMapMode());
 }
 
+TEST(DCState, BrushOriginShiftsPatterns)
+{
+    zotest::Dib dib(4, 1, kWhite);
+    DibDC dc(dib);
+    CBitmap pattern;
+    const WORD rows[8] = { 0x55, 0x55, 0x55, 0x55, 0x55, 0x55, 0x55, 0x55 }; // 0 1 0 1 ...
+    pattern.CreateBitmap(8, 8, 1, 1, rows);
+    CBrush brush(&pattern);
+    dc.SetTextColor(kBlack);
+    dc.SetBkColor(kWhite);
+    CBrush* old = dc.SelectObject(&brush);
+    EXPECT_EQ(CPoint(0, 0), dc.SetBrushOrg(1, 0));
+    EXPECT_EQ(CPoint(1, 0), dc.GetBrushOrg());
+    dc.PatBlt(0, 0, 4, 1, PATCOPY);
+    dc.SelectObject(old);
+    EXPECT_NE(dib.Pixel(0, 0), dib.Pixel(1, 0));
+    COLORREF shifted = dib.Pixel(1, 0);
+    zotest::Dib unshifted(4, 1, kWhite);
+    DibDC plain(unshifted);
+    plain.SetTextColor(kBlack);
+    plain.SetBkColor(kWhite);
+    CBrush* previous = plain.SelectObject(&brush);
+    plain.PatBlt(0, 0, 4, 1, PATCOPY);
+    plain.SelectObject(previous);
+    EXPECT_EQ(shifted, unshifted.Pixel(0, 0)) << "the origin moves the pattern by one pixel";
+}
+
 TEST(DCState, DeviceCapsReadAttributeDC)
 {
     zotest::Dib dib(4, 4);

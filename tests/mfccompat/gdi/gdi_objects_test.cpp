@@ -277,6 +277,30 @@ TEST(GdiObjectTyped, BitmapLoadsFromResourceChain)
     EXPECT_FALSE(missing.LoadBitmap(9999));
 }
 
+TEST(GdiObjectTyped, MappedBitmapLoadsFromResourceChain)
+{
+    // Colour maps act on colour tables; the 24-bit strip has none, so its colours stay.
+    CBitmap bitmap;
+    ASSERT_TRUE(bitmap.LoadMappedBitmap(102));
+    CDC memory;
+    memory.CreateCompatibleDC(NULL);
+    CBitmap* old = memory.SelectObject(&bitmap);
+    EXPECT_EQ(RGB(255, 0, 0), memory.GetPixel(1, 1));
+    EXPECT_EQ(RGB(0, 0, 255), memory.GetPixel(9, 1));
+    memory.SelectObject(old);
+    CBitmap missing;
+    EXPECT_FALSE(missing.LoadMappedBitmap(9999));
+}
+
+TEST(GdiObjectTyped, SystemColourBrush)
+{
+    CBrush brush;
+    ASSERT_TRUE(brush.CreateSysColorBrush(COLOR_BTNFACE));
+    LOGBRUSH logBrush;
+    brush.GetLogBrush(&logBrush);
+    EXPECT_EQ(::GetSysColor(COLOR_BTNFACE), logBrush.lbColor);
+}
+
 TEST(GdiObjectTyped, OemBitmapLoads)
 {
     CBitmap bitmap;

@@ -1,6 +1,6 @@
 // CPngImage: 32-bit pictures with straight alpha from resources, files and buffers.
 #include <afxwin.h>
-#include <afxtoolbarimages.h>
+#include <afxcontrolbars.h>  // reaches CPngImage as MFC programs commonly do
 #include <gtest/gtest.h>
 #include <zotest/resource_counter.h>
 #include "gdi_test_resources.h"

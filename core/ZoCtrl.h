@@ -9,3 +9,5 @@
 #include "ZoThemeMath.h"
 #include "ZoThemeManager.h"
 #include "ZoUIBase.h"
+#include "images/ZoResourceImage.h"
+#include "images/ZoResourcePNG.h"

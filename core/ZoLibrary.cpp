@@ -3,15 +3,18 @@
 
 #include "ZoLibrary.h"
 #include "ZoThemeManager.h"
+#include "images/ZoResourcePNG.h"
 
-// The menu hook (before the PNG store) and the PNG store join this sequence when they exist;
-// the result is then the PNG store's, and the theme manager's is ignored.
+// The menu hook joins this sequence, before the PNG store, when it exists. The result is the
+// PNG store's; the theme manager's is ignored.
 bool InitializeZoCtrl()
 {
-    return ZoControls::CZoThemeManager::InitInstance();
+    ZoControls::CZoThemeManager::InitInstance();
+    return ZoControls::CZoResourcePNGData::InitInstance();
 }
 
 void UninitializeZoCtrl()
 {
     ZoControls::CZoThemeManager::FreeInstance();
+    ZoControls::CZoResourcePNGData::FreeInstance();
 }

@@ -1,0 +1,522 @@
+// PNG pictures and their store: composition of transparent, opaque and half-transparent pixels
+// over several colours, states without a queued colour, the two-row state mapping, theme colour
+// groups, release and recomposition, composing over the screen, and the library's lifetime.
+#include "image_test_support.h"
+
+#include <afxtoolbarimages.h>
+
+#include "core/ZoLibrary.h"
+#include "core/ZoThemeManager.h"
+#include "images/ZoResourcePNG.h"
+
+#include <zotest/resource_counter.h>
+
+using namespace ZoControls;
+using imagetest::BufferPixel;
+using imagetest::DibCanvas;
+
+namespace {
+
+const UINT kCheckRadioPng = 808;
+
+// Transparent, opaque and half-transparent pixels (0xAARRGGBB).
+const DWORD kClear = 0x000A141E;
+const DWORD kOpaque = 0xFFC86432;
+const DWORD kHalf = 0x80640AC8; // A 128, R 100, G 10, B 200
+
+DWORD Opaque(COLORREF color)
+{
+    return 0xFF000000u | GetRValue(color) << 16 | GetGValue(color) << 8 | GetBValue(color);
+}
+
+COLORREF ToColorRef(DWORD argb)
+{
+    return RGB((argb >> 16) & 0xFF, (argb >> 8) & 0xFF, argb & 0xFF);
+}
+
+// The raw pixels of PNG 808 as the platform decodes them (B, G, R, A).
+std::vector<DWORD> CheckRadioPixels(int& width, int& height)
+{
+    std::vector<DWORD> pixels;
+    CPngImage png;
+    if (!png.Load(kCheckRadioPng))
+        return pixels;
+    BITMAP bm;
+    png.GetBitmap(&bm);
+    width = bm.bmWidth;
+    height = bm.bmHeight;
+    pixels.resize(static_cast<size_t>(width * height));
+    GetBitmapBits(static_cast<HBITMAP>(png.GetSafeHandle()), width * height * 4, pixels.data());
+    return pixels;
+}
+
+class PngTest : public ::testing::Test
+{
+protected:
+    void SetUp() override { ASSERT_NE(CZoResourcePNGData::GetInstance(), nullptr); }
+    CZoResourcePNGData& store() { return *CZoResourcePNGData::GetInstance(); }
+
+    imagetest::ScopedZoCtrl zo_;
+};
+
+} // namespace
+
+// ---- arithmetic ---------------------------------------------------------------------------
+
+TEST(PngArithmetic, ChannelComposition)
+{
+    EXPECT_EQ(ZoComposeChannel(200, 0, 17), 17);
+    EXPECT_EQ(ZoComposeChannel(200, 255, 17), 200);
+    EXPECT_EQ(ZoComposeChannel(200, 128, 0), 100);   // 100.39
+    EXPECT_EQ(ZoComposeChannel(10, 128, 255), 132);  // 5.02 + 127.00
+    EXPECT_EQ(ZoComposeChannel(200, 128, 192), 196); // 100.39 + 95.62
+    EXPECT_EQ(ZoComposeChannel(0, 128, 200), 99);    // truncated, not rounded: 99.61
+}
+
+TEST(PngArithmetic, PixelCompositionSetsTheGivenAlpha)
+{
+    const BYTE src[4] = {200, 10, 100, 128};
+    BYTE dst[4] = {};
+    ZoComposePixel(src, RGB(64, 128, 192), 0xFF, dst);
+    EXPECT_EQ(dst[0], 196);
+    EXPECT_EQ(dst[1], 68);
+    EXPECT_EQ(dst[2], 82);
+    EXPECT_EQ(dst[3], 0xFF);
+    ZoComposePixel(src, RGB(0, 0, 0), 0, dst);
+    EXPECT_EQ(dst[0], 100);
+    EXPECT_EQ(dst[1], 5);
+    EXPECT_EQ(dst[2], 50);
+    EXPECT_EQ(dst[3], 0);
+}
+
+TEST(PngArithmetic, TwoRowPicturesCarryStateFourInRowOne)
+{
+    for (int state = 0; state < 4; ++state)
+        EXPECT_EQ(ZoPngSourceRow(2, state), 0) << state;
+    EXPECT_EQ(ZoPngSourceRow(2, ToolButton_Disabled), 1);
+    EXPECT_EQ(ZoPngSourceRow(5, 3), 3);
+    EXPECT_EQ(ZoPngSourceRow(5, 4), 4);
+    EXPECT_EQ(ZoPngSourceRow(1, 0), 0);
+    EXPECT_EQ(ZoPngSourceRow(3, 2), 2);
+}
+
+TEST(PngArithmetic, ThemeGroups)
+{
+    const int groups[][2] = {{5, 4}, {9, 4}, {13, 5}, {18, 5}, {23, 5}, {28, 3}, {31, 3}, {34, 4}};
+    for (const auto& g : groups)
+        EXPECT_EQ(ZoThemeGroupStateCount(g[0]), g[1]) << g[0];
+    for (int slot : {-1, 0, 6, 14, 17, 38, 129, 500})
+        EXPECT_EQ(ZoThemeGroupStateCount(slot), 0) << slot;
+}
+
+// ---- the store ------------------------------------------------------------------------------
+
+TEST_F(PngTest, CompositionOverSeveralColours)
+{
+    HBITMAP picture = imagetest::MakePicture(3, 1, {kClear, kOpaque, kHalf});
+    const COLORREF backs[3] = {RGB(255, 255, 255), RGB(0, 0, 0), RGB(64, 128, 192)};
+    store().SetBackGroundColor(backs, 3);
+    store().SetImageData(picture, 3);
+
+    const DWORD expectedHalf[3] = {0xFFB184E3, 0xFF320564, 0xFF5244C4};
+    for (int state = 0; state < 3; ++state) {
+        const BYTE* buffer = store().GetImageData(picture, static_cast<E_ToolButtonStates>(state));
+        ASSERT_NE(buffer, nullptr) << state;
+        EXPECT_EQ(BufferPixel(buffer, 0), Opaque(backs[state])) << "transparent pixel, state " << state;
+        EXPECT_EQ(BufferPixel(buffer, 1), kOpaque) << "opaque pixel, state " << state;
+        EXPECT_EQ(BufferPixel(buffer, 2), expectedHalf[state]) << "half pixel, state " << state;
+    }
+    store().ReleaseImageData(picture);
+    DeleteObject(picture);
+}
+
+TEST_F(PngTest, ThirdStateWithTwoColoursComposesOverBlack)
+{
+    HBITMAP picture = imagetest::MakePicture(2, 1, {kClear, kHalf});
+    store().SetBackGroundColor(RGB(10, 20, 30), 1);
+    store().SetBackGroundColor(RGB(40, 50, 60), 1);
+    store().SetImageData(picture, 3);
+
+    const BYTE* third = store().GetImageData(picture, ToolButton_Pressed);
+    ASSERT_NE(third, nullptr);
+    EXPECT_EQ(BufferPixel(third, 0), 0xFF000000u);
+    EXPECT_EQ(BufferPixel(third, 1), 0xFF320564u);
+    EXPECT_EQ(BufferPixel(store().GetImageData(picture, ToolButton_Hot), 0), Opaque(RGB(40, 50, 60)));
+    // Beyond the composed states there is no buffer.
+    EXPECT_EQ(store().GetImageData(picture, ToolButton_Extra), nullptr);
+    EXPECT_EQ(store().GetImageData(picture, static_cast<E_ToolButtonStates>(-1)), nullptr);
+    store().ReleaseImageData(picture);
+    DeleteObject(picture);
+}
+
+TEST_F(PngTest, ColourQueueIsEmptiedByEachComposition)
+{
+    HBITMAP picture = imagetest::MakePicture(1, 1, {kClear});
+    store().SetBackGroundColor(RGB(1, 2, 3), 2);
+    store().SetImageData(picture, 1);
+    // The second colour was dropped with the queue: the next composition has none.
+    store().SetImageData(picture, 1);
+    EXPECT_EQ(BufferPixel(store().GetImageData(picture, ToolButton_Normal), 0), 0xFF000000u);
+    store().ReleaseImageData(picture);
+    DeleteObject(picture);
+}
+
+TEST_F(PngTest, NoStatesReleasesButKeepsQueuedColours)
+{
+    HBITMAP picture = imagetest::MakePicture(1, 1, {kClear});
+    store().SetImageData(picture, 1);
+    ASSERT_NE(store().GetImageData(picture, ToolButton_Normal), nullptr);
+
+    store().SetBackGroundColor(RGB(7, 8, 9), 1);
+    store().SetImageData(picture, 0);
+    EXPECT_EQ(store().GetImageData(picture, ToolButton_Normal), nullptr);
+    store().SetImageData(picture, 1);
+    EXPECT_EQ(BufferPixel(store().GetImageData(picture, ToolButton_Normal), 0), Opaque(RGB(7, 8, 9)));
+    store().ReleaseImageData(picture);
+    DeleteObject(picture);
+}
+
+TEST_F(PngTest, NonPositiveCountsQueueNothing)
+{
+    HBITMAP picture = imagetest::MakePicture(1, 1, {kClear});
+    const COLORREF white = RGB(255, 255, 255);
+    store().SetBackGroundColor(white, 0);
+    store().SetBackGroundColor(white, -4);
+    store().SetBackGroundColor(&white, 0);
+    store().SetBackGroundColor(static_cast<const COLORREF*>(nullptr), 3);
+    store().SetImageData(picture, 1);
+    EXPECT_EQ(BufferPixel(store().GetImageData(picture, ToolButton_Normal), 0), 0xFF000000u);
+    store().ReleaseImageData(picture);
+    DeleteObject(picture);
+}
+
+TEST_F(PngTest, ReleaseAndRecompose)
+{
+    HBITMAP picture = imagetest::MakePicture(1, 1, {kHalf});
+    store().SetBackGroundColor(RGB(255, 255, 255), 1);
+    store().SetImageData(picture, 1);
+    EXPECT_EQ(BufferPixel(store().GetImageData(picture, ToolButton_Normal), 0), 0xFFB184E3u);
+
+    store().ReleaseImageData(picture);
+    EXPECT_EQ(store().GetImageData(picture, ToolButton_Normal), nullptr);
+    store().ReleaseImageData(picture); // nothing left: no effect
+
+    store().SetBackGroundColor(RGB(64, 128, 192), 1);
+    store().SetImageData(picture, 1);
+    EXPECT_EQ(BufferPixel(store().GetImageData(picture, ToolButton_Normal), 0), 0xFF5244C4u);
+    // Composing again replaces the entry.
+    store().SetImageData(picture, 2);
+    EXPECT_EQ(BufferPixel(store().GetImageData(picture, ToolButton_Hot), 0), 0xFF320564u);
+    store().ReleaseImageData(picture);
+    DeleteObject(picture);
+}
+
+TEST_F(PngTest, UnusableBitmapsGetNoEntry)
+{
+    HBITMAP striped = imagetest::MakeStripedBitmap(2, {RGB(1, 1, 1)});
+    store().SetImageData(striped, 2); // 24-bit: no alpha to compose
+    EXPECT_EQ(store().GetImageData(striped, ToolButton_Normal), nullptr);
+    DeleteObject(striped);
+    store().SetImageData(nullptr, 2);
+    EXPECT_EQ(store().GetImageData(nullptr, ToolButton_Normal), nullptr);
+}
+
+// ---- PNG images -----------------------------------------------------------------------------
+
+TEST_F(PngTest, LoadsCheckRadioStrip)
+{
+    CZoResourcePNGImage image;
+    ASSERT_TRUE(image.LoadResourceImage(kCheckRadioPng, 4, 5));
+    EXPECT_TRUE(image.IsLoaded());
+    EXPECT_EQ(image.GetWidth(), 60);
+    EXPECT_EQ(image.GetHeight(), 75);
+    EXPECT_EQ(image.GetUnitWidth(), 15);
+    EXPECT_EQ(image.GetUnitHeight(), 15);
+    DWORD width = 1, height = 1;
+    image.GetIOISize(width, height);
+    EXPECT_EQ(width, 60u);
+    EXPECT_EQ(height, 75u);
+    // PNGs load by number only.
+    EXPECT_FALSE(image.LoadResourceImage(L"BMP_ZO_EDIT", ZoMonitorSize_Normal, 1, 1));
+}
+
+TEST_F(PngTest, MissingPngStaysUnloaded)
+{
+    CZoResourcePNGImage image;
+    EXPECT_FALSE(image.LoadResourceImage(9999u, 4, 5));
+    EXPECT_FALSE(image.IsLoaded());
+    DWORD width = 1, height = 1;
+    image.GetIOISize(width, height);
+    EXPECT_EQ(width, 0u);
+    EXPECT_EQ(height, 0u);
+    DibCanvas canvas(20, 20);
+    image.DrawUnitImage(canvas.dc(), 0, 0, 0, 0, imagetest::kMagenta);
+    image.DrawImageOnImage(canvas.dc(), 0, 0);
+    image.SetBackgroundColor(RGB(1, 2, 3));
+    ZOTEST_EXPECT_FILL(canvas.dib(), (RECT{0, 0, 20, 20}), zotest::kUnpainted);
+}
+
+// Every state's cell shows the picture over that state's colour: fully transparent pixels take
+// exactly the colour, fully opaque ones keep their own.
+TEST_F(PngTest, EachStateDrawsItsCellOverItsColour)
+{
+    int width = 0, height = 0;
+    const std::vector<DWORD> raw = CheckRadioPixels(width, height);
+    ASSERT_EQ(width, 60);
+    ASSERT_EQ(height, 75);
+
+    CZoResourcePNGImage image;
+    ASSERT_TRUE(image.LoadResourceImage(kCheckRadioPng, 4, 5));
+    const COLORREF backs[5] = {RGB(250, 0, 0), RGB(0, 250, 0), RGB(0, 0, 250), RGB(9, 99, 199), RGB(123, 45, 67)};
+    image.SetBackgroundColor(backs, 5);
+
+    for (int state = 0; state < 5; ++state)
+        for (int column = 0; column < 4; ++column) {
+            DibCanvas canvas(20, 20);
+            image.DrawUnitImage(canvas.dc(), 2, 3, column, state, RGB(0, 0, 0));
+            int checked = 0;
+            for (int y = 0; y < 15; ++y)
+                for (int x = 0; x < 15; ++x) {
+                    const DWORD src = raw[(state * 15 + y) * 60 + column * 15 + x];
+                    const BYTE alpha = static_cast<BYTE>(src >> 24);
+                    if (alpha != 0 && alpha != 255)
+                        continue;
+                    const COLORREF expected = alpha == 0 ? backs[state] : ToColorRef(src);
+                    ++checked;
+                    ASSERT_TRUE(zotest::PixelIs(canvas.dib(), 2 + x, 3 + y, expected))
+                        << "state " << state << ", column " << column;
+                }
+            EXPECT_GT(checked, 0);
+            ZOTEST_EXPECT_BOUNDS(canvas.dib(), zotest::kUnpainted, (RECT{2, 3, 17, 18}));
+        }
+}
+
+TEST_F(PngTest, StretchedStateFillsItsDestination)
+{
+    CZoResourcePNGImage image;
+    ASSERT_TRUE(image.LoadResourceImage(kCheckRadioPng, 4, 5));
+    image.SetBackgroundColor(RGB(10, 200, 30));
+    DibCanvas canvas(40, 40);
+    image.DrawUnitImage(canvas.dc(), 1, 2, 30, 30, 0, 0, imagetest::kMagenta);
+    ZOTEST_EXPECT_BOUNDS(canvas.dib(), zotest::kUnpainted, (RECT{1, 2, 31, 32}));
+    // The corner of every cell is transparent in the picture.
+    ZOTEST_EXPECT_PIXEL(canvas.dib(), 1, 2, RGB(10, 200, 30));
+}
+
+TEST_F(PngTest, RestingStateStaysInTheBitmapBetweenDraws)
+{
+    CZoResourcePNGImage image;
+    ASSERT_TRUE(image.LoadResourceImage(kCheckRadioPng, 4, 5));
+    const COLORREF backs[5] = {RGB(1, 1, 1), RGB(2, 2, 2), RGB(3, 3, 3), RGB(4, 4, 4), RGB(5, 5, 5)};
+    image.SetBackgroundColor(backs, 5);
+    DibCanvas canvas(20, 20);
+    image.DrawUnitImage(canvas.dc(), 0, 0, 0, 3, 0);
+    ZOTEST_EXPECT_PIXEL(canvas.dib(), 0, 0, RGB(4, 4, 4));
+    DibCanvas second(20, 20);
+    image.DrawImageOnImage(second.dc(), 0, 0);
+    // Drawing the image over itself shows the resting composition: its corner is state 0's colour.
+    ZOTEST_EXPECT_PIXEL(second.dib(), 0, 0, RGB(1, 1, 1));
+}
+
+TEST_F(PngTest, TwoRowPictureDrawsRowOneForStateFour)
+{
+    int width = 0, height = 0;
+    const std::vector<DWORD> raw = CheckRadioPixels(width, height);
+    ASSERT_EQ(height, 75);
+
+    CZoResourcePNGImage image;
+    ASSERT_TRUE(image.LoadResourceImage(kCheckRadioPng, 4, 2));
+    ASSERT_EQ(image.GetUnitHeight(), 37);
+    const COLORREF back = RGB(77, 66, 55);
+    const COLORREF backs[5] = {back, back, back, back, back};
+    image.SetBackgroundColor(backs, 5);
+
+    for (int state = 0; state < 5; ++state) {
+        const int row = state == 4 ? 1 : 0;
+        DibCanvas canvas(20, 40);
+        image.DrawUnitImage(canvas.dc(), 0, 0, 1, state, 0);
+        for (int y = 0; y < 37; ++y)
+            for (int x = 0; x < 15; ++x) {
+                const DWORD src = raw[(row * 37 + y) * 60 + 15 + x];
+                const BYTE alpha = static_cast<BYTE>(src >> 24);
+                if (alpha != 0 && alpha != 255)
+                    continue;
+                const COLORREF expected = alpha == 0 ? back : ToColorRef(src);
+                ASSERT_TRUE(zotest::PixelIs(canvas.dib(), x, y, expected)) << "state " << state;
+            }
+    }
+}
+
+TEST_F(PngTest, OneColourForEveryRow)
+{
+    CZoResourcePNGImage image;
+    ASSERT_TRUE(image.LoadResourceImage(kCheckRadioPng, 4, 5));
+    image.SetBackgroundColor(RGB(33, 44, 55));
+    for (int state = 0; state < 5; ++state) {
+        DibCanvas canvas(20, 20);
+        image.DrawUnitImage(canvas.dc(), 0, 0, 2, state, 0);
+        ZOTEST_EXPECT_PIXEL(canvas.dib(), 0, 0, RGB(33, 44, 55));
+    }
+}
+
+TEST_F(PngTest, ThemeGroupColoursPerState)
+{
+    const CZoThemeManager* theme = CZoThemeManager::GetInstance();
+    ASSERT_NE(theme, nullptr);
+    CZoResourcePNGImage image;
+    ASSERT_TRUE(image.LoadResourceImage(kCheckRadioPng, 4, 5));
+    image.SetControlDefaultThema(static_cast<E_ZoThemeColors>(13));
+    for (int state = 0; state < 5; ++state) {
+        DibCanvas canvas(20, 20);
+        image.DrawUnitImage(canvas.dc(), 0, 0, 0, state, 0);
+        ZOTEST_EXPECT_PIXEL(canvas.dib(), 0, 0,
+                            theme->GetGDIColor(static_cast<E_ZoThemeColors>(13 + state), ZoTheme_Default));
+    }
+}
+
+TEST_F(PngTest, ThemeSlotOutsideTheGroupsReleasesTheCompositions)
+{
+    CZoResourcePNGImage image;
+    ASSERT_TRUE(image.LoadResourceImage(kCheckRadioPng, 4, 5));
+    image.SetBackgroundColor(RGB(1, 2, 3));
+    image.SetControlDefaultThema(static_cast<E_ZoThemeColors>(14));
+    DibCanvas canvas(20, 20);
+    for (int state = 0; state < 5; ++state)
+        image.DrawUnitImage(canvas.dc(), 0, 0, 0, state, 0);
+    ZOTEST_EXPECT_FILL(canvas.dib(), (RECT{0, 0, 20, 20}), zotest::kUnpainted);
+
+    // A group composes again.
+    image.SetControlDefaultThema(static_cast<E_ZoThemeColors>(28));
+    image.DrawUnitImage(canvas.dc(), 0, 0, 0, 2, 0);
+    ZOTEST_EXPECT_PIXEL(canvas.dib(), 0, 0, CZoThemeManager::GetInstance()->GetGDIColor(static_cast<E_ZoThemeColors>(30), ZoTheme_Default));
+}
+
+TEST_F(PngTest, AdoptedPictureComposesThroughTheImage)
+{
+    HBITMAP picture = imagetest::MakePicture(3, 1, {kClear, kOpaque, kHalf});
+    CZoResourcePNGImage image(picture, true);
+    image.SetBackgroundColor(RGB(255, 255, 255));
+    DibCanvas canvas(10, 10);
+    image.DrawUnitImage(canvas.dc(), 1, 1, 0, 0, 0);
+    ZOTEST_EXPECT_PIXEL(canvas.dib(), 1, 1, RGB(255, 255, 255));
+    ZOTEST_EXPECT_PIXEL(canvas.dib(), 2, 1, ToColorRef(kOpaque));
+    ZOTEST_EXPECT_PIXEL(canvas.dib(), 3, 1, ToColorRef(0xFFB184E3));
+}
+
+TEST_F(PngTest, DestroyingTheImageReleasesItsEntry)
+{
+    HBITMAP picture = imagetest::MakePicture(1, 1, {kHalf});
+    {
+        CZoResourcePNGImage image(picture, false);
+        image.SetBackgroundColor(RGB(0, 0, 0));
+        ASSERT_NE(store().GetImageData(picture, ToolButton_Normal), nullptr);
+    }
+    EXPECT_EQ(store().GetImageData(picture, ToolButton_Normal), nullptr);
+    EXPECT_EQ(GetObjectType(picture), static_cast<DWORD>(OBJ_BITMAP));
+    DeleteObject(picture);
+}
+
+TEST_F(PngTest, ReloadReleasesTheOldPicturesEntry)
+{
+    HBITMAP picture = imagetest::MakePicture(1, 1, {kHalf});
+    CZoResourcePNGImage image(picture, false);
+    image.SetBackgroundColor(RGB(0, 0, 0));
+    ASSERT_NE(store().GetImageData(picture, ToolButton_Normal), nullptr);
+    ASSERT_TRUE(image.LoadResourceImage(kCheckRadioPng, 4, 5));
+    EXPECT_EQ(GetObjectType(picture), 0u); // deleted whatever the flag said
+}
+
+// ---- composing over the screen ------------------------------------------------------------
+
+TEST_F(PngTest, DrawImageOnImageComposesOverWhatIsThere)
+{
+    HBITMAP picture = imagetest::MakePicture(3, 2, {kOpaque, kHalf, kHalf, kHalf, kHalf, kOpaque});
+    CZoResourcePNGImage image(picture, true);
+    DibCanvas canvas(10, 10, RGB(255, 255, 255));
+    // The second row lies over another colour.
+    canvas.dc().FillSolidRect(2, 3, 3, 1, RGB(64, 128, 192));
+    image.DrawImageOnImage(canvas.dc(), 2, 2);
+    ZOTEST_EXPECT_PIXEL(canvas.dib(), 2, 2, ToColorRef(kOpaque));
+    ZOTEST_EXPECT_PIXEL(canvas.dib(), 3, 2, ToColorRef(0xFFB184E3));
+    ZOTEST_EXPECT_PIXEL(canvas.dib(), 4, 2, ToColorRef(0xFFB184E3));
+    ZOTEST_EXPECT_PIXEL(canvas.dib(), 2, 3, ToColorRef(0xFF5244C4));
+    ZOTEST_EXPECT_PIXEL(canvas.dib(), 4, 3, ToColorRef(kOpaque));
+    ZOTEST_EXPECT_BOUNDS(canvas.dib(), RGB(255, 255, 255), (RECT{2, 2, 5, 4}));
+}
+
+TEST_F(PngTest, DrawImageOnImageKeepsTheComposedPicture)
+{
+    HBITMAP picture = imagetest::MakePicture(2, 1, {kHalf, kOpaque});
+    CZoResourcePNGImage image(picture, true);
+    DibCanvas white(4, 4, RGB(255, 255, 255));
+    image.DrawImageOnImage(white.dc(), 0, 0);
+    // The alpha is gone: over black the picture still shows its composition over white.
+    DibCanvas black(4, 4, RGB(0, 0, 0));
+    image.DrawImageOnImage(black.dc(), 0, 0);
+    ZOTEST_EXPECT_PIXEL(black.dib(), 0, 0, ToColorRef(0xFFB184E3));
+    ZOTEST_EXPECT_PIXEL(black.dib(), 1, 0, ToColorRef(kOpaque));
+}
+
+// ---- lifetime -------------------------------------------------------------------------------
+
+TEST(PngLifetime, LibraryStartAndEndCreateAndFreeTheStore)
+{
+    ASSERT_EQ(CZoResourcePNGData::GetInstance(), nullptr);
+    EXPECT_TRUE(InitializeZoCtrl());
+    EXPECT_NE(CZoResourcePNGData::GetInstance(), nullptr);
+    EXPECT_NE(CZoThemeManager::GetInstance(), nullptr);
+    UninitializeZoCtrl();
+    EXPECT_EQ(CZoResourcePNGData::GetInstance(), nullptr);
+    EXPECT_EQ(CZoThemeManager::GetInstance(), nullptr);
+}
+
+TEST(PngLifetime, FirstLoadCreatesTheStore)
+{
+    ASSERT_EQ(CZoResourcePNGData::GetInstance(), nullptr);
+    {
+        CZoResourcePNGImage image;
+        ASSERT_TRUE(image.LoadResourceImage(kCheckRadioPng, 4, 5));
+        EXPECT_NE(CZoResourcePNGData::GetInstance(), nullptr);
+    }
+    EXPECT_TRUE(CZoResourcePNGData::InitInstance()); // already there
+    CZoResourcePNGData::FreeInstance();
+    EXPECT_EQ(CZoResourcePNGData::GetInstance(), nullptr);
+    CZoResourcePNGData::FreeInstance(); // twice: nothing
+}
+
+TEST(PngLifetime, FreeingTheStoreFreesEveryEntry)
+{
+    ASSERT_TRUE(CZoResourcePNGData::InitInstance());
+    HBITMAP a = imagetest::MakePicture(8, 8, std::vector<DWORD>(64, kHalf));
+    HBITMAP b = imagetest::MakePicture(8, 8, std::vector<DWORD>(64, kOpaque));
+    ZOTEST_EXPECT_NO_LEAKS(
+        10,
+        [a, b] {
+            CZoResourcePNGData::InitInstance();
+            CZoResourcePNGData::GetInstance()->SetImageData(a, 5);
+            CZoResourcePNGData::GetInstance()->SetImageData(b, 3);
+            CZoResourcePNGData::FreeInstance();
+        },
+        zotest::count_heap);
+    DeleteObject(a);
+    DeleteObject(b);
+}
+
+TEST_F(PngTest, LoadDrawFreeCyclesKeepGdiCount)
+{
+    DibCanvas canvas(80, 80);
+    ZOTEST_EXPECT_NO_LEAKS(
+        20,
+        [&canvas] {
+            CZoResourcePNGImage image;
+            image.LoadResourceImage(kCheckRadioPng, 4, 5);
+            image.SetControlDefaultThema(static_cast<E_ZoThemeColors>(13));
+            image.DrawUnitImage(canvas.dc(), 0, 0, 1, 2, 0);
+            image.DrawUnitImage(canvas.dc(), 0, 0, 40, 40, 3, 4, 0);
+            image.DrawImageOnImage(canvas.dc(), 5, 5);
+            image.LoadResourceImage(kCheckRadioPng, 4, 2);
+            image.SetBackgroundColor(RGB(1, 2, 3));
+            image.DrawUnitImage(canvas.dc(), 0, 0, 0, 4, 0);
+        },
+        zotest::count_gdi | zotest::count_heap);
+}

@@ -344,3 +344,74 @@ TEST(DialogLeaks, ModalDialogCyclesLeaveNothingBehind)
 }
 
 } // namespace
+
+namespace {
+
+TEST(DialogControls, FocusAndDefaultButtonHelpers)
+{
+    CTestDialog dialog;
+    ASSERT_TRUE(dialog.Create(IDD_DDX));
+    dialog.ShowWindow(SW_SHOW);
+    dialog.GotoDlgCtrl(dialog.GetDlgItem(IDC_NUMBER));
+    ASSERT_NE(nullptr, CWnd::GetFocus());
+    EXPECT_EQ(IDC_NUMBER, CWnd::GetFocus()->GetDlgCtrlID());
+    dialog.NextDlgCtrl();
+    EXPECT_NE(IDC_NUMBER, CWnd::GetFocus()->GetDlgCtrlID());
+    dialog.PrevDlgCtrl();
+    EXPECT_EQ(IDC_NUMBER, CWnd::GetFocus()->GetDlgCtrlID());
+    dialog.GotoDlgCtrl(NULL);   // nothing to go to: the focus stays
+    EXPECT_EQ(IDC_NUMBER, CWnd::GetFocus()->GetDlgCtrlID());
+
+    dialog.SetDefID(IDCANCEL);
+    EXPECT_EQ(static_cast<DWORD>(MAKELONG(IDCANCEL, DC_HASDEFID)), dialog.GetDefID());
+    dialog.DestroyWindow();
+}
+
+class CLimitedDialog : public CDialog
+{
+public:
+    CLimitedDialog() : CDialog(IDD_DDX) { }
+    CString m_name = L"abc";
+protected:
+    void DoDataExchange(CDataExchange* pDX) override
+    {
+        DDX_Text(pDX, IDC_NAME, m_name);
+        DDV_MaxChars(pDX, m_name, 6);
+    }
+};
+
+TEST(DialogControls, MaxCharsLimitsTheEditWhenValuesAreShown)
+{
+    CLimitedDialog dialog;
+    ASSERT_TRUE(dialog.Create(IDD_DDX));
+    EXPECT_EQ(6, dialog.SendDlgItemMessage(IDC_NAME, EM_GETLIMITTEXT));
+    dialog.SetDlgItemText(IDC_NAME, L"abcdef");
+    EXPECT_TRUE(dialog.UpdateData(TRUE));
+    EXPECT_STREQ(L"abcdef", dialog.m_name);
+    dialog.DestroyWindow();
+}
+
+template <class T>
+class CTemplateWnd : public CWnd
+{
+public:
+    T lastTimer = 0;
+protected:
+    afx_msg void OnTimer(UINT_PTR nIDEvent) { lastTimer = static_cast<T>(nIDEvent); }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_TEMPLATE_MESSAGE_MAP(CTemplateWnd, T, CWnd)
+    ON_WM_TIMER()
+END_MESSAGE_MAP()
+
+TEST(TemplateMessageMap, TemplateClassesHaveTheirOwnMap)
+{
+    CTemplateWnd<int> wnd;
+    ASSERT_TRUE(wnd.CreateEx(0, AfxRegisterWndClass(0), L"template", WS_POPUP, 0, 0, 10, 10, NULL, NULL));
+    wnd.SendMessage(WM_TIMER, 42);
+    EXPECT_EQ(42, wnd.lastTimer);
+    wnd.DestroyWindow();
+}
+
+} // namespace

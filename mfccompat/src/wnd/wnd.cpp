@@ -60,10 +60,18 @@ void WndAccess::FinishNcDestroy(CWnd* pWnd)
     pWnd->PostNcDestroy();
 }
 
+// The system may create a thread's input-method window in the middle of the first
+// CreateWindowEx; it must not take the place of the window being made.
+static bool IsImeWindow(HWND hWnd)
+{
+    wchar_t className[8] = L"";
+    return ::GetClassNameW(hWnd, className, 8) > 0 && _wcsicmp(className, L"ime") == 0;
+}
+
 static LRESULT CALLBACK CbtFilterHook(int nCode, WPARAM wParam, LPARAM lParam)
 {
     WndThreadState& state = WndState();
-    if (nCode == HCBT_CREATEWND && state.pWndInit != NULL)
+    if (nCode == HCBT_CREATEWND && state.pWndInit != NULL && !IsImeWindow(reinterpret_cast<HWND>(wParam)))
     {
         CWnd* pWnd = state.pWndInit;
         state.pWndInit = NULL;

@@ -88,6 +88,26 @@ TEST(RendererWindows, ScreenPathCopiesWhatIsOnScreen)
     ZOTEST_EXPECT_BOUNDS(image, kBlue, (RECT{10, 5, 40, 25}));
 }
 
+namespace {
+// Leaves the solid window only its WM_PAINT path, like a control without a print path.
+LRESULT CALLBACK PaintOnly(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR)
+{
+    if (message == WM_PRINTCLIENT || message == WM_ERASEBKGND)
+        return 0;
+    return DefSubclassProc(window, message, wParam, lParam);
+}
+} // namespace
+
+TEST(RendererWindows, WindowWithoutPrintPathRendersOnlyFromTheScreen)
+{
+    ScopedWindow window(CreateSolidWindow({20, 20, 60, 60}, kRed));
+    ASSERT_TRUE(SetWindowSubclass(window, PaintOnly, 1, 0));
+    PumpUntilIdle();
+    ZOTEST_EXPECT_FILL(RenderClient(window), (RECT{0, 0, 40, 40}), kUnpainted);
+    ZOTEST_EXPECT_FILL(RenderClient(window, RenderPath::Screen), (RECT{0, 0, 40, 40}), kRed);
+    RemoveWindowSubclass(window, PaintOnly, 1);
+}
+
 TEST(RendererWindows, ScreenPathCopiesAChildControl)
 {
     ScopedWindow window(CreateSolidWindow({20, 20, 120, 80}, kBlue));

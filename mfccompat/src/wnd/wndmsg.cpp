@@ -323,6 +323,21 @@ HWND ItemMessageSender(UINT message, WPARAM wParam, LPARAM lParam)
     return NULL;
 }
 
+// A CCmdUI that only notes whether the update handler enabled the command.
+class EnableProbe : public CCmdUI
+{
+public:
+    bool bEnabled = true;
+    void Enable(BOOL bOn) override
+    {
+        bEnabled = bOn != FALSE;
+        m_bEnableChanged = TRUE;
+    }
+    void SetCheck(int) override { }
+    void SetRadio(BOOL) override { }
+    void SetText(LPCTSTR) override { }
+};
+
 } // namespace
 
 /////////////////////////////////////////////////////////////////////////////
@@ -466,7 +481,15 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam)
     HWND hWndCtrl = reinterpret_cast<HWND>(lParam);
     int nCode = HIWORD(wParam);
     if (hWndCtrl == NULL)
-        nCode = CN_COMMAND;   // menu or accelerator
+    {
+        // Menu or accelerator: a command its update handler disables is not carried out.
+        nCode = CN_COMMAND;
+        EnableProbe probe;
+        probe.m_nID = nID;
+        OnCmdMsg(nID, static_cast<int>(CN_UPDATE_COMMAND_UI), &probe, NULL);
+        if (!probe.bEnabled)
+            return TRUE;
+    }
     else if (ReflectLastMsg(hWndCtrl))
         return TRUE;          // the control handled its own notification
     return OnCmdMsg(nID, nCode, NULL, NULL);

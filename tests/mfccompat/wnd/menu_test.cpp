@@ -205,3 +205,35 @@ TEST(ParentFrame, WindowsFindTheFrameAroundThem)
 }
 
 } // namespace
+
+namespace {
+
+class CCommandWnd : public CWnd
+{
+public:
+    bool saveAllowed = false;
+    int saves = 0;
+protected:
+    afx_msg void OnSave() { ++saves; }
+    afx_msg void OnUpdateSave(CCmdUI* pCmdUI) { pCmdUI->Enable(saveAllowed); }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CCommandWnd, CWnd)
+    ON_COMMAND(ID_ITEM_SAVE, &CCommandWnd::OnSave)
+    ON_UPDATE_COMMAND_UI(ID_ITEM_SAVE, &CCommandWnd::OnUpdateSave)
+END_MESSAGE_MAP()
+
+TEST(DisabledCommands, MenuAndAcceleratorCommandsThatAreDisabledAreNotCarriedOut)
+{
+    CCommandWnd wnd;
+    ASSERT_TRUE(wnd.CreateEx(0, AfxRegisterWndClass(0), L"commands", WS_POPUP, 0, 0, 10, 10, NULL, NULL));
+    EXPECT_EQ(1, wnd.SendMessage(WM_COMMAND, MAKEWPARAM(ID_ITEM_SAVE, 1), 0));
+    EXPECT_EQ(0, wnd.saves);
+    wnd.saveAllowed = true;
+    wnd.SendMessage(WM_COMMAND, MAKEWPARAM(ID_ITEM_SAVE, 0), 0);
+    EXPECT_EQ(1, wnd.saves);
+    wnd.DestroyWindow();
+}
+
+} // namespace

@@ -11,3 +11,4 @@
 #include "ZoUIBase.h"
 #include "images/ZoResourceImage.h"
 #include "images/ZoResourcePNG.h"
+#include "frames/ZoMenuXP.h"

@@ -3,18 +3,20 @@
 
 #include "ZoLibrary.h"
 #include "ZoThemeManager.h"
+#include "frames/ZoMenuXP.h"
 #include "images/ZoResourcePNG.h"
 
-// The menu hook joins this sequence, before the PNG store, when it exists. The result is the
-// PNG store's; the theme manager's is ignored.
+// The result is the PNG store's; the theme manager's is ignored.
 bool InitializeZoCtrl()
 {
     ZoControls::CZoThemeManager::InitInstance();
+    ZoControls::CMenuXP::InitializeHook();
     return ZoControls::CZoResourcePNGData::InitInstance();
 }
 
 void UninitializeZoCtrl()
 {
+    ZoControls::CMenuXP::UninitializeHook();
     ZoControls::CZoThemeManager::FreeInstance();
     ZoControls::CZoResourcePNGData::FreeInstance();
 }

@@ -135,7 +135,10 @@ BEGIN_MESSAGE_MAP(CZoWnd, CWnd)
     ON_MESSAGE(WM_APP + 3, OnMsgGetCurrentMonitorSize)
     ON_WM_CREATE()
     ON_WM_SIZE()
+    ZO_ON_MENUXP_MESSAGES()
 END_MESSAGE_MAP()
+
+ZO_IMPLEMENT_MENUXP_FORWARDING(CZoWnd, CWnd)
 
 CZoWnd::CZoWnd()
 {
@@ -165,6 +168,7 @@ int CZoWnd::OnCreate(LPCREATESTRUCT lpCreateStruct)
     _detectMonitorSize();
     if (CWnd::OnCreate(lpCreateStruct) == -1)
         return -1;
+    CMenuXP::SetXPLookNFeel(this, true);
     return 0;
 }
 

@@ -7,6 +7,7 @@
 
 #include "ZoCtrlExport.h"
 #include "ZoThemeTypes.h"
+#include "frames/ZoMenuXP.h"
 
 namespace ZoControls {
 
@@ -72,6 +73,7 @@ protected:
     afx_msg LRESULT OnMsgGetCurrentMonitorSize(WPARAM wParam, LPARAM lParam);
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnSize(UINT nType, int cx, int cy);
+    ZO_DECLARE_MENUXP_FORWARDING()
     DECLARE_MESSAGE_MAP()
 
 private:

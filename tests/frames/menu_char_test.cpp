@@ -1,0 +1,100 @@
+// Mnemonics of owner-drawn menus: WM_MENUCHAR finds the item whose text marks the typed letter.
+#include "menu_test_support.h"
+
+using namespace ZoControls;
+using namespace menutest;
+
+namespace {
+
+class MenuCharTest : public ThemeTest
+{
+protected:
+    void SetUp() override
+    {
+        ThemeTest::SetUp();
+        ASSERT_TRUE(host.CreateHost());
+        const ItemSpec items[] = {
+            {L"&Open\tCtrl+O", 1, MF_STRING},
+            {nullptr, 0, MF_SEPARATOR},
+            {L"R&&D notes", 2, MF_STRING},
+            {L"Save &as", 3, MF_STRING},
+            {L"&Delete", 4, MF_STRING},
+            {L"d&elete all", 5, MF_STRING},
+        };
+        menu = BuildPopup(items);
+        submenu = ::CreatePopupMenu();
+        ::AppendMenuW(submenu, MF_STRING, 10, L"Inner");
+        ::AppendMenuW(menu, MF_POPUP, reinterpret_cast<UINT_PTR>(submenu), L"&Recent");
+        CMenuXP::SetXPLookNFeel(&host, menu, true, false);
+    }
+    void TearDown() override
+    {
+        ::DestroyMenu(menu);
+        host.DestroyWindow();
+        ThemeTest::TearDown();
+    }
+
+    LRESULT SendMenuChar(wchar_t ch, UINT flags)
+    {
+        return host.SendMessage(WM_MENUCHAR, MAKEWPARAM(ch, flags), reinterpret_cast<LPARAM>(menu));
+    }
+
+    MenuHost host;
+    HMENU menu = nullptr;
+    HMENU submenu = nullptr;
+};
+
+} // namespace
+
+TEST_F(MenuCharTest, LetterExecutesTheMarkedItem)
+{
+    EXPECT_EQ(CMenuXP::OnMenuChar(menu, L'o', MF_POPUP), MAKELRESULT(0, MNC_EXECUTE));
+    EXPECT_EQ(CMenuXP::OnMenuChar(menu, L'A', MF_POPUP), MAKELRESULT(3, MNC_EXECUTE));
+    EXPECT_EQ(CMenuXP::OnMenuChar(menu, L'e', 0), MAKELRESULT(5, MNC_EXECUTE));
+}
+
+TEST_F(MenuCharTest, SubmenuItemsKeepTheirTexts)
+{
+    EXPECT_EQ(CMenuXP::OnMenuChar(menu, L'r', MF_POPUP), MAKELRESULT(6, MNC_EXECUTE));
+}
+
+TEST_F(MenuCharTest, FirstMatchingItemWins)
+{
+    EXPECT_EQ(CMenuXP::OnMenuChar(menu, L'd', MF_POPUP), MAKELRESULT(4, MNC_EXECUTE));
+}
+
+TEST_F(MenuCharTest, DoubledAmpersandMarksNothing)
+{
+    // "R&&D notes" shows "R&D notes": D is no mnemonic there, but "&Delete" has it.
+    EXPECT_EQ(CMenuXP::OnMenuChar(menu, L'd', MF_POPUP), MAKELRESULT(4, MNC_EXECUTE));
+    ::DeleteMenu(menu, 4, MF_BYPOSITION);
+    EXPECT_EQ(CMenuXP::OnMenuChar(menu, L'd', MF_POPUP), 0);
+}
+
+TEST_F(MenuCharTest, NoMatchGivesZero)
+{
+    EXPECT_EQ(CMenuXP::OnMenuChar(menu, L'z', MF_POPUP), 0);
+    EXPECT_EQ(CMenuXP::OnMenuChar(nullptr, L'o', MF_POPUP), 0);
+}
+
+TEST_F(MenuCharTest, SystemMenusAndOtherFlagsAreNotAnswered)
+{
+    EXPECT_EQ(CMenuXP::OnMenuChar(menu, L'o', MF_POPUP | MF_SYSMENU), 0);
+    EXPECT_EQ(CMenuXP::OnMenuChar(menu, L'o', MF_SYSMENU), 0);
+}
+
+TEST_F(MenuCharTest, HostAnswersThroughItsMessageMap)
+{
+    EXPECT_EQ(SendMenuChar(L'a', MF_POPUP), MAKELRESULT(3, MNC_EXECUTE));
+    EXPECT_EQ(SendMenuChar(L'q', MF_POPUP), 0);
+}
+
+TEST_F(MenuCharTest, MenusNotOwnerDrawnGetTheDefaultAnswer)
+{
+    HMENU plain = ::CreatePopupMenu();
+    ::AppendMenuW(plain, MF_STRING, 1, L"&Open");
+    const LRESULT byDefault = ::DefWindowProcW(host.m_hWnd, WM_MENUCHAR, MAKEWPARAM(L'o', MF_POPUP),
+                                               reinterpret_cast<LPARAM>(plain));
+    EXPECT_EQ(host.SendMessage(WM_MENUCHAR, MAKEWPARAM(L'o', MF_POPUP), reinterpret_cast<LPARAM>(plain)), byDefault);
+    ::DestroyMenu(plain);
+}

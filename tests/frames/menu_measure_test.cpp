@@ -1,0 +1,204 @@
+// Making menus owner-drawn: packed item data for the theme's menu font, the accelerator column,
+// separators, menu bars, menus that are already owner-drawn, and the window property.
+#include "menu_test_support.h"
+
+#include <algorithm>
+
+using namespace ZoControls;
+using namespace ZoControls::ZoMenu_Internals;
+using namespace menutest;
+
+namespace {
+
+class MenuMeasureTest : public ThemeTest
+{
+protected:
+    void SetUp() override
+    {
+        ThemeTest::SetUp();
+        ASSERT_TRUE(host.CreateHost());
+    }
+    void TearDown() override
+    {
+        if (menu)
+            ::DestroyMenu(menu);
+        host.DestroyWindow();
+        ThemeTest::TearDown();
+    }
+
+    MenuHost host;
+    HMENU menu = nullptr;
+};
+
+const ItemSpec kFileMenu[] = {
+    {L"Open\tCtrl+O", 101, MF_STRING},
+    {L"Save everything", 102, MF_STRING},
+    {nullptr, 0, MF_SEPARATOR},
+    {L"Exit\tAlt+Shift+F4", 103, MF_STRING},
+};
+
+} // namespace
+
+TEST_F(MenuMeasureTest, PopupItemsShareHeightWidestTextAndWidestAccelerator)
+{
+    menu = BuildPopup(kFileMenu);
+    CMenuXP::SetXPLookNFeel(&host, menu, true, false);
+    const int tmHeight = MenuFontHeight();
+    ASSERT_GT(tmHeight, 0);
+    const ULONG_PTR expected =
+        PackItemData((std::max)(tmHeight + 2, 16) + 4, MenuTextWidth(L"Alt+Shift+F4"), MenuTextWidth(L"Save everything"));
+    for (int position : {0, 1, 3}) {
+        EXPECT_TRUE(ItemInfo(menu, position).fType & MFT_OWNERDRAW) << position;
+        EXPECT_EQ(ItemData(menu, position), expected) << position;
+    }
+}
+
+TEST_F(MenuMeasureTest, SeparatorsAreHalfTheFontHigh)
+{
+    menu = BuildPopup(kFileMenu);
+    CMenuXP::SetXPLookNFeel(&host, menu, true, false);
+    const MENUITEMINFOW separator = ItemInfo(menu, 2);
+    EXPECT_TRUE(separator.fType & MFT_OWNERDRAW);
+    EXPECT_TRUE(separator.fType & MFT_SEPARATOR);
+    EXPECT_EQ(separator.dwItemData, static_cast<ULONG_PTR>(MenuFontHeight() / 2 + 2));
+
+    MEASUREITEMSTRUCT measure = {};
+    measure.CtlType = ODT_MENU;
+    measure.itemData = separator.dwItemData;
+    host.SendMessage(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&measure));
+    EXPECT_EQ(measure.itemWidth, 42u);
+    EXPECT_EQ(measure.itemHeight, static_cast<UINT>(MenuFontHeight() / 2 + 2));
+}
+
+TEST_F(MenuMeasureTest, MeasuredWidthHoldsTextIconColumnAndAccelerators)
+{
+    menu = BuildPopup(kFileMenu);
+    CMenuXP::SetXPLookNFeel(&host, menu, true, false);
+    MEASUREITEMSTRUCT measure = {};
+    measure.CtlType = ODT_MENU;
+    measure.itemID = 101;
+    measure.itemData = ItemData(menu, 0);
+    host.SendMessage(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&measure));
+    EXPECT_EQ(measure.itemWidth,
+              static_cast<UINT>(MenuTextWidth(L"Save everything") + 42 + MenuTextWidth(L"Alt+Shift+F4")));
+    EXPECT_EQ(measure.itemHeight, static_cast<UINT>((std::max)(MenuFontHeight() + 2, 16) + 4));
+}
+
+TEST_F(MenuMeasureTest, MnemonicMarkersTakeNoWidth)
+{
+    const ItemSpec items[] = {{L"&Print", 1, MF_STRING}};
+    menu = BuildPopup(items);
+    CMenuXP::SetXPLookNFeel(&host, menu, true, false);
+    EXPECT_EQ(ItemDataTextWidth(ItemData(menu, 0)), MenuTextWidth(L"Print"));
+    EXPECT_EQ(ItemDataAccelWidth(ItemData(menu, 0)), 0);
+}
+
+TEST_F(MenuMeasureTest, MenuBarItemsCarryTheirOwnTextWidth)
+{
+    menu = ::CreateMenu();
+    ::AppendMenuW(menu, MF_STRING, 1, L"File");
+    ::AppendMenuW(menu, MF_STRING, 2, L"Window layout");
+    CMenuXP::SetXPLookNFeel(&host, menu, true, true);
+    EXPECT_EQ(ItemData(menu, 0), static_cast<ULONG_PTR>(MenuTextWidth(L"File")) << 16);
+    EXPECT_EQ(ItemData(menu, 1), static_cast<ULONG_PTR>(MenuTextWidth(L"Window layout")) << 16);
+    MEASUREITEMSTRUCT measure = {};
+    measure.CtlType = ODT_MENU;
+    measure.itemData = ItemData(menu, 1);
+    CMenuXP::OnMeasureItem(&measure);
+    EXPECT_EQ(measure.itemWidth, static_cast<UINT>(MenuTextWidth(L"Window layout") + 4));
+}
+
+TEST_F(MenuMeasureTest, BitmapItemsOfAMenuBarStayAsTheyAre)
+{
+    menu = ::CreateMenu();
+    HBITMAP bitmap = ::CreateBitmap(8, 8, 1, 1, nullptr);
+    ::AppendMenuW(menu, MF_BITMAP, 1, reinterpret_cast<LPCWSTR>(bitmap));
+    ::AppendMenuW(menu, MF_STRING, 2, L"Edit");
+    CMenuXP::SetXPLookNFeel(&host, menu, true, true);
+    EXPECT_FALSE(ItemInfo(menu, 0).fType & MFT_OWNERDRAW);
+    EXPECT_TRUE(ItemInfo(menu, 1).fType & MFT_OWNERDRAW);
+    ::DestroyMenu(menu);
+    menu = nullptr;
+    ::DeleteObject(bitmap);
+}
+
+TEST_F(MenuMeasureTest, MenusAlreadyOwnerDrawnAreLeftAlone)
+{
+    menu = ::CreatePopupMenu();
+    ::AppendMenuW(menu, MF_OWNERDRAW, 7, reinterpret_cast<LPCWSTR>(static_cast<ULONG_PTR>(0x1234)));
+    ASSERT_TRUE(CMenuXP::IsOwnerDrawn(menu));
+    CMenuXP::SetXPLookNFeel(&host, menu, true, false);
+    EXPECT_EQ(ItemData(menu, 0), 0x1234u);
+    EXPECT_EQ(::GetMenuItemCount(menu), 1);
+}
+
+TEST_F(MenuMeasureTest, SecondCallChangesNothing)
+{
+    menu = BuildPopup(kFileMenu);
+    CMenuXP::SetXPLookNFeel(&host, menu, true, false);
+    ULONG_PTR first[4];
+    for (int i = 0; i < 4; ++i)
+        first[i] = ItemData(menu, i);
+    CMenuXP::SetXPLookNFeel(&host, menu, true, false);
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_EQ(ItemData(menu, i), first[i]) << i;
+        EXPECT_TRUE(ItemInfo(menu, i).fType & MFT_OWNERDRAW) << i;
+    }
+}
+
+TEST_F(MenuMeasureTest, DisabledLookChangesNothing)
+{
+    menu = BuildPopup(kFileMenu);
+    CMenuXP::SetXPLookNFeel(&host, menu, false, false);
+    EXPECT_FALSE(CMenuXP::IsOwnerDrawn(menu));
+    EXPECT_EQ(ItemData(menu, 0), 0u);
+}
+
+TEST_F(MenuMeasureTest, InitMenuPopupMakesThePopupOwnerDrawnButNotTheSystemMenu)
+{
+    menu = BuildPopup(kFileMenu);
+    host.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu), MAKELPARAM(0, TRUE));
+    EXPECT_FALSE(CMenuXP::IsOwnerDrawn(menu));
+    host.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu), MAKELPARAM(0, FALSE));
+    EXPECT_TRUE(CMenuXP::IsOwnerDrawn(menu));
+}
+
+TEST_F(MenuMeasureTest, BadMenusAreIgnored)
+{
+    CMenuXP::SetXPLookNFeel(&host, nullptr, true, false);
+    CMenuXP::SetXPLookNFeel(nullptr, reinterpret_cast<HMENU>(static_cast<UINT_PTR>(0xBAD0)), true, true);
+    menu = ::CreatePopupMenu();
+    CMenuXP::SetXPLookNFeel(nullptr, menu, true, false);
+    EXPECT_FALSE(CMenuXP::IsOwnerDrawn(menu));
+    EXPECT_FALSE(CMenuXP::IsOwnerDrawn(nullptr));
+}
+
+TEST_F(MenuMeasureTest, WindowPropertyOptsIn)
+{
+    EXPECT_FALSE(CMenuXP::GetXPLookNFeel(&host));
+    CMenuXP::SetXPLookNFeel(&host, true);
+    EXPECT_TRUE(CMenuXP::GetXPLookNFeel(&host));
+    EXPECT_EQ(::GetPropW(host.m_hWnd, L"XPWndProp_MenuXP"), reinterpret_cast<HANDLE>(1));
+    CMenuXP::SetXPLookNFeel(&host, false);
+    EXPECT_FALSE(CMenuXP::GetXPLookNFeel(&host));
+    EXPECT_EQ(::GetPropW(host.m_hWnd, L"XPWndProp_MenuXP"), nullptr);
+    EXPECT_FALSE(CMenuXP::GetXPLookNFeel(nullptr));
+    CMenuXP::SetXPLookNFeel(static_cast<CWnd*>(nullptr), true);
+}
+
+TEST_F(MenuMeasureTest, UpdateMenuBarOnlyForWindowsThatOptedIn)
+{
+    menu = ::CreateMenu();
+    ::AppendMenuW(menu, MF_STRING, 1, L"File");
+    CWnd frame;
+    ASSERT_TRUE(frame.CreateEx(0, AfxRegisterWndClass(0), L"frame", WS_OVERLAPPEDWINDOW, 0, 0, 300, 200, nullptr,
+                               menu));
+    CMenuXP::UpdateMenuBar(&frame);
+    EXPECT_FALSE(CMenuXP::IsOwnerDrawn(menu));
+    CMenuXP::SetXPLookNFeel(&frame, true);
+    CMenuXP::UpdateMenuBar(&frame);
+    EXPECT_TRUE(CMenuXP::IsOwnerDrawn(menu));
+    EXPECT_EQ(ItemData(menu, 0), static_cast<ULONG_PTR>(MenuTextWidth(L"File")) << 16);
+    frame.DestroyWindow(); // destroys its menu too
+    menu = nullptr;
+}

@@ -79,6 +79,7 @@ BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
     ON_WM_CREATE()
     ON_WM_DESTROY()
     ON_WM_SIZE()
+    ON_WM_INITMENUPOPUP()
 END_MESSAGE_MAP()
 
 const CRect CFrameWnd::rectDefault(CW_USEDEFAULT, CW_USEDEFAULT, 0, 0);
@@ -195,6 +196,33 @@ void CFrameWnd::OnSize(UINT nType, int cx, int cy)
     CWnd::OnSize(nType, cx, cy);
     if (nType != SIZE_MINIMIZED)
         RecalcLayout();
+}
+
+void CFrameWnd::OnInitMenuPopup(CMenu* pPopupMenu, UINT nIndex, BOOL bSysMenu)
+{
+    CWnd::OnInitMenuPopup(pPopupMenu, nIndex, bSysMenu);
+    if (bSysMenu || pPopupMenu == NULL || pPopupMenu->m_hMenu == NULL)
+        return;
+    CCmdUI state;
+    state.m_pMenu = pPopupMenu;
+    state.m_nIndexMax = pPopupMenu->GetMenuItemCount();
+    if (state.m_nIndexMax == (UINT)-1)
+        return;
+    for (state.m_nIndex = 0; state.m_nIndex < state.m_nIndexMax; state.m_nIndex++) {
+        state.m_nID = pPopupMenu->GetMenuItemID(state.m_nIndex);
+        state.m_pSubMenu = pPopupMenu->GetSubMenu(state.m_nIndex);
+        // Popups and separators have no command; system commands belong to the system.
+        if (state.m_pSubMenu != NULL || state.m_nID == 0 || state.m_nID == (UINT)-1)
+            continue;
+        state.DoUpdate(this, m_bAutoMenuEnable && state.m_nID < 0xF000);
+        // An update handler may have removed items.
+        UINT count = pPopupMenu->GetMenuItemCount();
+        if (count < state.m_nIndexMax) {
+            state.m_nIndexMax = count;
+            if (state.m_nIndex >= count)
+                break;
+        }
+    }
 }
 
 // Frames live on the heap and go away with their window.

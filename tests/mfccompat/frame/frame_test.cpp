@@ -228,3 +228,46 @@ TEST(FrameLifetime, CreateDestroyCyclesLeakNothing)
         }
     });
 }
+
+namespace {
+
+// Handles "Open" only; "Exit" has neither a command nor an update handler.
+class CommandFrame : public CFrameWnd
+{
+public:
+    int opened = 0;
+
+protected:
+    afx_msg void OnOpen() { ++opened; }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CommandFrame, CFrameWnd)
+    ON_COMMAND(ID_TEST_OPEN, &CommandFrame::OnOpen)
+END_MESSAGE_MAP()
+
+bool ItemEnabled(HMENU menu, UINT id)
+{
+    return (::GetMenuState(menu, id, MF_BYCOMMAND) & (MF_GRAYED | MF_DISABLED)) == 0;
+}
+
+} // namespace
+
+TEST(FrameMenus, AutoMenuEnableDisablesItemsWithoutHandlers)
+{
+    CommandFrame* frame = new CommandFrame;
+    ASSERT_TRUE(frame->LoadFrame(IDR_TEST_FRAME, WS_OVERLAPPEDWINDOW));
+    HMENU file = ::GetSubMenu(::GetMenu(frame->m_hWnd), 0);
+    ASSERT_NE(nullptr, file);
+    frame->SendMessage(WM_INITMENUPOPUP, (WPARAM)file, MAKELPARAM(0, FALSE));
+    EXPECT_TRUE(ItemEnabled(file, ID_TEST_OPEN));
+    EXPECT_FALSE(ItemEnabled(file, ID_TEST_EXIT));
+
+    frame->m_bAutoMenuEnable = FALSE;
+    ::EnableMenuItem(file, ID_TEST_EXIT, MF_BYCOMMAND | MF_ENABLED);
+    frame->SendMessage(WM_INITMENUPOPUP, (WPARAM)file, MAKELPARAM(0, FALSE));
+    EXPECT_TRUE(ItemEnabled(file, ID_TEST_EXIT));
+    frame->SendMessage(WM_COMMAND, ID_TEST_OPEN);
+    EXPECT_EQ(1, frame->opened);
+    frame->DestroyWindow();
+}

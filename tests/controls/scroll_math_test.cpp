@@ -1,0 +1,250 @@
+// Scroll bar geometry and arithmetic, called with plain numbers.
+#include <afxwin.h>
+
+#include <gtest/gtest.h>
+
+#include "controls/ZoScrollBarMath.h"
+
+using namespace ZoControls;
+
+namespace {
+
+const int kGap = 4;        // class 0 gap
+const int kButtonUnit = 26; // class 0 vertical button unit height
+const int kThumbUnit = 8;   // class 0 vertical thumb unit height
+
+SCROLLINFO Info(int nMin, int nMax, UINT nPage, int nPos = 0)
+{
+    SCROLLINFO info = {sizeof(SCROLLINFO), SIF_ALL, nMin, nMax, nPage, nPos, nPos};
+    return info;
+}
+
+bool SameRect(const RECT& a, int l, int t, int r, int b)
+{
+    return a.left == l && a.top == t && a.right == r && a.bottom == b;
+}
+
+ZoScrollLayout TallBar()
+{
+    const RECT client = {0, 0, 19, 200};
+    return ZoScrollInitialLayout(client, true, kGap, kButtonUnit, kThumbUnit);
+}
+
+} // namespace
+
+TEST(ScrollGap, FourPixelsTimesZoomOrNoneWithoutButtons)
+{
+    EXPECT_EQ(ZoScrollGapSize(true, 1.0f), 4);
+    EXPECT_EQ(ZoScrollGapSize(true, 1.2f), 5);
+    EXPECT_EQ(ZoScrollGapSize(true, 1.6f), 6);
+    EXPECT_EQ(ZoScrollGapSize(false, 1.6f), 0);
+}
+
+TEST(ScrollLayout, TallVerticalBarShortensButtonHitAreasByTheGap)
+{
+    ZoScrollLayout layout = TallBar();
+    EXPECT_EQ(layout.thumbLength, (200 - 52) / 3);
+    EXPECT_TRUE(SameRect(layout.part[ZoScrollPart_Prev], 0, 0, 19, 22));
+    EXPECT_TRUE(SameRect(layout.part[ZoScrollPart_Next], 0, 178, 19, 200));
+    EXPECT_TRUE(SameRect(layout.part[ZoScrollPart_Thumb], 0, 26, 19, 26 + 49));
+    EXPECT_TRUE(::IsRectEmpty(&layout.part[ZoScrollPart_Before]));
+    EXPECT_TRUE(SameRect(layout.part[ZoScrollPart_After], 0, 75, 19, 178));
+    EXPECT_TRUE(::IsRectEmpty(&layout.part[ZoScrollPart_None]));
+}
+
+TEST(ScrollLayout, HorizontalBarUsesTheXAxis)
+{
+    const RECT client = {0, 0, 300, 19};
+    ZoScrollLayout layout = ZoScrollInitialLayout(client, false, kGap, 26, 8);
+    EXPECT_EQ(layout.thumbLength, (300 - 52) / 3);
+    EXPECT_TRUE(SameRect(layout.part[ZoScrollPart_Prev], 0, 0, 22, 19));
+    EXPECT_TRUE(SameRect(layout.part[ZoScrollPart_Next], 278, 0, 300, 19));
+    EXPECT_EQ(ZoScrollChannelStart(layout, false), 22);
+    EXPECT_EQ(ZoScrollChannelEnd(layout, false), 278);
+}
+
+TEST(ScrollLayout, ShortBarGetsTwoHalfButtonsAndNoThumb)
+{
+    // Not more than one thumb unit plus two button units: 8 + 52 = 60.
+    const RECT client = {0, 0, 19, 60};
+    ZoScrollLayout layout = ZoScrollInitialLayout(client, true, kGap, kButtonUnit, kThumbUnit);
+    EXPECT_EQ(layout.thumbLength, 0);
+    EXPECT_TRUE(SameRect(layout.part[ZoScrollPart_Prev], 0, 0, 19, 30));
+    EXPECT_TRUE(SameRect(layout.part[ZoScrollPart_Next], 0, 30, 19, 60));
+    EXPECT_TRUE(::IsRectEmpty(&layout.part[ZoScrollPart_Thumb]));
+    EXPECT_TRUE(::IsRectEmpty(&layout.part[ZoScrollPart_Before]));
+    EXPECT_TRUE(::IsRectEmpty(&layout.part[ZoScrollPart_After]));
+
+    const RECT odd = {0, 0, 19, 41};
+    layout = ZoScrollInitialLayout(odd, true, kGap, kButtonUnit, kThumbUnit);
+    EXPECT_TRUE(SameRect(layout.part[ZoScrollPart_Prev], 0, 0, 19, 20));
+    EXPECT_TRUE(SameRect(layout.part[ZoScrollPart_Next], 0, 21, 19, 41));
+}
+
+TEST(ScrollLayout, OnePixelLongerThanTheLimitHasAThumb)
+{
+    const RECT client = {0, 0, 19, 61};
+    ZoScrollLayout layout = ZoScrollInitialLayout(client, true, kGap, kButtonUnit, kThumbUnit);
+    EXPECT_EQ(layout.thumbLength, 3);
+    EXPECT_FALSE(::IsRectEmpty(&layout.part[ZoScrollPart_Thumb]));
+}
+
+TEST(ScrollRects, ThumbAndPageAreasFollowTheThumbPosition)
+{
+    ZoScrollLayout layout = TallBar();
+    ZoScrollUpdateRects(layout, true, 30, kThumbUnit);
+    EXPECT_TRUE(SameRect(layout.part[ZoScrollPart_Before], 0, 22, 19, 52));
+    EXPECT_TRUE(SameRect(layout.part[ZoScrollPart_Thumb], 0, 52, 19, 101));
+    EXPECT_TRUE(SameRect(layout.part[ZoScrollPart_After], 0, 101, 19, 178));
+}
+
+TEST(ScrollRects, ChannelOfThreeThumbUnitsHidesThumbAndPageAreas)
+{
+    // Channel 68 - 2 x 26 + 2 x 4 = 24, exactly three thumb units.
+    const RECT client = {0, 0, 19, 68};
+    ZoScrollLayout layout = ZoScrollInitialLayout(client, true, kGap, kButtonUnit, kThumbUnit);
+    ASSERT_EQ(ZoScrollChannelEnd(layout, true) - ZoScrollChannelStart(layout, true), 24);
+    ZoScrollUpdateRects(layout, true, 0, kThumbUnit);
+    EXPECT_TRUE(::IsRectEmpty(&layout.part[ZoScrollPart_Thumb]));
+    EXPECT_TRUE(::IsRectEmpty(&layout.part[ZoScrollPart_Before]));
+    EXPECT_TRUE(::IsRectEmpty(&layout.part[ZoScrollPart_After]));
+
+    const RECT longer = {0, 0, 19, client.bottom + 1};
+    layout = ZoScrollInitialLayout(longer, true, kGap, kButtonUnit, kThumbUnit);
+    ZoScrollUpdateRects(layout, true, 0, kThumbUnit);
+    EXPECT_FALSE(::IsRectEmpty(&layout.part[ZoScrollPart_Thumb]));
+}
+
+TEST(ScrollThumbLength, PageShareOfTheChannelNeverBelowThreeUnits)
+{
+    EXPECT_EQ(ZoScrollThumbLength(Info(0, 99, 10), 164, kThumbUnit), 24); // 16.4 -> at least 24
+    EXPECT_EQ(ZoScrollThumbLength(Info(0, 99, 50), 164, kThumbUnit), 82);
+    EXPECT_EQ(ZoScrollThumbLength(Info(1, 8, 3), 165, kThumbUnit), 62); // 61.875 rounds up
+}
+
+TEST(ScrollThumbLength, NoPageGivesAThirdAndInvertedRangeNothing)
+{
+    EXPECT_EQ(ZoScrollThumbLength(Info(0, 99, 0), 164, kThumbUnit), 54);
+    EXPECT_EQ(ZoScrollThumbLength(Info(10, 5, 3), 164, kThumbUnit), 0);
+    EXPECT_EQ(ZoScrollThumbLength(Info(10, 5, 0), 164, kThumbUnit), 54); // no page is tested first
+}
+
+TEST(ScrollThumbLength, FullPageFillsTheChannel)
+{
+    EXPECT_EQ(ZoScrollThumbLength(Info(0, 99, 100), 164, kThumbUnit), 164);
+}
+
+TEST(ScrollConversion, PositionToThumbAndBack)
+{
+    const SCROLLINFO info = Info(0, 109, 10);
+    EXPECT_EQ(ZoScrollThumbPosFromScrollPos(info, 0, 140), 0);
+    EXPECT_EQ(ZoScrollThumbPosFromScrollPos(info, 50, 140), 70);
+    EXPECT_EQ(ZoScrollThumbPosFromScrollPos(info, 100, 140), 140);
+    EXPECT_EQ(ZoScrollScrollPosFromThumbPos(info, 70, 140), 50);
+    EXPECT_EQ(ZoScrollScrollPosFromThumbPos(info, 140, 140), 100);
+    EXPECT_EQ(ZoScrollScrollPosFromThumbPos(info, 1, 140), 1); // 0.714 rounds to 1
+}
+
+TEST(ScrollConversion, RangeNotStartingAtZeroAddsTheMinimum)
+{
+    const SCROLLINFO info = Info(-20, 79, 0);
+    EXPECT_EQ(ZoScrollThumbPosFromScrollPos(info, 30, 100), 50);
+    EXPECT_EQ(ZoScrollScrollPosFromThumbPos(info, 50, 100), 30);
+}
+
+TEST(ScrollConversion, InvertedRangeGivesZero)
+{
+    const SCROLLINFO info = Info(50, 10, 5, 30);
+    EXPECT_EQ(ZoScrollThumbPosFromScrollPos(info, 30, 100), 0);
+    EXPECT_EQ(ZoScrollScrollPosFromThumbPos(info, 77, 100), 0);
+}
+
+TEST(ScrollConversion, FullPageRangeIsSafe)
+{
+    // The page covers the whole range: nothing to travel.
+    const SCROLLINFO info = Info(5, 104, 100, 5);
+    EXPECT_EQ(ZoScrollThumbPosFromScrollPos(info, 5, 120), 0);
+    EXPECT_EQ(ZoScrollThumbPosFromScrollPos(info, 60, 120), 0);
+    EXPECT_EQ(ZoScrollScrollPosFromThumbPos(info, 60, 120), 5);
+}
+
+TEST(ScrollConversion, ThumbThatCannotTravelGivesTheMinimum)
+{
+    const SCROLLINFO info = Info(7, 100, 10);
+    EXPECT_EQ(ZoScrollScrollPosFromThumbPos(info, 0, 0), 7);
+    EXPECT_EQ(ZoScrollScrollPosFromThumbPos(info, 12, -3), 7);
+}
+
+TEST(ScrollPoint, ClampedIntoTheChannelUnlessAskedNotTo)
+{
+    // Channel 22..178, thumb 49, gap 4: upper bound 178 - 49 + 8 - 22 = 115.
+    EXPECT_EQ(ZoScrollThumbPosFromPoint(60, 22, 178, 49, kGap, 5, false), 43);
+    EXPECT_EQ(ZoScrollThumbPosFromPoint(300, 22, 178, 49, kGap, 0, false), 115);
+    EXPECT_EQ(ZoScrollThumbPosFromPoint(-40, 22, 178, 49, kGap, 0, false), 0);
+    EXPECT_EQ(ZoScrollThumbPosFromPoint(300, 22, 178, 49, kGap, 0, true), 278);
+    EXPECT_EQ(ZoScrollThumbPosFromPoint(-40, 22, 178, 49, kGap, 0, true), -62);
+}
+
+TEST(ScrollHitTest, EachPartAndNothingOutside)
+{
+    ZoScrollLayout layout = TallBar();
+    ZoScrollUpdateRects(layout, true, 30, kThumbUnit);
+    EXPECT_EQ(ZoScrollHitTest(layout, CPoint(5, 3)), ZoScrollPart_Prev);
+    EXPECT_EQ(ZoScrollHitTest(layout, CPoint(5, 190)), ZoScrollPart_Next);
+    EXPECT_EQ(ZoScrollHitTest(layout, CPoint(5, 60)), ZoScrollPart_Thumb);
+    EXPECT_EQ(ZoScrollHitTest(layout, CPoint(5, 30)), ZoScrollPart_Before);
+    EXPECT_EQ(ZoScrollHitTest(layout, CPoint(5, 120)), ZoScrollPart_After);
+    EXPECT_EQ(ZoScrollHitTest(layout, CPoint(25, 60)), ZoScrollPart_None);
+    EXPECT_EQ(ZoScrollHitTest(layout, CPoint(5, 200)), ZoScrollPart_None);
+}
+
+TEST(ScrollHitTest, ButtonsWinOverAThumbRunningIntoThem)
+{
+    ZoScrollLayout layout = TallBar();
+    // At the end of its travel the thumb reaches into the next button's hit area.
+    ZoScrollUpdateRects(layout, true, 115, kThumbUnit);
+    ASSERT_GT(layout.part[ZoScrollPart_Thumb].bottom, layout.part[ZoScrollPart_Next].top);
+    EXPECT_EQ(ZoScrollHitTest(layout, CPoint(5, 180)), ZoScrollPart_Next);
+    EXPECT_EQ(ZoScrollHitTest(layout, CPoint(5, 170)), ZoScrollPart_Thumb);
+}
+
+TEST(ScrollStep, LinesAndPagesClampToTheRange)
+{
+    const SCROLLINFO info = Info(0, 100, 10, 50);
+    ZoScrollStep step = ZoScrollStepForPart(info, ZoScrollPart_Prev, 0);
+    EXPECT_EQ(step.pos, 49);
+    EXPECT_EQ(step.code, (UINT)SB_LINEUP);
+    step = ZoScrollStepForPart(info, ZoScrollPart_Next, 0);
+    EXPECT_EQ(step.pos, 51);
+    EXPECT_EQ(step.code, (UINT)SB_LINEDOWN);
+    step = ZoScrollStepForPart(info, ZoScrollPart_Before, 0);
+    EXPECT_EQ(step.pos, 40);
+    EXPECT_EQ(step.code, (UINT)SB_PAGEUP);
+    step = ZoScrollStepForPart(info, ZoScrollPart_After, 0);
+    EXPECT_EQ(step.pos, 60);
+    EXPECT_EQ(step.code, (UINT)SB_PAGEDOWN);
+    step = ZoScrollStepForPart(info, ZoScrollPart_Thumb, 77);
+    EXPECT_EQ(step.pos, 77);
+    EXPECT_EQ(step.code, (UINT)SB_THUMBTRACK);
+    step = ZoScrollStepForPart(info, ZoScrollPart_None, 77);
+    EXPECT_EQ(step.pos, 50);
+    EXPECT_EQ(step.code, (UINT)SB_LINEUP);
+}
+
+TEST(ScrollStep, UpperClampIsTheMaximumNotTheLastPage)
+{
+    EXPECT_EQ(ZoScrollStepForPart(Info(0, 100, 10, 95), ZoScrollPart_After, 0).pos, 100);
+    EXPECT_EQ(ZoScrollStepForPart(Info(0, 100, 10, 100), ZoScrollPart_Next, 0).pos, 100);
+    EXPECT_EQ(ZoScrollStepForPart(Info(0, 100, 10, 0), ZoScrollPart_Prev, 0).pos, 0);
+    EXPECT_EQ(ZoScrollStepForPart(Info(0, 100, 10, 3), ZoScrollPart_Before, 0).pos, 0);
+    // Inverted range: the larger end is the upper bound.
+    EXPECT_EQ(ZoScrollStepForPart(Info(20, 10, 0, 20), ZoScrollPart_Next, 0).pos, 20);
+}
+
+TEST(ScrollStep, PositionsAtTheIntLimitsDoNotWrap)
+{
+    EXPECT_EQ(ZoScrollStepForPart(Info(INT_MIN, INT_MAX, 0x7FFFFFFF, INT_MAX), ZoScrollPart_After, 0).pos,
+              INT_MAX);
+    EXPECT_EQ(ZoScrollStepForPart(Info(INT_MIN, INT_MAX, 0x7FFFFFFF, INT_MIN), ZoScrollPart_Before, 0).pos,
+              INT_MIN);
+}

@@ -493,7 +493,11 @@ void CMenuXP::InitializeHook()
     MenuXPState& state = State();
     if (state.nHookRefs++ > 0)
         return;
-    state.hHook = ::SetWindowsHookExW(WH_CALLWNDPROC, &CMenuXP::_hookProc, AfxGetInstanceHandle(), ::GetCurrentThreadId());
+    // The module that holds the hook procedure: this library, not the host.
+    HMODULE hModule = NULL;
+    ::GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                         reinterpret_cast<LPCWSTR>(&CMenuXP::_hookProc), &hModule);
+    state.hHook = ::SetWindowsHookExW(WH_CALLWNDPROC, &CMenuXP::_hookProc, hModule, ::GetCurrentThreadId());
 }
 
 void CMenuXP::UninitializeHook()

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "core/ZoUIBase.h"
+
 using namespace ZoControls;
 using namespace ZoControls::ZoMenu_Internals;
 using namespace menutest;
@@ -201,4 +203,24 @@ TEST_F(MenuMeasureTest, UpdateMenuBarOnlyForWindowsThatOptedIn)
     EXPECT_EQ(ItemData(menu, 0), static_cast<ULONG_PTR>(MenuTextWidth(L"File")) << 16);
     frame.DestroyWindow(); // destroys its menu too
     menu = nullptr;
+}
+
+TEST_F(MenuMeasureTest, ThemedWindowsOptInAndForwardTheirMenus)
+{
+    CZoWnd themed;
+    ASSERT_TRUE(themed.CreateEx(0, AfxRegisterWndClass(0), L"themed", WS_POPUP, 0, 0, 100, 100, nullptr, nullptr));
+    EXPECT_TRUE(CMenuXP::GetXPLookNFeel(&themed));
+    const ItemSpec items[] = {{L"&Open", 1, MF_STRING}, {L"E&xit", 2, MF_STRING}};
+    menu = BuildPopup(items);
+    themed.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu), MAKELPARAM(0, FALSE));
+    EXPECT_TRUE(CMenuXP::IsOwnerDrawn(menu));
+    EXPECT_EQ(themed.SendMessage(WM_MENUCHAR, MAKEWPARAM(L'x', MF_POPUP), reinterpret_cast<LPARAM>(menu)),
+              MAKELRESULT(1, MNC_EXECUTE));
+    MEASUREITEMSTRUCT measure = {};
+    measure.CtlType = ODT_MENU;
+    measure.itemData = ItemData(menu, 1);
+    themed.SendMessage(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&measure));
+    EXPECT_EQ(measure.itemHeight, static_cast<UINT>(ItemDataHeight(ItemData(menu, 1))));
+    EXPECT_GT(measure.itemHeight, 0u);
+    themed.DestroyWindow();
 }

@@ -2,11 +2,15 @@
 #include <afxwin.h>
 
 #include "GalleryPage.h"
+#include "SkinsPage.h"
 #include "ThemePage.h"
 
 namespace {
 const GalleryPageEntry kPages[] = {
     {L"Theme", &CreateGalleryPage<CThemePage>},
+    {L"Skins", &CreateGalleryPage<CSkinsPage>},
+    {L"Skins 3M", &CreateGalleryPage<CSkins3MPage>},
+    {L"Skins 5M", &CreateGalleryPage<CSkins5MPage>},
 };
 } // namespace
 

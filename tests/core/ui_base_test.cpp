@@ -210,3 +210,23 @@ TEST_F(UiBaseTest, RunTimeClassIsCZoWndDerivedFromCWnd)
     EXPECT_TRUE(container.IsKindOf(RUNTIME_CLASS(CWnd)));
     EXPECT_TRUE(container.IsKindOf(RUNTIME_CLASS(CZoWnd)));
 }
+
+TEST_F(UiBaseTest, CreationOptsIntoOwnerDrawnMenus)
+{
+    EXPECT_TRUE(CMenuXP::GetXPLookNFeel(&container));
+    CWnd plain;
+    ASSERT_TRUE(plain.Create(L"STATIC", L"plain", WS_CHILD, CRect(0, 0, 10, 10), &container, 3));
+    EXPECT_FALSE(CMenuXP::GetXPLookNFeel(&plain));
+}
+
+TEST_F(UiBaseTest, PopupMenusOpenedByTheWindowBecomeOwnerDrawn)
+{
+    CMenu popup;
+    ASSERT_TRUE(popup.CreatePopupMenu());
+    popup.AppendMenu(MF_STRING, 1001, L"&Open");
+    popup.AppendMenu(MF_STRING, 1002, L"&Close");
+    EXPECT_FALSE(CMenuXP::IsOwnerDrawn(popup.GetSafeHmenu()));
+    container.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(popup.GetSafeHmenu()), MAKELPARAM(0, FALSE));
+    EXPECT_TRUE(CMenuXP::IsOwnerDrawn(popup.GetSafeHmenu()));
+    popup.DestroyMenu();
+}

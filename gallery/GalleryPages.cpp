@@ -2,6 +2,7 @@
 #include <afxwin.h>
 
 #include "GalleryPage.h"
+#include "MenusPage.h"
 #include "SkinsPage.h"
 #include "ThemePage.h"
 
@@ -11,6 +12,7 @@ const GalleryPageEntry kPages[] = {
     {L"Skins", &CreateGalleryPage<CSkinsPage>},
     {L"Skins 3M", &CreateGalleryPage<CSkins3MPage>},
     {L"Skins 5M", &CreateGalleryPage<CSkins5MPage>},
+    {L"Menus", &CreateGalleryPage<CMenusPage>},
 };
 } // namespace
 

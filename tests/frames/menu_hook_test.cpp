@@ -22,6 +22,8 @@ struct PopupProbe
     bool ownerDrawn = false;
     COLORREF printed[3] = {CLR_INVALID, CLR_INVALID, CLR_INVALID};
     COLORREF screen[3] = {CLR_INVALID, CLR_INVALID, CLR_INVALID};
+    // Top edge at x = 30 and x = 80 when an open menu-bar item is made to sit right above it.
+    COLORREF joined[2] = {CLR_INVALID, CLR_INVALID};
     int ticks = 0;
 };
 
@@ -68,6 +70,17 @@ void CALLBACK ProbeTimer(HWND window, UINT, UINT_PTR id, DWORD)
         HDC dc = ::GetWindowDC(popup);
         ReadDiagonal(zotest::Dib::FromDC(dc, rect), g_probe.screen);
         ::ReleaseDC(popup, dc);
+
+        CRect screen;
+        ::GetWindowRect(popup, &screen);
+        RECT bar = {screen.left + 20, screen.top - 19, screen.left + 80, screen.top + 1};
+        CMenuXP::SetMRUMenuBarItem(bar);
+        zotest::Dib hanging(rect.Width(), rect.Height());
+        ::SendMessageW(popup, WM_PRINT, reinterpret_cast<WPARAM>(hanging.dc()), PRF_NONCLIENT | PRF_CLIENT);
+        g_probe.joined[0] = hanging.Pixel(30, 0);
+        g_probe.joined[1] = hanging.Pixel(80, 0);
+        RECT none = {0, 0, 0, 0};
+        CMenuXP::SetMRUMenuBarItem(none);
     }
     ::EndMenu();
 }
@@ -168,6 +181,9 @@ TEST_F(MenuHookTest, PopupWindowIsSubclassedAndItsFrameThemed)
         EXPECT_EQ(g_probe.screen[1], Slot(68));
         EXPECT_EQ(g_probe.screen[2], Slot(68));
     }
+    // Hanging from an open menu-bar item, the top edge under it takes the item's fill colour.
+    EXPECT_EQ(g_probe.joined[0], OpenBarFillColor());
+    EXPECT_EQ(g_probe.joined[1], Slot(69));
     // Once closed, the popup window is gone and so is its subclassing.
     EXPECT_FALSE(::IsWindow(g_probe.popup) && ::GetPropW(g_probe.popup, L"XPWndProp_OldProc"));
 }

@@ -40,6 +40,9 @@ public:
     virtual CSize CalcFixedLayout(BOOL bStretch, BOOL bHorz);
     virtual CSize CalcDynamicLayout(int nLength, DWORD nMode);
 
+    // Brings the bar's items up to date with the target's command handlers; called at idle.
+    virtual void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) = 0;
+
     BOOL m_bAutoDelete;
     DWORD m_dwStyle;
     CFrameWnd* m_pDockSite;
@@ -48,6 +51,7 @@ protected:
     virtual void PostNcDestroy();
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnDestroy();
+    afx_msg LRESULT OnIdleUpdateCmdUI(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     int m_nCount;
@@ -95,6 +99,7 @@ public:
 
     virtual CSize CalcFixedLayout(BOOL bStretch, BOOL bHorz);
     virtual CSize CalcDynamicLayout(int nLength, DWORD nMode);
+    virtual void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler);
 
 protected:
     BOOL GetButtonByIndex(int nIndex, TBBUTTON& button) const;

@@ -1,4 +1,5 @@
 #include <afxext.h>
+#include <afxpriv.h>
 #include "cmnctrls_internal.h"
 
 // The TOOLBAR resource: a header of four WORDs followed by one WORD per button.
@@ -21,6 +22,7 @@ IMPLEMENT_DYNAMIC(CControlBar, CWnd)
 BEGIN_MESSAGE_MAP(CControlBar, CWnd)
     ON_WM_CREATE()
     ON_WM_DESTROY()
+    ON_MESSAGE(WM_IDLEUPDATECMDUI, &CControlBar::OnIdleUpdateCmdUI)
 END_MESSAGE_MAP()
 
 CControlBar::CControlBar()
@@ -53,6 +55,19 @@ void CControlBar::SetBorders(LPCRECT lpRect)
 CRect CControlBar::GetBorders() const
 {
     return CRect(m_cxLeftBorder, m_cyTopBorder, m_cxRightBorder, m_cyBottomBorder);
+}
+
+// The idle loop's update pass: the bar's commands go to the frame that owns the bar.
+LRESULT CControlBar::OnIdleUpdateCmdUI(WPARAM wParam, LPARAM)
+{
+    if (!IsVisible())
+        return 0;
+    CWnd* pOwner = GetOwner();
+    CFrameWnd* pTarget = (pOwner != NULL && pOwner->IsKindOf(RUNTIME_CLASS(CFrameWnd))) ? (CFrameWnd*)pOwner
+                                                                                     : GetParentFrame();
+    if (pTarget != NULL)
+        OnUpdateCmdUI(pTarget, (BOOL)wParam);
+    return 0;
 }
 
 BOOL CControlBar::IsVisible() const
@@ -280,6 +295,41 @@ BOOL CToolBar::SetButtons(const UINT* lpIDArray, int nIDCount)
     if (ok)
         m_nCount = nIDCount;
     return ok;
+}
+
+namespace {
+
+// Carries update handlers' answers to one toolbar button.
+class CToolCmdUI : public CCmdUI
+{
+public:
+    void Enable(BOOL bOn = TRUE) override
+    {
+        m_bEnableChanged = TRUE;
+        m_pOther->SendMessage(TB_ENABLEBUTTON, m_nID, MAKELPARAM(bOn ? TRUE : FALSE, 0));
+    }
+    void SetCheck(int nCheck = 1) override
+    {
+        m_pOther->SendMessage(TB_CHECKBUTTON, m_nID, MAKELPARAM(nCheck == 1, 0));
+        m_pOther->SendMessage(TB_INDETERMINATE, m_nID, MAKELPARAM(nCheck == 2, 0));
+    }
+    void SetText(LPCTSTR) override { }  // buttons keep their captions
+};
+
+} // namespace
+
+void CToolBar::OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler)
+{
+    CToolCmdUI state;
+    state.m_pOther = this;
+    state.m_nIndexMax = (UINT)GetCount();
+    for (state.m_nIndex = 0; state.m_nIndex < state.m_nIndexMax; state.m_nIndex++) {
+        TBBUTTON button;
+        if (!GetButtonByIndex((int)state.m_nIndex, button) || (button.fsStyle & TBSTYLE_SEP))
+            continue;
+        state.m_nID = (UINT)button.idCommand;
+        state.DoUpdate(pTarget, bDisableIfNoHndler);
+    }
 }
 
 BOOL CToolBar::GetButtonByIndex(int nIndex, TBBUTTON& button) const

@@ -1,6 +1,7 @@
 // CToolBar loaded from a TOOLBAR resource inside a frame, the frame's control-bar list and
 // layout, and the path by which menus find a command's button image; CToolBarCtrl alone.
 #include <afxext.h>
+#include <afxpriv.h>
 #include <gtest/gtest.h>
 #include <zotest/test_window.h>
 
@@ -61,7 +62,57 @@ bool FindCommandImage(CFrameWnd* frame, UINT command, HIMAGELIST& images, int& i
     return false;
 }
 
+// A frame whose handlers decide the toolbar's button states: red is disabled and green
+// checked by their update handlers, blue has neither an update nor a command handler.
+class UpdatingFrame : public CFrameWnd
+{
+public:
+    void OnRed() { }
+    void OnGreen() { }
+    void OnUpdateRed(CCmdUI* pCmdUI) { pCmdUI->Enable(FALSE); }
+    void OnUpdateGreen(CCmdUI* pCmdUI) { pCmdUI->SetCheck(1); }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(UpdatingFrame, CFrameWnd)
+    ON_COMMAND(ID_TEST_RED, &UpdatingFrame::OnRed)
+    ON_COMMAND(ID_TEST_GREEN, &UpdatingFrame::OnGreen)
+    ON_UPDATE_COMMAND_UI(ID_TEST_RED, &UpdatingFrame::OnUpdateRed)
+    ON_UPDATE_COMMAND_UI(ID_TEST_GREEN, &UpdatingFrame::OnUpdateGreen)
+END_MESSAGE_MAP()
+
 } // namespace
+
+TEST(ToolBarUpdate, IdleUpdateAsksTheFrameForEachButtonsState)
+{
+    UpdatingFrame* frame = new UpdatingFrame;  // frames delete themselves when destroyed
+    ASSERT_TRUE(frame->Create(NULL, L"Updates", WS_OVERLAPPEDWINDOW, CRect(0, 0, 400, 300)));
+    CToolBar bar;
+    ASSERT_TRUE(bar.CreateEx(frame));
+    ASSERT_TRUE(bar.LoadToolBar(IDR_TEST_FRAME));
+    auto enabled = [&](UINT id) { return bar.SendMessage(TB_ISBUTTONENABLED, id) != 0; };
+    auto checked = [&](UINT id) { return bar.SendMessage(TB_ISBUTTONCHECKED, id) != 0; };
+
+    // The idle pass without disabling: only what the update handlers say changes.
+    bar.SendMessage(WM_IDLEUPDATECMDUI, FALSE);
+    EXPECT_FALSE(enabled(ID_TEST_RED));
+    EXPECT_TRUE(enabled(ID_TEST_GREEN));
+    EXPECT_TRUE(checked(ID_TEST_GREEN));
+    EXPECT_TRUE(enabled(ID_TEST_BLUE));
+
+    // With disabling on, a button whose command nobody handles is greyed too.
+    bar.SendMessage(WM_IDLEUPDATECMDUI, TRUE);
+    EXPECT_FALSE(enabled(ID_TEST_RED));
+    EXPECT_TRUE(enabled(ID_TEST_GREEN));
+    EXPECT_FALSE(enabled(ID_TEST_BLUE));
+
+    // A hidden bar is left alone.
+    bar.SendMessage(TB_ENABLEBUTTON, ID_TEST_BLUE, MAKELPARAM(TRUE, 0));
+    bar.ShowWindow(SW_HIDE);
+    bar.SendMessage(WM_IDLEUPDATECMDUI, TRUE);
+    EXPECT_TRUE(enabled(ID_TEST_BLUE));
+    frame->DestroyWindow();
+}
 
 TEST_F(ToolBarTest, LoadToolBarReadsButtonsFromTheResource)
 {

@@ -6,7 +6,7 @@
 BEGIN_MESSAGE_MAP(CGalleryPage, ZoControls::CZoWnd)
     ON_WM_PAINT()
     ON_WM_ERASEBKGND()
-    ON_MESSAGE(WM_PRINTCLIENT, OnPrintClient)
+    ON_MESSAGE(WM_PRINTCLIENT, &CGalleryPage::OnPrintClient)
 END_MESSAGE_MAP()
 
 CGalleryPage::CGalleryPage()

@@ -11,4 +11,8 @@
 #include "ZoUIBase.h"
 #include "images/ZoResourceImage.h"
 #include "images/ZoResourcePNG.h"
+#include "controls/ZoScrollBar.h"
+#include "controls/ZoProgressCtrl.h"
+#include "controls/ZoSpinButtonCtrl.h"
+#include "controls/SeparatorWnd.h"
 #include "frames/ZoMenuXP.h"

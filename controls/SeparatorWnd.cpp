@@ -1,0 +1,249 @@
+#include "controls/SeparatorWnd.h"
+
+#include "controls/ZoPrintClientDC.h"
+#include "core/ZoThemeMath.h"
+
+namespace ZoControls {
+
+namespace {
+
+const int kLineSlot = 64;
+const int kRubberBandWidth = 3;
+const int kRubberBandInset = 3;
+
+const RECT kNoLine = {-1, -1, -1, -1};
+
+bool sameRect(const RECT& a, const RECT& b)
+{
+    return a.left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;
+}
+
+COLORREF swapRedBlue(COLORREF color) { return RGB(GetBValue(color), GetGValue(color), GetRValue(color)); }
+
+} // namespace
+
+int ZoSeparatorClamp(int value, int low, int high)
+{
+    const int limited = value < high ? value : high;
+    return limited > low ? limited : low;
+}
+
+IMPLEMENT_DYNAMIC(CSeparatorWnd, CZoWnd)
+
+BEGIN_MESSAGE_MAP(CSeparatorWnd, CZoWnd)
+    ON_WM_PAINT()
+    ON_MESSAGE(WM_PRINTCLIENT, &CSeparatorWnd::OnPrintClient)
+    ON_WM_MOUSEMOVE()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONUP()
+    ON_WM_MOUSELEAVE()
+END_MESSAGE_MAP()
+
+CSeparatorWnd::CSeparatorWnd(UINT id, E_SeparatorDirection direction, CWnd* pNotify, bool movable)
+    : m_nID(id), m_eDirection(direction), m_pNotify(pNotify), m_bDragging(false), m_rcPrevLine(kNoLine),
+      m_bBoundarySet(false), m_bMovable(movable), m_color(0xFF000000), m_bCustomColor(false)
+{
+    ::SetRectEmpty(&m_rcBoundary);
+}
+
+CSeparatorWnd::~CSeparatorWnd() {}
+
+int CSeparatorWnd::GetWindowDirection(E_SeparatorDirection& direction) const
+{
+    direction = m_eDirection;
+    return 2;
+}
+
+bool CSeparatorWnd::SetBoundaryOnScreen(const RECT* screenRect)
+{
+    m_bBoundarySet = false;
+    if (!screenRect || ::IsRectEmpty(screenRect) || !m_pNotify || !::IsWindow(m_pNotify->GetSafeHwnd()))
+        return false;
+    m_rcBoundary = *screenRect;
+    m_pNotify->ScreenToClient(&m_rcBoundary);
+    m_bBoundarySet = true;
+    return true;
+}
+
+void CSeparatorWnd::SetColor(const Gdiplus::Color& color)
+{
+    m_color = color.GetValue();
+    m_bCustomColor = true;
+}
+
+COLORREF CSeparatorWnd::_lineColor() const
+{
+    if (m_bCustomColor)
+        return (COLORREF)ZoArgbToColorRef(m_color);
+    const CZoThemeManager* pManager = CZoThemeManager::GetInstance();
+    const COLORREF slotColor = pManager ? pManager->GetGDIColor((E_ZoThemeColors)kLineSlot, ZoTheme_Default) : 0;
+    // Converted once more than anywhere else: red and blue come out exchanged, as intended.
+    return swapRedBlue(slotColor);
+}
+
+void CSeparatorWnd::OnPaint()
+{
+    CPaintDC dc(this);
+    _paintTo(&dc);
+}
+
+LRESULT CSeparatorWnd::OnPrintClient(WPARAM wParam, LPARAM)
+{
+    CZoPrintClientDC dc(wParam);
+    if (dc.GetSafeHdc())
+        _paintTo(&dc);
+    return 0;
+}
+
+void CSeparatorWnd::_paintTo(CDC* pDC)
+{
+    CRect r;
+    GetClientRect(&r);
+    if (r.IsRectEmpty())
+        return;
+    CPen pen(PS_SOLID, 1, _lineColor());
+    CPen* pOldPen = pDC->SelectObject(&pen);
+    for (int i = 0; i < 2; ++i)
+    {
+        if (_isHorizontal())
+        {
+            pDC->MoveTo(r.left, r.top + i);
+            pDC->LineTo(r.right, r.top + i);
+        }
+        else
+        {
+            pDC->MoveTo(r.left + i, r.top);
+            pDC->LineTo(r.left + i, r.bottom);
+        }
+    }
+    pDC->SelectObject(pOldPen);
+}
+
+bool CSeparatorWnd::_hasPrevLine() const { return !sameRect(m_rcPrevLine, kNoLine); }
+
+void CSeparatorWnd::_clearPrevLine() { m_rcPrevLine = kNoLine; }
+
+void CSeparatorWnd::_setSizingCursor() const
+{
+    ::SetCursor(::LoadCursor(NULL, _isHorizontal() ? IDC_SIZENS : IDC_SIZEWE));
+}
+
+void CSeparatorWnd::DrawXORLineToParentDC(CPoint point)
+{
+    CWnd* pParent = GetParent();
+    if (!pParent)
+        return;
+    CRect bar;
+    GetClientRect(&bar);
+    MapWindowPoints(pParent, &point, 1);
+    MapWindowPoints(pParent, &bar);
+
+    CDC* pDC = pParent->GetDC();
+    if (!pDC)
+        return;
+    CPen pen(PS_SOLID, kRubberBandWidth, ::GetSysColor(COLOR_WINDOW));
+    CPen* pOldPen = pDC->SelectObject(&pen);
+    const int oldRop = pDC->SetROP2(R2_XORPEN);
+
+    RECT line;
+    bool erasePrevious = _hasPrevLine();
+    if (_isHorizontal())
+    {
+        bar.left += kRubberBandInset;
+        bar.right -= kRubberBandInset;
+        const RECT n = {bar.left, point.y, bar.right, point.y};
+        line = n;
+        // Only a line that moved is erased: an unmoved one toggles off.
+        erasePrevious = erasePrevious && !sameRect(m_rcPrevLine, line);
+    }
+    else
+    {
+        bar.top += kRubberBandInset;
+        bar.bottom -= kRubberBandInset;
+        const RECT n = {point.x, bar.top, point.x, bar.bottom};
+        line = n;
+    }
+    if (erasePrevious)
+    {
+        pDC->MoveTo(m_rcPrevLine.left, m_rcPrevLine.top);
+        pDC->LineTo(m_rcPrevLine.right, m_rcPrevLine.bottom);
+    }
+    if (m_bBoundarySet)
+    {
+        if (_isHorizontal())
+            line.top = line.bottom = ZoSeparatorClamp(line.top, m_rcBoundary.top, m_rcBoundary.bottom);
+        else
+            line.left = line.right = ZoSeparatorClamp(line.left, m_rcBoundary.left, m_rcBoundary.right);
+    }
+    if (!sameRect(line, kNoLine))
+    {
+        pDC->MoveTo(line.left, line.top);
+        pDC->LineTo(line.right, line.bottom);
+    }
+    m_rcPrevLine = line;
+
+    pDC->SetROP2(oldRop);
+    pDC->SelectObject(pOldPen);
+    pParent->ReleaseDC(pDC);
+}
+
+void CSeparatorWnd::OnMouseMove(UINT nFlags, CPoint point)
+{
+    if (m_bMovable)
+    {
+        if (m_bDragging)
+            DrawXORLineToParentDC(point);
+        else
+            _setSizingCursor();
+        TRACKMOUSEEVENT tme = {sizeof(TRACKMOUSEEVENT), TME_LEAVE, m_hWnd, HOVER_DEFAULT};
+        ::_TrackMouseEvent(&tme);
+    }
+    CZoWnd::OnMouseMove(nFlags, point);
+}
+
+void CSeparatorWnd::OnLButtonDown(UINT nFlags, CPoint point)
+{
+    CRect client;
+    GetClientRect(&client);
+    if (m_bMovable && client.PtInRect(point))
+    {
+        m_bDragging = true;
+        SetCapture();
+        _setSizingCursor();
+    }
+    CZoWnd::OnLButtonDown(nFlags, point);
+}
+
+void CSeparatorWnd::OnLButtonUp(UINT nFlags, CPoint point)
+{
+    if (m_bMovable && m_bDragging)
+    {
+        ReleaseCapture();
+        m_bDragging = false;
+        if (_hasPrevLine())
+        {
+            DrawXORLineToParentDC(point);
+            _clearPrevLine();
+        }
+        CPoint screen = point;
+        ClientToScreen(&screen);
+        if (m_bBoundarySet && m_pNotify && ::IsWindow(m_pNotify->GetSafeHwnd()))
+        {
+            CRect limit = m_rcBoundary;
+            m_pNotify->ClientToScreen(&limit);
+            screen.x = ZoSeparatorClamp(screen.x, limit.left, limit.right);
+            screen.y = ZoSeparatorClamp(screen.y, limit.top, limit.bottom);
+        }
+        ::SendMessageW(m_pNotify ? m_pNotify->GetSafeHwnd() : NULL, ZoMsg_SeparatorMoved, MAKEWPARAM(m_nID, 1),
+                       MAKELPARAM(screen.x, screen.y));
+    }
+    CZoWnd::OnLButtonUp(nFlags, point);
+}
+
+void CSeparatorWnd::OnMouseLeave()
+{
+    if (m_bMovable)
+        ::SetCursor(::LoadCursor(NULL, IDC_ARROW));
+}
+
+} // namespace ZoControls

@@ -1,0 +1,195 @@
+#include "controls/ZoProgressCtrl.h"
+
+#include "controls/ZoPrintClientDC.h"
+#include "core/ZoMemDC.h"
+#include "core/ZoThemeManager.h"
+#include "images/ZoResourceImage.h"
+
+namespace ZoControls {
+
+namespace {
+
+const COLORREF kTransparent = RGB(255, 0, 255);
+const int kBackgroundSlot = 66;
+const int kTextSlot = 67;
+const int kEnabledColumn = 0;
+const int kDisabledColumn = 3;
+
+COLORREF themeColor(int slot, E_ZoTheme theme)
+{
+    const CZoThemeManager* pManager = CZoThemeManager::GetInstance();
+    return pManager ? pManager->GetGDIColor((E_ZoThemeColors)slot, theme) : ::GetSysColor(COLOR_BTNFACE);
+}
+
+int clampTo(int value, int low, int high) { return value < low ? low : (value > high ? high : value); }
+
+} // namespace
+
+float ZoProgressFraction(int lo, int hi, int pos)
+{
+    if (lo >= hi)
+        return 0.0f;
+    return (float)(pos - lo) / (float)(hi - lo);
+}
+
+int ZoProgressHorizontalEdge(int left, int right, float fraction)
+{
+    const int edge = (int)((right - left) * fraction + 0.5) + left;
+    return clampTo(edge, left, right);
+}
+
+int ZoProgressVerticalEdge(int top, int bottom, float fraction)
+{
+    const int edge = bottom - (int)((bottom - top) * fraction + 0.5);
+    return clampTo(edge, top, bottom);
+}
+
+int ZoProgressPercent(int lo, int hi, int pos)
+{
+    if (lo >= hi)
+        return 0;
+    return (int)((float)pos / (float)(hi - lo) * 100);
+}
+
+int ZoProgressHorizontalCells(int start, int edge, int unit)
+{
+    if (unit <= 0 || edge <= start)
+        return 0;
+    return (edge - start + unit - 1) / unit;
+}
+
+int ZoProgressVerticalCells(int bottom, int edge, int unit)
+{
+    if (unit <= 0 || edge >= bottom)
+        return 0;
+    // Cells go at bottom - u, bottom - 2u, ... until one starts at or above the edge.
+    return (bottom - edge + unit - 1) / unit;
+}
+
+IMPLEMENT_DYNAMIC(CZoProgressCtrl, CProgressCtrl)
+
+BEGIN_MESSAGE_MAP(CZoProgressCtrl, CProgressCtrl)
+    ON_WM_CREATE()
+    ON_WM_DESTROY()
+    ON_WM_ERASEBKGND()
+    ON_WM_PAINT()
+    ON_MESSAGE(WM_PRINTCLIENT, &CZoProgressCtrl::OnPrintClient)
+END_MESSAGE_MAP()
+
+CZoProgressCtrl::CZoProgressCtrl() : m_pSkin(NULL), m_eTheme(ZoTheme_Default), m_eMonitorSize(ZoMonitorSize_Unknown)
+{
+}
+
+CZoProgressCtrl::~CZoProgressCtrl() { delete m_pSkin; }
+
+void CZoProgressCtrl::PreSubclassWindow()
+{
+    _init();
+    CProgressCtrl::PreSubclassWindow();
+}
+
+int CZoProgressCtrl::OnCreate(LPCREATESTRUCT lpCreateStruct)
+{
+    if (CProgressCtrl::OnCreate(lpCreateStruct) == -1)
+        return -1;
+    _init();
+    return 0;
+}
+
+void CZoProgressCtrl::_init()
+{
+    m_eTheme = ZoGetCurrentThemeIndex(this);
+    m_eMonitorSize = ZoGetCurrentMonitorSize(this, false);
+    // Creation through MFC runs both PreSubclassWindow and WM_CREATE: load once per style.
+    delete m_pSkin;
+    m_pSkin = new CZoResourceBMPImage();
+    const bool vertical = (GetStyle() & PBS_VERTICAL) != 0;
+    m_pSkin->LoadResourceImage(vertical ? L"BMP_ZO_PROGRVER" : L"BMP_ZO_PROGRHOR", m_eMonitorSize, 4, 1);
+}
+
+void CZoProgressCtrl::OnDestroy()
+{
+    CProgressCtrl::OnDestroy();
+    delete m_pSkin;
+    m_pSkin = NULL;
+}
+
+BOOL CZoProgressCtrl::OnEraseBkgnd(CDC*) { return TRUE; }
+
+void CZoProgressCtrl::OnPaint()
+{
+    CPaintDC dc(this);
+    _paintTo(&dc);
+}
+
+LRESULT CZoProgressCtrl::OnPrintClient(WPARAM wParam, LPARAM)
+{
+    CZoPrintClientDC dc(wParam);
+    if (dc.GetSafeHdc())
+        _paintTo(&dc);
+    return 0;
+}
+
+void CZoProgressCtrl::_paintTo(CDC* pDC)
+{
+    CRect client;
+    GetClientRect(&client);
+    CZoMemDC memDC(pDC, client.Width(), client.Height());
+    DrawBar(memDC, client);
+    DrawPercentage(memDC, client);
+    memDC.CopyToTarget();
+}
+
+void CZoProgressCtrl::DrawBar(CDC& dc, const CRect& rect)
+{
+    int lo = 0;
+    int hi = 0;
+    GetRange(lo, hi);
+    if (lo >= hi)
+        return;
+    const COLORREF background = themeColor(kBackgroundSlot, m_eTheme);
+    const float fraction = ZoProgressFraction(lo, hi, GetPos());
+    const int column = IsWindowEnabled() ? kEnabledColumn : kDisabledColumn;
+    const bool loaded = m_pSkin && m_pSkin->IsLoaded();
+    if ((GetStyle() & PBS_VERTICAL) == 0)
+    {
+        const int edge = ZoProgressHorizontalEdge(rect.left, rect.right, fraction);
+        const int unit = loaded ? m_pSkin->GetUnitWidth() : 0;
+        const int cells = ZoProgressHorizontalCells(rect.left, edge, unit);
+        for (int i = 0; i < cells; ++i)
+            m_pSkin->DrawUnitImage(dc, rect.left + i * unit, rect.top, unit, rect.Height(), column, 0, kTransparent);
+        dc.FillSolidRect(edge, rect.top, rect.right - edge, rect.Height(), background);
+    }
+    else
+    {
+        const int edge = ZoProgressVerticalEdge(rect.top, rect.bottom, fraction);
+        const int unit = loaded ? m_pSkin->GetUnitHeight() : 0;
+        const int cells = ZoProgressVerticalCells(rect.bottom, edge, unit);
+        for (int i = 1; i <= cells; ++i)
+            m_pSkin->DrawUnitImage(dc, rect.left, rect.bottom - i * unit, rect.Width(), unit, column, 0,
+                                   kTransparent);
+        // The top pixel row keeps what was there.
+        const int height = edge - rect.top - 1;
+        if (height > 0)
+            dc.FillSolidRect(rect.left, rect.top + 1, rect.Width(), height, background);
+    }
+}
+
+void CZoProgressCtrl::DrawPercentage(CDC& dc, const CRect& rect)
+{
+    int lo = 0;
+    int hi = 0;
+    GetRange(lo, hi);
+    if (lo >= hi)
+        return;
+    CString text;
+    text.Format(L"%d%%", ZoProgressPercent(lo, hi, GetPos()));
+    const int oldMode = dc.SetBkMode(TRANSPARENT);
+    const COLORREF oldColor = dc.SetTextColor(themeColor(kTextSlot, m_eTheme));
+    CRect area = rect;
+    dc.DrawText(text, &area, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+    dc.SetTextColor(oldColor);
+    dc.SetBkMode(oldMode);
+}
+
+} // namespace ZoControls

@@ -1,0 +1,61 @@
+// CZoProgressCtrl: a progress bar whose filled part is tiled with a skin cell, the rest a flat
+// theme colour, with the percentage written in the middle. Range and position stay those of the
+// platform control.
+#pragma once
+#include <afxcmn.h>
+#include <afxwin.h>
+
+#include "core/ZoCtrlExport.h"
+#include "core/ZoThemeTypes.h"
+
+namespace ZoControls {
+
+class CZoResourceBMPImage;
+
+// Filled share of the range; only meaningful when lo < hi.
+ZOCTRL_API float ZoProgressFraction(int lo, int hi, int pos);
+// Right edge of the filled part of a horizontal bar spanning [left, right).
+ZOCTRL_API int ZoProgressHorizontalEdge(int left, int right, float fraction);
+// Top edge of the filled part of a vertical bar spanning [top, bottom).
+ZOCTRL_API int ZoProgressVerticalEdge(int top, int bottom, float fraction);
+// The printed percentage. The lower bound is not subtracted: 60 of 10..110 prints 60.
+ZOCTRL_API int ZoProgressPercent(int lo, int hi, int pos);
+// Number of cells `unit` long that tile towards `edge`: horizontally from `start` while the next
+// cell starts before the edge; vertically up from the bottom until a cell reaches the edge.
+ZOCTRL_API int ZoProgressHorizontalCells(int start, int edge, int unit);
+ZOCTRL_API int ZoProgressVerticalCells(int bottom, int edge, int unit);
+
+class ZOCTRL_API CZoProgressCtrl : public CProgressCtrl
+{
+    DECLARE_DYNAMIC(CZoProgressCtrl)
+
+public:
+    CZoProgressCtrl();
+    virtual ~CZoProgressCtrl();
+
+protected:
+    virtual void PreSubclassWindow();
+
+    void _init();
+    void _paintTo(CDC* pDC);
+    // Drawing steps: the tiled and flat parts, then the percentage.
+    virtual void DrawBar(CDC& dc, const CRect& rect);
+    virtual void DrawPercentage(CDC& dc, const CRect& rect);
+
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnDestroy();
+    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    afx_msg void OnPaint();
+    afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
+    DECLARE_MESSAGE_MAP()
+
+    CZoResourceBMPImage* m_pSkin;
+    E_ZoTheme m_eTheme;
+    E_ZoMonitorSize m_eMonitorSize;
+
+private:
+    CZoProgressCtrl(const CZoProgressCtrl&);
+    CZoProgressCtrl& operator=(const CZoProgressCtrl&);
+};
+
+} // namespace ZoControls

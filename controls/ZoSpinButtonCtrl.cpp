@@ -1,0 +1,217 @@
+#include "controls/ZoSpinButtonCtrl.h"
+
+#include "controls/ZoPrintClientDC.h"
+#include "core/ZoThemeManager.h"
+
+namespace ZoControls {
+
+namespace {
+
+const int kBackSlot = 92;
+const int kArrowSlot = 93;
+const int kBorderSlot = 94;
+const COLORREF kPressedBack = RGB(255, 255, 255);
+const int kMaxPumpedPaints = 64;
+
+COLORREF themeColor(int slot)
+{
+    const CZoThemeManager* pManager = CZoThemeManager::GetInstance();
+    return pManager ? pManager->GetGDIColor((E_ZoThemeColors)slot, ZoTheme_Default) : ::GetSysColor(COLOR_BTNFACE);
+}
+
+} // namespace
+
+void ZoSpinHalves(const RECT& client, bool horizontal, RECT& first, RECT& second)
+{
+    first = client;
+    second = client;
+    if (horizontal)
+    {
+        const int middle = (client.left + client.right) / 2;
+        first.right = middle + 1;
+        second.left = middle;
+    }
+    else
+    {
+        const int middle = (client.top + client.bottom) / 2;
+        first.bottom = middle + 1;
+        second.top = middle;
+    }
+}
+
+int ZoSpinHitTest(const RECT& client, bool horizontal, POINT pt)
+{
+    if (!::PtInRect(&client, pt))
+        return 0;
+    if (horizontal)
+        return pt.x < (client.left + client.right) / 2 ? 1 : 2;
+    return pt.y < (client.top + client.bottom) / 2 ? 1 : 2;
+}
+
+void ZoSpinArrowPoints(const RECT& half, bool horizontal, bool first, POINT points[3])
+{
+    const int cx = (half.left + half.right) / 2;
+    const int cy = (half.top + half.bottom) / 2;
+    // Up and down are not mirror images: the up arrow's base is wider and sits lower.
+    static const int kOffsets[4][6] = {
+        {0, -2, -4, 2, 3, 2},  // up
+        {3, -1, 0, 2, -3, -1}, // down
+        {-2, 0, 1, -3, 1, 3},  // left
+        {2, 0, -1, 3, -1, -3}, // right
+    };
+    const int* offsets = kOffsets[(horizontal ? 2 : 0) + (first ? 0 : 1)];
+    for (int i = 0; i < 3; ++i)
+    {
+        points[i].x = cx + offsets[2 * i];
+        points[i].y = cy + offsets[2 * i + 1];
+    }
+}
+
+RECT ZoSpinOutline(const RECT& drawnFirst, const RECT& drawnSecond)
+{
+    RECT outline = {drawnSecond.left, drawnSecond.top, drawnSecond.right, drawnFirst.bottom};
+    return outline;
+}
+
+IMPLEMENT_DYNAMIC(CZoSpinButtonCtrl, CSpinButtonCtrl)
+
+BEGIN_MESSAGE_MAP(CZoSpinButtonCtrl, CSpinButtonCtrl)
+    ON_WM_PAINT()
+    ON_MESSAGE(WM_PRINTCLIENT, &CZoSpinButtonCtrl::OnPrintClient)
+    ON_WM_ERASEBKGND()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONUP()
+    ON_WM_MOUSEMOVE()
+    ON_WM_MOUSELEAVE()
+END_MESSAGE_MAP()
+
+CZoSpinButtonCtrl::CZoSpinButtonCtrl() : m_eFirstState(BtnState_Normal), m_eSecondState(BtnState_Normal) {}
+
+CZoSpinButtonCtrl::~CZoSpinButtonCtrl() {}
+
+void CZoSpinButtonCtrl::Invalidate(BOOL bErase)
+{
+    CSpinButtonCtrl::Invalidate(bErase);
+    MSG msg;
+    for (int i = 0; i < kMaxPumpedPaints && ::PeekMessageW(&msg, m_hWnd, WM_PAINT, WM_PAINT, PM_REMOVE); ++i)
+        ::DispatchMessageW(&msg);
+}
+
+bool CZoSpinButtonCtrl::_isHorizontal() const { return (GetStyle() & UDS_HORZ) != 0; }
+
+CZoSpinButtonCtrl::BtnIndex CZoSpinButtonCtrl::HitTest(CPoint point)
+{
+    CRect client;
+    GetClientRect(&client);
+    return (BtnIndex)ZoSpinHitTest(client, _isHorizontal(), point);
+}
+
+void CZoSpinButtonCtrl::CheckRange(BtnState& first, BtnState& second)
+{
+    int lo = 0;
+    int hi = 0;
+    GetRange(lo, hi);
+    const int pos = (short)LOWORD(GetPos());
+    first = pos > lo ? m_eFirstState : BtnState_Disabled;
+    second = pos < hi ? m_eSecondState : BtnState_Disabled;
+}
+
+void CZoSpinButtonCtrl::DrawButtonBack(CDC* pDC, const CRect& rect, BtnState state)
+{
+    pDC->FillSolidRect(&rect, state == BtnState_Pressed ? kPressedBack : themeColor(kBackSlot));
+}
+
+void CZoSpinButtonCtrl::DrawButtonArrow(CDC* pDC, const CRect& rect, BtnState, bool first)
+{
+    POINT points[3];
+    ZoSpinArrowPoints(rect, _isHorizontal(), first, points);
+    CRgn region;
+    if (!region.CreatePolygonRgn(points, 3, ALTERNATE))
+        return;
+    CBrush brush(themeColor(kArrowSlot));
+    pDC->FillRgn(&region, &brush);
+}
+
+void CZoSpinButtonCtrl::DrawButtonBorder(CDC* pDC, const CRect& rect)
+{
+    const COLORREF color = themeColor(kBorderSlot);
+    pDC->Draw3dRect(&rect, color, color);
+}
+
+void CZoSpinButtonCtrl::_paintTo(CDC* pDC)
+{
+    CRect client;
+    GetClientRect(&client);
+    BtnState first = BtnState_Normal;
+    BtnState second = BtnState_Normal;
+    CheckRange(first, second);
+    RECT firstHalf;
+    RECT secondHalf;
+    ZoSpinHalves(client, _isHorizontal(), firstHalf, secondHalf);
+
+    // A hot or pressed second half is drawn last, so its edge shows over the first half's.
+    const bool secondOnTop = second == BtnState_Hot || second == BtnState_Pressed;
+    const CRect drawnFirst = secondOnTop ? firstHalf : secondHalf;
+    const CRect drawnSecond = secondOnTop ? secondHalf : firstHalf;
+    const BtnState drawnFirstState = secondOnTop ? first : second;
+    const BtnState drawnSecondState = secondOnTop ? second : first;
+    DrawButtonBack(pDC, drawnFirst, drawnFirstState);
+    DrawButtonArrow(pDC, drawnFirst, drawnFirstState, secondOnTop);
+    DrawButtonBack(pDC, drawnSecond, drawnSecondState);
+    DrawButtonArrow(pDC, drawnSecond, drawnSecondState, !secondOnTop);
+    DrawButtonBorder(pDC, CRect(ZoSpinOutline(drawnFirst, drawnSecond)));
+}
+
+void CZoSpinButtonCtrl::OnPaint()
+{
+    CPaintDC dc(this);
+    _paintTo(&dc);
+}
+
+LRESULT CZoSpinButtonCtrl::OnPrintClient(WPARAM wParam, LPARAM)
+{
+    CZoPrintClientDC dc(wParam);
+    if (dc.GetSafeHdc())
+        _paintTo(&dc);
+    return 0;
+}
+
+BOOL CZoSpinButtonCtrl::OnEraseBkgnd(CDC*) { return TRUE; }
+
+void CZoSpinButtonCtrl::_setStates(BtnIndex active, BtnState state)
+{
+    m_eFirstState = active == BtnIndex_First ? state : BtnState_Normal;
+    m_eSecondState = active == BtnIndex_Second ? state : BtnState_Normal;
+}
+
+void CZoSpinButtonCtrl::OnLButtonDown(UINT nFlags, CPoint point)
+{
+    _setStates(HitTest(point), BtnState_Pressed);
+    Invalidate(FALSE);
+    CSpinButtonCtrl::OnLButtonDown(nFlags, point);
+}
+
+void CZoSpinButtonCtrl::OnLButtonUp(UINT nFlags, CPoint point)
+{
+    _setStates(HitTest(point), BtnState_Hot);
+    Invalidate(FALSE);
+    CSpinButtonCtrl::OnLButtonUp(nFlags, point);
+}
+
+void CZoSpinButtonCtrl::OnMouseMove(UINT nFlags, CPoint point)
+{
+    const bool pressed = m_eFirstState == BtnState_Pressed || m_eSecondState == BtnState_Pressed;
+    _setStates(HitTest(point), pressed ? BtnState_Pressed : BtnState_Hot);
+    TRACKMOUSEEVENT tme = {sizeof(TRACKMOUSEEVENT), TME_LEAVE, m_hWnd, HOVER_DEFAULT};
+    ::_TrackMouseEvent(&tme);
+    Invalidate(FALSE);
+    CSpinButtonCtrl::OnMouseMove(nFlags, point);
+}
+
+void CZoSpinButtonCtrl::OnMouseLeave()
+{
+    _setStates(BtnIndex_None, BtnState_Normal);
+    Invalidate(FALSE);
+}
+
+} // namespace ZoControls

@@ -1,0 +1,164 @@
+// CZoProgressCtrl: fill arithmetic, tiled cells, the percentage, disabled and vertical looks.
+#include "scroll_test_support.h"
+
+#include <afxcmn.h>
+
+#include "controls/ZoProgressCtrl.h"
+
+using namespace ZoControls;
+using scrolltest::LibraryTest;
+
+TEST(ProgressMath, FractionAndEdges)
+{
+    EXPECT_FLOAT_EQ(ZoProgressFraction(10, 110, 60), 0.5f);
+    EXPECT_FLOAT_EQ(ZoProgressFraction(5, 5, 5), 0.0f);
+    EXPECT_EQ(ZoProgressHorizontalEdge(0, 120, 0.5f), 60);
+    EXPECT_EQ(ZoProgressHorizontalEdge(10, 130, 2.0f), 130);  // clamped to the right
+    EXPECT_EQ(ZoProgressHorizontalEdge(10, 130, -1.0f), 10);  // and to the left
+    EXPECT_EQ(ZoProgressVerticalEdge(0, 100, 0.25f), 75);
+    EXPECT_EQ(ZoProgressVerticalEdge(0, 100, 3.0f), 0);
+}
+
+TEST(ProgressMath, PercentIgnoresTheLowerBound)
+{
+    EXPECT_EQ(ZoProgressPercent(10, 110, 60), 60);
+    EXPECT_EQ(ZoProgressPercent(0, 200, 50), 25);
+    EXPECT_EQ(ZoProgressPercent(7, 7, 7), 0); // empty range: no division
+}
+
+TEST(ProgressMath, CellCounts)
+{
+    EXPECT_EQ(ZoProgressHorizontalCells(0, 60, 12), 5);
+    EXPECT_EQ(ZoProgressHorizontalCells(0, 61, 12), 6); // the last cell may pass the edge
+    EXPECT_EQ(ZoProgressHorizontalCells(0, 0, 12), 0);
+    EXPECT_EQ(ZoProgressHorizontalCells(0, 60, 0), 0);  // no skin: no endless loop
+    EXPECT_EQ(ZoProgressVerticalCells(100, 50, 12), 5); // 88, 76, 64, 52, 40
+    EXPECT_EQ(ZoProgressVerticalCells(100, 100, 12), 0);
+    EXPECT_EQ(ZoProgressVerticalCells(100, 40, 12), 5); // the fifth starts exactly at the edge
+}
+
+namespace {
+
+class ProgressTest : public LibraryTest
+{
+protected:
+    void SetUp() override
+    {
+        LibraryTest::SetUp();
+        parent_ = MakeParent();
+        horizontal_ = scrolltest::LoadLibraryBitmap(L"BMP_ZO_PROGRHOR");
+        vertical_ = scrolltest::LoadLibraryBitmap(L"BMP_ZO_PROGRVER");
+        ASSERT_TRUE(horizontal_ && vertical_);
+    }
+    void TearDown() override
+    {
+        if (bar_.GetSafeHwnd())
+            bar_.DestroyWindow();
+        ::DeleteObject(horizontal_);
+        ::DeleteObject(vertical_);
+        LibraryTest::TearDown();
+    }
+
+    void Create(DWORD style, const CRect& rect, int lo, int hi, int pos)
+    {
+        ASSERT_TRUE(bar_.Create(WS_CHILD | WS_VISIBLE | style, rect, CWnd::FromHandle(parent_), 5));
+        bar_.SetRange32(lo, hi);
+        bar_.SetPos(pos);
+    }
+
+    HWND parent_ = nullptr;
+    HBITMAP horizontal_ = nullptr;
+    HBITMAP vertical_ = nullptr;
+    CZoProgressCtrl bar_;
+};
+
+} // namespace
+
+TEST_F(ProgressTest, HalfFilledBarTilesCellsAndPrintsSixtyPercent)
+{
+    // 120 x 18: the cells (12 x 18) keep their natural size.
+    Create(0, CRect(0, 0, 120, 18), 10, 110, 60);
+    const zotest::Dib dib = zotest::RenderClient(bar_.GetSafeHwnd());
+    const RECT cell = zotest::CellRect(horizontal_, 4, 1, 0, 0);
+    ZOTEST_EXPECT_CELL(dib, CPoint(0, 0), horizontal_, cell, scrolltest::kMagenta);
+    ZOTEST_EXPECT_CELL(dib, CPoint(12, 0), horizontal_, cell, scrolltest::kMagenta);
+    // The flat part, away from the centred text.
+    ZOTEST_EXPECT_FILL(dib, CRect(96, 0, 120, 18), scrolltest::SlotColor(66));
+    // The text lands in the middle, in the text colour.
+    const RECT text = zotest::BoundsOfDifferences(dib.Crop(CRect(60, 0, 120, 18)), scrolltest::SlotColor(66));
+    EXPECT_FALSE(::IsRectEmpty(&text));
+}
+
+TEST_F(ProgressTest, PercentTextSaysSixtyNotFifty)
+{
+    // Render the text alone on a flat bar the width of the client and compare with "60%" drawn
+    // the same way: the default font of a memory DC over the background colour.
+    Create(0, CRect(0, 0, 120, 18), 10, 110, 60);
+    const zotest::Dib dib = zotest::RenderClient(bar_.GetSafeHwnd());
+    zotest::Dib expected(120, 18, scrolltest::SlotColor(66));
+    ::SetBkMode(expected.dc(), TRANSPARENT);
+    ::SetTextColor(expected.dc(), scrolltest::SlotColor(67));
+    RECT all = {0, 0, 120, 18};
+    ::DrawTextW(expected.dc(), L"60%", -1, &all, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+    EXPECT_TRUE(scrolltest::AreaMatches(dib, CRect(60, 0, 120, 18), expected.Crop(CRect(60, 0, 120, 18))));
+}
+
+TEST_F(ProgressTest, EmptyRangePaintsNothing)
+{
+    Create(0, CRect(0, 0, 120, 18), 40, 40, 40);
+    const zotest::Dib dib = zotest::RenderClient(bar_.GetSafeHwnd());
+    // Whatever the fresh memory surface held stays, uniformly.
+    ZOTEST_EXPECT_FILL(dib, CRect(0, 0, 120, 18), dib.Pixel(0, 0));
+    EXPECT_NE(dib.Pixel(0, 0), scrolltest::SlotColor(66));
+}
+
+TEST_F(ProgressTest, DisabledBarTilesTheDisabledColumn)
+{
+    Create(0, CRect(0, 0, 120, 18), 0, 100, 100);
+    bar_.EnableWindow(FALSE);
+    const zotest::Dib dib = zotest::RenderClient(bar_.GetSafeHwnd());
+    ZOTEST_EXPECT_CELL(dib, CPoint(0, 0), horizontal_, zotest::CellRect(horizontal_, 4, 1, 3, 0),
+                       scrolltest::kMagenta);
+    ZOTEST_EXPECT_CELL(dib, CPoint(108, 0), horizontal_, zotest::CellRect(horizontal_, 4, 1, 3, 0),
+                       scrolltest::kMagenta);
+}
+
+TEST_F(ProgressTest, VerticalBarFillsFromTheBottomAndLeavesTheTopRow)
+{
+    // 18 x 120 with 18 x 12 cells: a quarter filled puts the edge at 90; cells at 108, 96 and
+    // 84, the last one partly covered by the flat part drawn after it.
+    Create(PBS_VERTICAL, CRect(0, 0, 18, 120), 0, 100, 25);
+    const zotest::Dib dib = zotest::RenderClient(bar_.GetSafeHwnd());
+    const RECT cell = zotest::CellRect(vertical_, 4, 1, 0, 0);
+    ZOTEST_EXPECT_CELL(dib, CPoint(0, 108), vertical_, cell, scrolltest::kMagenta);
+    ZOTEST_EXPECT_CELL(dib, CPoint(0, 96), vertical_, cell, scrolltest::kMagenta);
+    ZOTEST_EXPECT_FILL(dib, CRect(0, 1, 18, 50), scrolltest::SlotColor(66));
+    ZOTEST_EXPECT_FILL(dib, CRect(0, 80, 18, 90), scrolltest::SlotColor(66));
+    // The top row keeps the memory surface's first contents.
+    EXPECT_NE(dib.Pixel(5, 0), scrolltest::SlotColor(66));
+}
+
+TEST_F(ProgressTest, SubclassedNativeBarIsSkinnedToo)
+{
+    HWND native = ::CreateWindowExW(0, PROGRESS_CLASSW, L"", WS_CHILD | WS_VISIBLE, 0, 0, 120, 18, parent_, NULL,
+                                    NULL, NULL);
+    ASSERT_TRUE(native != NULL);
+    ASSERT_TRUE(bar_.SubclassWindow(native));
+    bar_.SetRange32(0, 100);
+    bar_.SetPos(100);
+    const zotest::Dib dib = zotest::RenderClient(native);
+    ZOTEST_EXPECT_CELL(dib, CPoint(0, 0), horizontal_, zotest::CellRect(horizontal_, 4, 1, 0, 0),
+                       scrolltest::kMagenta);
+}
+
+TEST_F(ProgressTest, NoGdiGrowthOverCreatePaintDestroyCycles)
+{
+    CWnd* parent = CWnd::FromHandle(parent_);
+    ZOTEST_EXPECT_NO_LEAKS(1000, [&] {
+        CZoProgressCtrl bar;
+        bar.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 120, 18), parent, 6);
+        bar.SetPos(50);
+        zotest::RenderClient(bar.GetSafeHwnd());
+        bar.DestroyWindow();
+    });
+}

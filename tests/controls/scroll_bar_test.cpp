@@ -1,0 +1,429 @@
+// CZoScrollBar as a window: rectangles, scroll-state messages, clicks, auto-repeat, dragging,
+// swallowed input, pixels of each part's state and resource cycles.
+#include "scroll_test_support.h"
+
+#include "controls/ZoScrollBar.h"
+
+using namespace ZoControls;
+using scrolltest::LibraryTest;
+
+namespace {
+
+// Class 0 units: vertical buttons 19 x 26, thumb 19 x 8; gap 4.
+const int kWidth = 19;
+const int kHeight = 200;
+
+class ScrollBarTest : public LibraryTest
+{
+protected:
+    void SetUp() override
+    {
+        LibraryTest::SetUp();
+        parent_ = MakeParent();
+    }
+
+    void TearDown() override
+    {
+        recorder_.UnwatchAll();
+        if (bar_.GetSafeHwnd())
+            bar_.DestroyWindow();
+        LibraryTest::TearDown();
+    }
+
+    void Create(DWORD style = SBS_VERT, CRect rect = CRect(10, 10, 10 + kWidth, 10 + kHeight))
+    {
+        ASSERT_TRUE(bar_.Create(WS_CHILD | WS_VISIBLE | style, rect, CWnd::FromHandle(parent_), 100));
+    }
+
+    // Range 0..109 with a page of 10 at 50: thumb 24 long (three units), track 140, at 70.
+    void SetStandardState(int pos = 50)
+    {
+        SCROLLINFO info = {sizeof(SCROLLINFO), SIF_ALL, 0, 109, 10, pos, 0};
+        bar_.SetScrollInfo(&info, TRUE);
+    }
+
+    void WatchParent()
+    {
+        recorder_.Watch(parent_, zotest::WindowRole::Parent);
+        recorder_.MatchOnlyListed(true);
+    }
+
+    WPARAM Code(UINT code, int pos = 0) const { return MAKEWPARAM(code, (WORD)pos); }
+    LPARAM Self() const { return (LPARAM)bar_.GetSafeHwnd(); }
+
+    void Press(int x, int y) { bar_.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y)); }
+    void Release(int x, int y) { bar_.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(x, y)); }
+    void Move(int x, int y, WPARAM keys = MK_LBUTTON) { bar_.SendMessage(WM_MOUSEMOVE, keys, MAKELPARAM(x, y)); }
+
+    HWND parent_ = nullptr;
+    CZoScrollBar bar_;
+    zotest::MessageRecorder recorder_;
+};
+
+bool Same(const CRect& r, int l, int t, int right, int b) { return r == CRect(l, t, right, b); }
+
+} // namespace
+
+TEST_F(ScrollBarTest, CreatedTallBarHasButtonsThumbAndPageAfter)
+{
+    Create();
+    EXPECT_EQ(bar_.GetButtonGapSize(), 4);
+    EXPECT_TRUE(Same(bar_.GetPartRect(CZoScrollBar::SBHit_PrevButton), 0, 0, kWidth, 22));
+    EXPECT_TRUE(Same(bar_.GetPartRect(CZoScrollBar::SBHit_NextButton), 0, 178, kWidth, 200));
+    EXPECT_EQ(bar_.GetThumbLength(), (200 - 52) / 3);
+    EXPECT_TRUE(Same(bar_.GetPartRect(CZoScrollBar::SBHit_Thumb), 0, 22, kWidth, 22 + 49));
+    EXPECT_TRUE(bar_.GetPartRect(CZoScrollBar::SBHit_PageBefore).IsRectEmpty());
+    EXPECT_TRUE(Same(bar_.GetPartRect(CZoScrollBar::SBHit_PageAfter), 0, 71, kWidth, 178));
+}
+
+TEST_F(ScrollBarTest, ShortBarHasHalfButtonsAndNoThumb)
+{
+    Create(SBS_VERT, CRect(10, 10, 10 + kWidth, 10 + 50));
+    EXPECT_TRUE(Same(bar_.GetPartRect(CZoScrollBar::SBHit_PrevButton), 0, 0, kWidth, 25));
+    EXPECT_TRUE(Same(bar_.GetPartRect(CZoScrollBar::SBHit_NextButton), 0, 25, kWidth, 50));
+    EXPECT_TRUE(bar_.GetPartRect(CZoScrollBar::SBHit_Thumb).IsRectEmpty());
+    EXPECT_EQ(bar_.HitTest(CPoint(5, 10)), CZoScrollBar::SBHit_PrevButton);
+    EXPECT_EQ(bar_.HitTest(CPoint(5, 40)), CZoScrollBar::SBHit_NextButton);
+}
+
+TEST_F(ScrollBarTest, ScrollInfoSetsThumbLengthAndPosition)
+{
+    Create();
+    SetStandardState();
+    EXPECT_EQ(bar_.GetThumbLength(), 24);
+    EXPECT_EQ(bar_.GetThumbPos(), 70);
+    EXPECT_TRUE(Same(bar_.GetPartRect(CZoScrollBar::SBHit_Thumb), 0, 92, kWidth, 116));
+    EXPECT_TRUE(Same(bar_.GetPartRect(CZoScrollBar::SBHit_PageBefore), 0, 22, kWidth, 92));
+
+    bar_.SetScrollPos(100);
+    EXPECT_EQ(bar_.GetThumbPos(), 140);
+    bar_.SetScrollRange(0, 209);
+    EXPECT_EQ(bar_.GetThumbLength(), 24); // only SBM_SETSCROLLINFO changes the length
+    EXPECT_EQ(bar_.GetThumbPos(), 70);    // 100 of 200
+}
+
+TEST_F(ScrollBarTest, NoPageGivesAThirdOfChannelPlusGaps)
+{
+    Create();
+    SCROLLINFO info = {sizeof(SCROLLINFO), SIF_ALL, 0, 100, 0, 0, 0};
+    bar_.SetScrollInfo(&info, TRUE);
+    EXPECT_EQ(bar_.GetThumbLength(), (156 + 8) / 3);
+}
+
+TEST_F(ScrollBarTest, ResizeResetsThumbLengthAndKeepsPosition)
+{
+    Create();
+    SetStandardState();
+    bar_.MoveWindow(10, 10, kWidth, 300);
+    EXPECT_EQ(bar_.GetThumbLength(), (300 - 52) / 3);
+    EXPECT_EQ(bar_.GetThumbPos(), 70);
+    EXPECT_TRUE(Same(bar_.GetPartRect(CZoScrollBar::SBHit_Thumb), 0, 92, kWidth, 92 + 82));
+}
+
+TEST_F(ScrollBarTest, ClickingEachPartSendsItsCodeToTheParent)
+{
+    Create();
+    SetStandardState();
+    WatchParent();
+    Press(9, 5);
+    Release(9, 5);
+    Press(9, 190);
+    Release(9, 190);
+    Press(9, 50);
+    Release(9, 50);
+    Press(9, 150);
+    Release(9, 150);
+    const LPARAM self = Self();
+    const zotest::ExpectedMessage expected[] = {
+        {WM_VSCROLL, zotest::sent | zotest::parent | zotest::wparam | zotest::lparam, Code(SB_LINEUP), self},
+        {WM_VSCROLL, zotest::sent | zotest::parent | zotest::wparam | zotest::lparam, Code(SB_LINEDOWN), self},
+        {WM_VSCROLL, zotest::sent | zotest::parent | zotest::wparam | zotest::lparam, Code(SB_PAGEUP), self},
+        {WM_VSCROLL, zotest::sent | zotest::parent | zotest::wparam | zotest::lparam, Code(SB_PAGEDOWN), self},
+    };
+    ZOTEST_EXPECT_SEQUENCE(recorder_, expected);
+    // 50 - 1 + 1 - 10 + 10
+    EXPECT_EQ(bar_.GetScrollPos(), 50);
+}
+
+TEST_F(ScrollBarTest, EachClickWritesTheNewPositionBeforeNotifying)
+{
+    Create();
+    SetStandardState();
+    Press(9, 190);
+    Release(9, 190);
+    EXPECT_EQ(bar_.GetScrollPos(), 51);
+    Press(9, 150);
+    Release(9, 150);
+    EXPECT_EQ(bar_.GetScrollPos(), 61);
+    Press(9, 30);
+    Release(9, 30);
+    EXPECT_EQ(bar_.GetScrollPos(), 51);
+}
+
+TEST_F(ScrollBarTest, PreviousArrowAtMinimumStillNotifies)
+{
+    Create();
+    SetStandardState(0);
+    WatchParent();
+    Press(9, 5);
+    Release(9, 5);
+    const zotest::ExpectedMessage expected[] = {
+        {WM_VSCROLL, zotest::sent | zotest::parent | zotest::wparam, Code(SB_LINEUP)},
+    };
+    ZOTEST_EXPECT_SEQUENCE(recorder_, expected);
+    EXPECT_EQ(bar_.GetScrollPos(), 0);
+}
+
+TEST_F(ScrollBarTest, HorizontalBarSendsHScroll)
+{
+    Create(0, CRect(10, 10, 310, 10 + kWidth));
+    SetStandardState();
+    WatchParent();
+    Press(290, 9);
+    Release(290, 9);
+    const zotest::ExpectedMessage expected[] = {
+        {WM_HSCROLL, zotest::sent | zotest::parent | zotest::wparam | zotest::lparam, Code(SB_LINEDOWN), Self()},
+    };
+    ZOTEST_EXPECT_SEQUENCE(recorder_, expected);
+}
+
+TEST_F(ScrollBarTest, BuddyReceivesTheNotificationsInsteadOfTheParent)
+{
+    Create();
+    SetStandardState();
+    zotest::ScopedWindow buddy(zotest::CreateSolidWindow(CRect(200, 10, 260, 60), RGB(1, 2, 3), parent_));
+    bar_.SetBuddy(CWnd::FromHandle(buddy));
+    recorder_.Watch(parent_, zotest::WindowRole::Parent);
+    recorder_.Watch(buddy, zotest::WindowRole::Other);
+    recorder_.MatchOnlyListed(true);
+    Press(9, 190);
+    Release(9, 190);
+    const zotest::ExpectedMessage expected[] = {
+        {WM_VSCROLL, zotest::sent | zotest::other | zotest::wparam | zotest::lparam, Code(SB_LINEDOWN), Self()},
+    };
+    ZOTEST_EXPECT_SEQUENCE(recorder_, expected);
+    EXPECT_EQ(recorder_.Count(WM_VSCROLL, zotest::WindowRole::Parent), 0u);
+    recorder_.Unwatch(buddy);
+}
+
+TEST_F(ScrollBarTest, ArrowPressArmsTheFirstDelayThenTheRepeat)
+{
+    Create();
+    SetStandardState();
+    ASSERT_TRUE(zotest::MoveCursorTo(bar_.GetSafeHwnd(), CPoint(9, 190)));
+    WatchParent();
+    Press(9, 190);
+    // The first delay runs; the repetition does not yet.
+    EXPECT_FALSE(::KillTimer(bar_.GetSafeHwnd(), CZoScrollBar::TimerRepeat));
+    bar_.SendMessage(WM_TIMER, CZoScrollBar::TimerFirstDelay);
+    EXPECT_FALSE(::KillTimer(bar_.GetSafeHwnd(), CZoScrollBar::TimerFirstDelay));
+    bar_.SendMessage(WM_TIMER, CZoScrollBar::TimerRepeat);
+    bar_.SendMessage(WM_TIMER, CZoScrollBar::TimerRepeat);
+    const zotest::ExpectedMessage expected[] = {
+        {WM_VSCROLL, zotest::sent | zotest::parent | zotest::wparam, Code(SB_LINEDOWN)},
+        {WM_VSCROLL, zotest::sent | zotest::parent | zotest::wparam, Code(SB_LINEDOWN)},
+        {WM_VSCROLL, zotest::sent | zotest::parent | zotest::wparam, Code(SB_LINEDOWN)},
+        {WM_VSCROLL, zotest::sent | zotest::parent | zotest::wparam, Code(SB_LINEDOWN)},
+    };
+    ZOTEST_EXPECT_SEQUENCE(recorder_, expected);
+    EXPECT_EQ(bar_.GetScrollPos(), 54);
+    // The repetition was running until the release.
+    Release(9, 190);
+    EXPECT_FALSE(::KillTimer(bar_.GetSafeHwnd(), CZoScrollBar::TimerRepeat));
+}
+
+TEST_F(ScrollBarTest, RepeatPausesWhileTheCursorIsOffThePressedPart)
+{
+    Create();
+    SetStandardState();
+    ASSERT_TRUE(zotest::MoveCursorTo(bar_.GetSafeHwnd(), CPoint(9, 150)));
+    Press(9, 150); // page after: 60
+    bar_.SendMessage(WM_TIMER, CZoScrollBar::TimerFirstDelay);
+    EXPECT_EQ(bar_.GetScrollPos(), 70);
+    // Sideways drift is ignored: the cursor column is replaced by the bar's centre.
+    ASSERT_TRUE(zotest::MoveCursorTo(parent_, CPoint(10 + kWidth + 30, 10 + 170)));
+    bar_.SendMessage(WM_TIMER, CZoScrollBar::TimerRepeat);
+    EXPECT_EQ(bar_.GetScrollPos(), 80);
+    // Over the next arrow: not the pressed part, nothing happens, the timer keeps running.
+    ASSERT_TRUE(zotest::MoveCursorTo(bar_.GetSafeHwnd(), CPoint(9, 195)));
+    bar_.SendMessage(WM_TIMER, CZoScrollBar::TimerRepeat);
+    EXPECT_EQ(bar_.GetScrollPos(), 80);
+    ASSERT_TRUE(zotest::MoveCursorTo(bar_.GetSafeHwnd(), CPoint(9, 170)));
+    bar_.SendMessage(WM_TIMER, CZoScrollBar::TimerRepeat);
+    EXPECT_EQ(bar_.GetScrollPos(), 90);
+    Release(9, 170);
+}
+
+TEST_F(ScrollBarTest, DraggingTracksOnlyOnChangeAndEndsWithThumbPosition)
+{
+    Create();
+    SetStandardState();
+    WatchParent();
+    Press(9, 100); // thumb 92..116, offset -8
+    Move(9, 115);  // thumb 85 -> 60.7 -> 61
+    Move(9, 116);  // thumb 86 -> 61.4 -> 61: unchanged, nothing sent
+    Move(9, 400);  // clamped to the track end: 100
+    Release(9, 400);
+    const LPARAM self = Self();
+    const zotest::ExpectedMessage expected[] = {
+        {WM_VSCROLL, zotest::sent | zotest::parent | zotest::wparam | zotest::lparam, Code(SB_THUMBTRACK, 50), self},
+        {WM_VSCROLL, zotest::sent | zotest::parent | zotest::wparam | zotest::lparam, Code(SB_THUMBTRACK, 61), self},
+        {WM_VSCROLL, zotest::sent | zotest::parent | zotest::wparam | zotest::lparam, Code(SB_THUMBTRACK, 100),
+         self},
+        {WM_VSCROLL, zotest::sent | zotest::parent | zotest::wparam | zotest::lparam, Code(SB_THUMBPOSITION, 100),
+         self},
+    };
+    ZOTEST_EXPECT_SEQUENCE(recorder_, expected);
+    EXPECT_EQ(bar_.GetThumbPos(), 140);
+    // Dragging does not write the scroll state; the host does on the notification.
+    EXPECT_EQ(bar_.GetScrollPos(), 50);
+    EXPECT_FALSE(::KillTimer(bar_.GetSafeHwnd(), CZoScrollBar::TimerFirstDelay));
+}
+
+TEST_F(ScrollBarTest, FullPageRangeDragsToTheMinimum)
+{
+    Create();
+    SCROLLINFO info = {sizeof(SCROLLINFO), SIF_ALL, 5, 104, 100, 5, 0};
+    bar_.SetScrollInfo(&info, TRUE);
+    EXPECT_EQ(bar_.GetThumbPos(), 0);
+    WatchParent();
+    const CRect thumb = bar_.GetPartRect(CZoScrollBar::SBHit_Thumb);
+    Press(9, thumb.top + 30);
+    Move(9, thumb.top + 60);
+    Release(9, thumb.top + 60);
+    for (const zotest::RecordedMessage& message : recorder_.MessagesOf(WM_VSCROLL))
+        EXPECT_EQ((int)HIWORD(message.wParam), 5);
+}
+
+TEST_F(ScrollBarTest, DoubleClickAndRightButtonAreSwallowed)
+{
+    Create();
+    SetStandardState();
+    recorder_.Watch(parent_, zotest::WindowRole::Parent);
+    bar_.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(9, 190));
+    zotest::SendRightClick(bar_.GetSafeHwnd(), CPoint(9, 100));
+    zotest::PumpUntilIdle();
+    EXPECT_EQ(recorder_.Count(WM_VSCROLL, zotest::WindowRole::Parent), 0u);
+    EXPECT_EQ(recorder_.Count(WM_CONTEXTMENU, zotest::WindowRole::Parent), 0u);
+    EXPECT_EQ(bar_.GetScrollPos(), 50);
+}
+
+TEST_F(ScrollBarTest, PressOutsideEveryPartDoesNothing)
+{
+    Create();
+    SetStandardState();
+    WatchParent();
+    Press(40, 100);
+    EXPECT_EQ(::GetCapture(), (HWND)NULL);
+    Release(40, 100);
+    EXPECT_EQ(recorder_.Count(WM_VSCROLL, zotest::WindowRole::Parent), 0u);
+}
+
+// Pixels: each part drawn from its strip cell in its state.
+class ScrollBarPixelTest : public ScrollBarTest
+{
+protected:
+    void SetUp() override
+    {
+        ScrollBarTest::SetUp();
+        buttons_ = scrolltest::LoadLibraryBitmap(L"BMP_ZO_SCROLLVER_BTNS");
+        thumb_ = scrolltest::LoadLibraryBitmap(L"BMP_ZO_SCROLLVER_THUMB");
+        back_ = scrolltest::LoadLibraryBitmap(L"BMP_ZO_SCROLLVER_BACK");
+        ASSERT_TRUE(buttons_ && thumb_ && back_);
+    }
+    void TearDown() override
+    {
+        ::DeleteObject(buttons_);
+        ::DeleteObject(thumb_);
+        ::DeleteObject(back_);
+        ScrollBarTest::TearDown();
+    }
+
+    // The previous button's area, drawn in `state`.
+    testing::AssertionResult PrevButtonIs(const zotest::Dib& dib, int state, int variant = 0,
+                                          const CZoScrollBar* bar = nullptr)
+    {
+        const CRect prev = (bar ? bar : &bar_)->GetPartRect(CZoScrollBar::SBHit_PrevButton);
+        const zotest::Dib expected =
+            scrolltest::StretchedCell(buttons_, 4, 4, state, variant * 2, prev.Width(), prev.Height(), kBackground);
+        return scrolltest::AreaMatches(dib, prev, expected);
+    }
+
+    const COLORREF kBackground = RGB(0x47, 0x47, 0x47);
+    HBITMAP buttons_ = nullptr;
+    HBITMAP thumb_ = nullptr;
+    HBITMAP back_ = nullptr;
+};
+
+TEST_F(ScrollBarPixelTest, PreviousButtonInEachState)
+{
+    Create();
+    SetStandardState();
+    EXPECT_TRUE(PrevButtonIs(zotest::RenderClient(bar_.GetSafeHwnd()), CZoScrollBar::CurState_Normal));
+    Move(9, 5, 0);
+    EXPECT_TRUE(PrevButtonIs(zotest::RenderClient(bar_.GetSafeHwnd()), CZoScrollBar::CurState_Hover));
+    Press(9, 5);
+    EXPECT_TRUE(PrevButtonIs(zotest::RenderClient(bar_.GetSafeHwnd()), CZoScrollBar::CurState_Pressed));
+    Release(9, 5);
+    EXPECT_TRUE(PrevButtonIs(zotest::RenderClient(bar_.GetSafeHwnd()), CZoScrollBar::CurState_Hover));
+    bar_.SendMessage(WM_MOUSELEAVE);
+    EXPECT_TRUE(PrevButtonIs(zotest::RenderClient(bar_.GetSafeHwnd()), CZoScrollBar::CurState_Normal));
+    bar_.EnableWindow(FALSE);
+    EXPECT_TRUE(PrevButtonIs(zotest::RenderClient(bar_.GetSafeHwnd()), CZoScrollBar::CurState_Disabled));
+}
+
+TEST_F(ScrollBarPixelTest, SecondSkinVariantUsesItsOwnRows)
+{
+    CZoScrollBar second(CZoScrollBar::ScrollBarTheme_1);
+    ASSERT_TRUE(second.Create(WS_CHILD | WS_VISIBLE | SBS_VERT, CRect(100, 10, 100 + kWidth, 10 + kHeight),
+                              CWnd::FromHandle(parent_), 101));
+    // Move the thumb away: drawn back by the gap, at the start it covers the button's last rows.
+    SCROLLINFO info = {sizeof(SCROLLINFO), SIF_ALL, 0, 109, 10, 50, 0};
+    second.SetScrollInfo(&info, TRUE);
+    EXPECT_TRUE(PrevButtonIs(zotest::RenderClient(second.GetSafeHwnd()), 0, 1, &second));
+    EXPECT_FALSE(PrevButtonIs(zotest::RenderClient(second.GetSafeHwnd()), 0, 0, &second));
+    second.DestroyWindow();
+}
+
+TEST_F(ScrollBarPixelTest, PageAreasAndThumbInTheirStates)
+{
+    Create();
+    SetStandardState();
+    Move(9, 50, 0); // hover over the page before the thumb
+    const zotest::Dib dib = zotest::RenderClient(bar_.GetSafeHwnd());
+    const CRect before = bar_.GetPartRect(CZoScrollBar::SBHit_PageBefore);
+    // Its last rows lie under the thumb, which is drawn back by the gap.
+    const CRect visible(before.left, before.top, before.right, before.bottom - 4);
+    EXPECT_TRUE(scrolltest::AreaMatches(dib, visible,
+                                        scrolltest::StretchedCell(back_, 4, 2, CZoScrollBar::CurState_Hover, 0,
+                                                                  before.Width(), before.Height(), kBackground)));
+    // The thumb is drawn moved back by the gap; its middle piece in the normal state.
+    const CRect thumb = bar_.GetPartRect(CZoScrollBar::SBHit_Thumb);
+    const CRect middle(thumb.left, thumb.top - 4 + 8, thumb.right, thumb.bottom - 4 - 8);
+    EXPECT_TRUE(scrolltest::AreaMatches(
+        dib, middle, scrolltest::StretchedCell(thumb_, 4, 6, 0, 1, middle.Width(), middle.Height(), kBackground)));
+}
+
+TEST_F(ScrollBarPixelTest, ShortBarDrawsThePlaceholderCapsAtTheCentre)
+{
+    Create(SBS_VERT, CRect(10, 10, 10 + kWidth, 10 + 50));
+    const zotest::Dib dib = zotest::RenderClient(bar_.GetSafeHwnd());
+    // Centre (9, 25); caps 19 x 8 from x = 0: top cap above the centre, bottom cap below.
+    const RECT topCap = zotest::CellRect(thumb_, 4, 6, 3, 0);
+    const RECT bottomCap = zotest::CellRect(thumb_, 4, 6, 3, 2);
+    ZOTEST_EXPECT_CELL(dib, CPoint(0, 17), thumb_, topCap, scrolltest::kMagenta);
+    ZOTEST_EXPECT_CELL(dib, CPoint(0, 25), thumb_, bottomCap, scrolltest::kMagenta);
+}
+
+TEST_F(ScrollBarTest, NoGdiGrowthOverCreatePaintDestroyCycles)
+{
+    CWnd* parent = CWnd::FromHandle(parent_);
+    ZOTEST_EXPECT_NO_LEAKS(1000, [&] {
+        CZoScrollBar bar;
+        bar.Create(WS_CHILD | WS_VISIBLE | SBS_VERT, CRect(0, 0, kWidth, kHeight), parent, 7);
+        SCROLLINFO info = {sizeof(SCROLLINFO), SIF_ALL, 0, 100, 10, 30, 0};
+        bar.SetScrollInfo(&info, TRUE);
+        zotest::RenderClient(bar.GetSafeHwnd());
+        bar.DestroyWindow();
+    });
+}

@@ -1,0 +1,200 @@
+// CZoSpinButtonCtrl: halves, hit-testing, arrow shapes, range-end states, the pressed look and
+// the outline in both drawing orders.
+#include "scroll_test_support.h"
+
+#include <afxcmn.h>
+
+#include "controls/ZoSpinButtonCtrl.h"
+
+using namespace ZoControls;
+using scrolltest::LibraryTest;
+
+TEST(SpinMath, HalvesShareTheMiddleRow)
+{
+    const RECT client = {0, 0, 20, 30};
+    RECT first;
+    RECT second;
+    ZoSpinHalves(client, false, first, second);
+    EXPECT_TRUE(CRect(first) == CRect(0, 0, 20, 16));
+    EXPECT_TRUE(CRect(second) == CRect(0, 15, 20, 30));
+    ZoSpinHalves(client, true, first, second);
+    EXPECT_TRUE(CRect(first) == CRect(0, 0, 11, 30));
+    EXPECT_TRUE(CRect(second) == CRect(10, 0, 20, 30));
+}
+
+TEST(SpinMath, HitTestSplitsAtTheMiddle)
+{
+    const RECT client = {0, 0, 20, 30};
+    EXPECT_EQ(ZoSpinHitTest(client, false, CPoint(5, 14)), 1);
+    EXPECT_EQ(ZoSpinHitTest(client, false, CPoint(5, 15)), 2);
+    EXPECT_EQ(ZoSpinHitTest(client, false, CPoint(5, 30)), 0);
+    EXPECT_EQ(ZoSpinHitTest(client, true, CPoint(9, 3)), 1);
+    EXPECT_EQ(ZoSpinHitTest(client, true, CPoint(10, 3)), 2);
+    EXPECT_EQ(ZoSpinHitTest(client, true, CPoint(-1, 3)), 0);
+}
+
+TEST(SpinMath, ArrowsAreNotMirrorImages)
+{
+    const RECT half = {0, 0, 20, 16}; // centre (10, 8)
+    POINT p[3];
+    ZoSpinArrowPoints(half, false, true, p);
+    EXPECT_TRUE(CPoint(p[0]) == CPoint(10, 6) && CPoint(p[1]) == CPoint(6, 10) && CPoint(p[2]) == CPoint(13, 10));
+    ZoSpinArrowPoints(half, false, false, p);
+    EXPECT_TRUE(CPoint(p[0]) == CPoint(13, 7) && CPoint(p[1]) == CPoint(10, 10) && CPoint(p[2]) == CPoint(7, 7));
+    ZoSpinArrowPoints(half, true, true, p);
+    EXPECT_TRUE(CPoint(p[0]) == CPoint(8, 8) && CPoint(p[1]) == CPoint(11, 5) && CPoint(p[2]) == CPoint(11, 11));
+    ZoSpinArrowPoints(half, true, false, p);
+    EXPECT_TRUE(CPoint(p[0]) == CPoint(12, 8) && CPoint(p[1]) == CPoint(9, 11) && CPoint(p[2]) == CPoint(9, 5));
+}
+
+TEST(SpinMath, OutlineTakesTheBottomOfTheHalfDrawnFirst)
+{
+    const RECT first = {0, 0, 20, 16};
+    const RECT second = {0, 15, 20, 30};
+    EXPECT_TRUE(CRect(ZoSpinOutline(second, first)) == CRect(0, 0, 20, 30));
+    EXPECT_TRUE(CRect(ZoSpinOutline(first, second)) == CRect(0, 15, 20, 16));
+}
+
+namespace {
+
+class SpinTest : public LibraryTest
+{
+protected:
+    void SetUp() override
+    {
+        LibraryTest::SetUp();
+        parent_ = MakeParent();
+    }
+    void TearDown() override
+    {
+        if (spin_.GetSafeHwnd())
+        {
+            ::ReleaseCapture();
+            spin_.DestroyWindow();
+        }
+        LibraryTest::TearDown();
+    }
+
+    void Create(int pos, DWORD style = 0)
+    {
+        ASSERT_TRUE(spin_.Create(WS_CHILD | WS_VISIBLE | style, CRect(0, 0, 20, 30), CWnd::FromHandle(parent_), 9));
+        spin_.SetRange32(0, 10);
+        spin_.SetPos32(pos);
+        // Wine gives an up-down without buddy a fixed width of 16; positions follow the client.
+        spin_.GetClientRect(&client_);
+        ASSERT_GE(client_.Width(), 12);
+        ASSERT_GE(client_.Height(), 12);
+    }
+    int Right() const { return client_.right - 1; }
+    int Bottom() const { return client_.bottom - 1; }
+    int MidX() const { return client_.right / 2; }
+    int MidY() const { return client_.bottom / 2; }
+
+    zotest::Dib Render() { return zotest::RenderClient(spin_.GetSafeHwnd()); }
+    void Send(UINT message, int x, int y, WPARAM keys = 0)
+    {
+        spin_.SendMessage(message, keys, MAKELPARAM(x, y));
+    }
+
+    HWND parent_ = nullptr;
+    CZoSpinButtonCtrl spin_;
+    CRect client_;
+};
+
+const COLORREF kWhite = RGB(255, 255, 255);
+
+} // namespace
+
+TEST_F(SpinTest, PressedHalfIsWhiteWithItsArrowUnchanged)
+{
+    Create(5);
+    Send(WM_LBUTTONDOWN, 10, 25, MK_LBUTTON);
+    const zotest::Dib dib = Render();
+    EXPECT_EQ(dib.Pixel(3, 26), kWhite);
+    // Inside the down arrow of the second half: centre (MidX, (MidY + Bottom + 1) / 2).
+    EXPECT_EQ(dib.Pixel(MidX(), (MidY() + client_.bottom) / 2), scrolltest::SlotColor(93));
+    EXPECT_EQ(dib.Pixel(3, 5), scrolltest::SlotColor(92));   // the other half stays
+    Send(WM_LBUTTONUP, 10, 25);
+    EXPECT_EQ(Render().Pixel(3, 26), scrolltest::SlotColor(92));
+}
+
+TEST_F(SpinTest, HalfAtItsRangeEndShowsNoPress)
+{
+    // The platform moves the value on the press; put it back at the end before painting.
+    Create(0);
+    Send(WM_LBUTTONDOWN, 10, 5, MK_LBUTTON);
+    spin_.SetPos32(0);
+    EXPECT_EQ(Render().Pixel(3, 3), scrolltest::SlotColor(92)); // first half disabled at the low end
+    spin_.SetPos32(5);
+    EXPECT_EQ(Render().Pixel(3, 3), kWhite); // the same press away from the end
+    Send(WM_LBUTTONUP, 10, 5);
+
+    Send(WM_LBUTTONDOWN, 10, 25, MK_LBUTTON);
+    spin_.SetPos32(10);
+    EXPECT_EQ(Render().Pixel(3, 26), scrolltest::SlotColor(92)); // second half at the high end
+    spin_.SetPos32(5);
+    EXPECT_EQ(Render().Pixel(3, 26), kWhite);
+    Send(WM_LBUTTONUP, 10, 25);
+}
+
+TEST_F(SpinTest, OutlineRoundTheWholeControlWhenTheSecondHalfIsNotHot)
+{
+    Create(5);
+    const zotest::Dib dib = Render();
+    const COLORREF border = scrolltest::SlotColor(94);
+    EXPECT_EQ(dib.Pixel(0, 0), border);
+    EXPECT_EQ(dib.Pixel(0, 20), border);
+    EXPECT_EQ(dib.Pixel(Right(), Bottom()), border);
+    EXPECT_EQ(dib.Pixel(3, MidY()), scrolltest::SlotColor(92)); // no line across the middle
+}
+
+TEST_F(SpinTest, HoveredSecondHalfShowsOnlyTheMiddleLine)
+{
+    Create(5);
+    Send(WM_MOUSEMOVE, 10, 25);
+    const zotest::Dib dib = Render();
+    const COLORREF border = scrolltest::SlotColor(94);
+    EXPECT_EQ(dib.Pixel(3, MidY()), border);
+    EXPECT_EQ(dib.Pixel(Right() - 2, MidY()), border);
+    EXPECT_EQ(dib.Pixel(0, 0), scrolltest::SlotColor(92));
+    EXPECT_EQ(dib.Pixel(0, 20), scrolltest::SlotColor(92));
+    EXPECT_EQ(dib.Pixel(Right(), Bottom()), scrolltest::SlotColor(92));
+    // Leaving restores the full outline.
+    spin_.SendMessage(WM_MOUSELEAVE);
+    EXPECT_EQ(Render().Pixel(0, 0), border);
+}
+
+TEST_F(SpinTest, HorizontalOutlineIsTheLeftOrTheRightHalf)
+{
+    Create(5, UDS_HORZ);
+    const COLORREF border = scrolltest::SlotColor(94);
+    zotest::Dib dib = Render();
+    const int y = MidY();
+    EXPECT_EQ(dib.Pixel(0, y), border);      // first half's left edge
+    EXPECT_EQ(dib.Pixel(MidX(), y), border); // its right edge, the shared column
+    EXPECT_EQ(dib.Pixel(Right(), y), scrolltest::SlotColor(92));
+    Send(WM_MOUSEMOVE, Right() - 1, y);
+    dib = Render();
+    EXPECT_EQ(dib.Pixel(Right(), y), border);
+    EXPECT_EQ(dib.Pixel(0, y), scrolltest::SlotColor(92));
+}
+
+TEST_F(SpinTest, ValueHandlingStaysThePlatformsOwn)
+{
+    Create(5);
+    Send(WM_LBUTTONDOWN, 10, 5, MK_LBUTTON);
+    Send(WM_LBUTTONUP, 10, 5);
+    EXPECT_NE(spin_.GetPos32(), 5);
+}
+
+TEST_F(SpinTest, NoGdiGrowthOverCreatePaintDestroyCycles)
+{
+    CWnd* parent = CWnd::FromHandle(parent_);
+    ZOTEST_EXPECT_NO_LEAKS(1000, [&] {
+        CZoSpinButtonCtrl spin;
+        spin.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 20, 30), parent, 8);
+        spin.SetRange32(0, 10);
+        zotest::RenderClient(spin.GetSafeHwnd());
+        spin.DestroyWindow();
+    });
+}

@@ -1,0 +1,5 @@
+# Buttons and static controls.
+list(APPEND ZO_CONTROL_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/ZoControlTheme.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ZoStatic.cpp
+)

@@ -1,0 +1,6 @@
+# Tests of the buttons and static controls.
+list(APPEND ZO_CONTROL_TEST_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/button_test_support.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/static_test.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/static_line_test.cpp
+)

@@ -1,0 +1,189 @@
+// CStaticLine: line and dotted geometry, the three layers and their colours, styles that draw
+// no line, and no border.
+#include "button_test_support.h"
+
+#include "controls/ZoStatic.h"
+
+using namespace ZoControls;
+
+namespace {
+
+const COLORREF kLine = RGB(66, 68, 81);
+const COLORREF kShadow = RGB(161, 165, 185);
+const COLORREF kBack = RGB(132, 137, 163);
+
+class StaticLineTest : public buttontest::ControlTest
+{
+protected:
+    zotest::Dib Render(CStaticLine& line, int width, int height)
+    {
+        EXPECT_TRUE(line.Create(L"", WS_CHILD | WS_VISIBLE, CRect(10, 10, 10 + width, 10 + height), parentWnd(), 200));
+        return zotest::RenderClient(line.m_hWnd);
+    }
+};
+
+TEST(StaticLineRules, HorizontalDotsLieOnTheRowOfTheLeftEdge)
+{
+    const ZoDotRun line = ZoStaticLineDots(CRect(0, 0, 100, 10), 0);
+    EXPECT_EQ(line.x, 0);
+    EXPECT_EQ(line.y, 0);
+    EXPECT_EQ(line.dx, 4);
+    EXPECT_EQ(line.dy, 0);
+    EXPECT_EQ(line.count, 25);
+    const ZoDotRun shadow = ZoStaticLineDots(CRect(0, 0, 100, 10), 1);
+    EXPECT_EQ(shadow.x, 1);
+    EXPECT_EQ(shadow.y, 1);
+    EXPECT_EQ(shadow.count, 25);
+    // A rectangle not at the origin: y follows its left edge, not its top.
+    const ZoDotRun moved = ZoStaticLineDots(CRect(3, 20, 13, 22), 0);
+    EXPECT_EQ(moved.y, 3);
+    EXPECT_EQ(moved.count, 3);
+}
+
+TEST(StaticLineRules, VerticalDotsRunDownTheMiddle)
+{
+    const ZoDotRun run = ZoStaticLineDots(CRect(0, 0, 9, 30), 1);
+    EXPECT_EQ(run.x, 5);
+    EXPECT_EQ(run.y, 1);
+    EXPECT_EQ(run.dx, 0);
+    EXPECT_EQ(run.dy, 4);
+    EXPECT_EQ(run.count, 8);
+}
+
+TEST(StaticLineRules, EmptyOrInvertedRectanglesHaveNoDots)
+{
+    EXPECT_EQ(ZoStaticLineDots(CRect(0, 0, 0, 0), 0).count, 0);
+    EXPECT_EQ(ZoStaticLineDots(CRect(10, 5, 0, 0), 0).count, 0);
+}
+
+TEST(StaticLineRules, SolidSegment)
+{
+    CPoint from, to;
+    ZoStaticLineSegment(CRect(0, 0, 100, 10), 0, from, to);
+    EXPECT_EQ(from, CPoint(0, 5));
+    EXPECT_EQ(to, CPoint(100, 5));
+    ZoStaticLineSegment(CRect(0, 0, 10, 100), 1, from, to);
+    EXPECT_EQ(from, CPoint(6, 1));
+    EXPECT_EQ(to, CPoint(6, 101));
+    // Square: horizontal.
+    ZoStaticLineSegment(CRect(0, 0, 20, 20), 0, from, to);
+    EXPECT_EQ(from, CPoint(0, 10));
+    EXPECT_EQ(to, CPoint(20, 10));
+}
+
+TEST_F(StaticLineTest, DottedHorizontalLineAtTheTopRows)
+{
+    CStaticLine line;
+    const zotest::Dib dib = Render(line, 100, 10);
+    for (int x = 0; x <= 96; x += 4) {
+        // Line squares at x, x+1 on rows 0 and 1; the shadow's at x+1, x+2 on rows 1 and 2, beneath.
+        ZOTEST_EXPECT_FILL(dib, (RECT{x, 0, x + 2, 2}), kLine);
+        ZOTEST_EXPECT_PIXEL(dib, x + 2, 1, kShadow);
+        ZOTEST_EXPECT_PIXEL(dib, x + 2, 2, kShadow);
+        ZOTEST_EXPECT_PIXEL(dib, x + 1, 2, kShadow);
+        ZOTEST_EXPECT_PIXEL(dib, x + 3, 0, kBack);
+        ZOTEST_EXPECT_PIXEL(dib, x + 3, 1, kBack);
+    }
+    // Nothing at mid-height.
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 3, 100, 10}), kBack);
+    EXPECT_EQ(buttontest::CountPixels(dib, kLine), 25 * 4);
+    EXPECT_EQ(buttontest::CountPixels(dib, kShadow), 25 * 3);
+}
+
+TEST_F(StaticLineTest, DottedVerticalLine)
+{
+    CStaticLine line;
+    const zotest::Dib dib = Render(line, 10, 40);
+    for (int y = 0; y < 40; y += 4)
+        ZOTEST_EXPECT_FILL(dib, (RECT{5, y, 7, y + 2}), kLine);
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 5, 40}), kBack);
+    ZOTEST_EXPECT_FILL(dib, (RECT{8, 0, 10, 40}), kBack);
+}
+
+TEST_F(StaticLineTest, SolidLineWithShadowBelow)
+{
+    CStaticLine line;
+    line.SetLineStyle(CStaticLine::StaticLine_Single);
+    const zotest::Dib dib = Render(line, 60, 11);
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 5, 60, 6}), kLine);
+    ZOTEST_EXPECT_FILL(dib, (RECT{1, 6, 60, 7}), kShadow);
+    ZOTEST_EXPECT_PIXEL(dib, 0, 6, kBack);
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 60, 5}), kBack);
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 7, 60, 11}), kBack);
+}
+
+TEST_F(StaticLineTest, SquareDrawsHorizontalAndUnknownStylesAreSolid)
+{
+    CStaticLine line;
+    line.SetLineStyle(static_cast<CStaticLine::E_StaticLine_Style>(7));
+    const zotest::Dib dib = Render(line, 20, 20);
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 10, 20, 11}), kLine);
+    ZOTEST_EXPECT_FILL(dib, (RECT{1, 11, 20, 12}), kShadow);
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 20, 10}), kBack);
+}
+
+TEST_F(StaticLineTest, DoubleAndDualDotStylesPaintOnlyTheBackground)
+{
+    CStaticLine doubled, dual;
+    doubled.SetLineStyle(CStaticLine::StaticLine_Double);
+    dual.SetLineStyle(CStaticLine::StaticLine_DualDot);
+    ZOTEST_EXPECT_FILL(Render(doubled, 50, 8), (RECT{0, 0, 50, 8}), kBack);
+    ZOTEST_EXPECT_FILL(Render(dual, 8, 50), (RECT{0, 0, 8, 50}), kBack);
+}
+
+TEST_F(StaticLineTest, ColoursInArgumentOrder)
+{
+    CStaticLine line;
+    line.SetLineStyle(CStaticLine::StaticLine_Single);
+    line.SetStaticColors(RGB(1, 0, 0), RGB(0, 2, 0), RGB(0, 0, 3));
+    const zotest::Dib dib = Render(line, 30, 4);
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 2, 30, 3}), RGB(1, 0, 0));
+    ZOTEST_EXPECT_FILL(dib, (RECT{1, 3, 30, 4}), RGB(0, 2, 0));
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 30, 2}), RGB(0, 0, 3));
+}
+
+// A derived class replaces one layer; the others keep their order.
+class RedBackgroundLine : public CStaticLine
+{
+public:
+    void DrawBackground(CDC* pDC, E_StaticLine_Style style, COLORREF) override
+    {
+        CStaticLine::DrawBackground(pDC, style, RGB(255, 0, 0));
+    }
+};
+
+TEST_F(StaticLineTest, LayersAreOverridable)
+{
+    RedBackgroundLine line;
+    const zotest::Dib dib = Render(line, 40, 10);
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 3, 40, 10}), RGB(255, 0, 0));
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 2, 2}), kLine);
+}
+
+TEST_F(StaticLineTest, BorderStylesPaintNoFrame)
+{
+    CStaticLine line;
+    ASSERT_TRUE(line.CreateEx(WS_EX_CLIENTEDGE, L"STATIC", L"", WS_CHILD | WS_VISIBLE | WS_BORDER,
+                              CRect(10, 10, 70, 30), parentWnd(), 201));
+    line.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
+    const zotest::Dib screen = zotest::RenderWindow(line.m_hWnd, zotest::RenderPath::Screen);
+    // No outline in any colour the library would use; what shows there instead is the platform's.
+    EXPECT_NE(screen.Pixel(0, 0), kBack);
+    EXPECT_NE(screen.Pixel(0, 0), buttontest::Slot(28));
+    EXPECT_NE(screen.Pixel(0, 0), buttontest::Slot(49));
+    EXPECT_NE(screen.Pixel(0, 0), kLine);
+}
+
+TEST_F(StaticLineTest, NoGdiGrowthOverCreatePaintDestroyCycles)
+{
+    CWnd* host = parentWnd();
+    ZOTEST_EXPECT_NO_LEAKS(1000, [host]() {
+        CStaticLine line;
+        line.SetLineStyle(CStaticLine::StaticLine_Single);
+        line.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 6), host, 202);
+        zotest::RenderClient(line.m_hWnd);
+        line.DestroyWindow();
+    }, zotest::count_gdi);
+}
+
+} // namespace

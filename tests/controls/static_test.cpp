@@ -1,0 +1,342 @@
+// CZoStatic, CZoStaticBig, CZoStaticHuge: what each style paints, repainting on text and
+// enable changes, borders, and both ways of attaching the control.
+#include "button_test_support.h"
+
+#include "controls/ZoStatic.h"
+
+using namespace ZoControls;
+using buttontest::Slot;
+
+namespace {
+
+const RECT kStaticRect = {10, 10, 130, 40};
+
+class StaticTest : public buttontest::ControlTest
+{
+protected:
+    // Creates `stat` in the parent with the given style and text.
+    void Make(CZoStatic& stat, const wchar_t* text, DWORD style, DWORD exStyle = 0, const RECT& rect = kStaticRect)
+    {
+        ASSERT_TRUE(stat.CreateEx(exStyle, L"STATIC", text, WS_CHILD | WS_VISIBLE | style, rect, parentWnd(), 100));
+    }
+};
+
+// --- Rules as numbers --------------------------------------------------------------------------
+
+TEST(StaticRules, PaintKindByStyleType)
+{
+    EXPECT_EQ(ZoStaticPaintKindOf(SS_LEFT), ZoStaticPaint_Text);
+    EXPECT_EQ(ZoStaticPaintKindOf(SS_CENTER | SS_NOTIFY), ZoStaticPaint_Text);
+    EXPECT_EQ(ZoStaticPaintKindOf(SS_RIGHT), ZoStaticPaint_Text);
+    EXPECT_EQ(ZoStaticPaintKindOf(SS_SIMPLE), ZoStaticPaint_Text);
+    EXPECT_EQ(ZoStaticPaintKindOf(SS_LEFTNOWORDWRAP), ZoStaticPaint_Text);
+    EXPECT_EQ(ZoStaticPaintKindOf(SS_BITMAP | SS_CENTERIMAGE), ZoStaticPaint_Picture);
+    EXPECT_EQ(ZoStaticPaintKindOf(SS_ICON), ZoStaticPaint_Icon);
+    EXPECT_EQ(ZoStaticPaintKindOf(SS_BLACKFRAME), ZoStaticPaint_Frame);
+    EXPECT_EQ(ZoStaticPaintKindOf(SS_GRAYFRAME), ZoStaticPaint_Frame);
+    EXPECT_EQ(ZoStaticPaintKindOf(SS_WHITEFRAME), ZoStaticPaint_Frame);
+    EXPECT_EQ(ZoStaticPaintKindOf(SS_ETCHEDHORZ), ZoStaticPaint_System);
+    EXPECT_EQ(ZoStaticPaintKindOf(SS_OWNERDRAW), ZoStaticPaint_System);
+    EXPECT_EQ(ZoStaticPaintKindOf(SS_BLACKRECT), ZoStaticPaint_System);
+}
+
+TEST(StaticRules, TextFormatByType)
+{
+    const UINT wrap = DT_WORDBREAK | DT_EXPANDTABS | DT_MODIFYSTRING;
+    EXPECT_EQ(ZoStaticTextFormat(SS_LEFT), wrap);
+    EXPECT_EQ(ZoStaticTextFormat(SS_CENTER), wrap | DT_CENTER);
+    EXPECT_EQ(ZoStaticTextFormat(SS_RIGHT), wrap | DT_RIGHT);
+    EXPECT_EQ(ZoStaticTextFormat(SS_SIMPLE), static_cast<UINT>(DT_SINGLELINE));
+    EXPECT_EQ(ZoStaticTextFormat(SS_LEFTNOWORDWRAP), static_cast<UINT>(DT_EXPANDTABS));
+    EXPECT_EQ(ZoStaticTextFormat(SS_BITMAP), 0u);
+}
+
+TEST(StaticRules, TextFormatModifiers)
+{
+    EXPECT_EQ(ZoStaticTextFormat(SS_SIMPLE | SS_CENTERIMAGE), static_cast<UINT>(DT_SINGLELINE | DT_VCENTER));
+    EXPECT_EQ(ZoStaticTextFormat(SS_SIMPLE | SS_NOPREFIX), static_cast<UINT>(DT_SINGLELINE | DT_NOPREFIX));
+    EXPECT_EQ(ZoStaticTextFormat(SS_SIMPLE | SS_ENDELLIPSIS),
+              static_cast<UINT>(DT_SINGLELINE | DT_WORD_ELLIPSIS | DT_END_ELLIPSIS));
+    EXPECT_EQ(ZoStaticTextFormat(SS_SIMPLE | SS_PATHELLIPSIS),
+              static_cast<UINT>(DT_SINGLELINE | DT_WORD_ELLIPSIS | DT_PATH_ELLIPSIS));
+    // Both bits: every ellipsis flag at once.
+    EXPECT_EQ(ZoStaticTextFormat(SS_SIMPLE | SS_WORDELLIPSIS),
+              static_cast<UINT>(DT_SINGLELINE | DT_WORD_ELLIPSIS | DT_END_ELLIPSIS | DT_PATH_ELLIPSIS));
+}
+
+TEST(StaticRules, CenteredTextRectRoundsTowardZero)
+{
+    EXPECT_EQ(ZoStaticCenteredTextRect(CRect(0, 0, 50, 31), 10), CRect(0, 10, 50, 31));
+    EXPECT_EQ(ZoStaticCenteredTextRect(CRect(5, 4, 50, 14), 20), CRect(5, -1, 50, 14));
+}
+
+TEST(StaticRules, PictureTarget)
+{
+    const CRect client(0, 0, 40, 30);
+    EXPECT_EQ(ZoStaticPictureTarget(client, CSize(10, 6), 0), client);
+    EXPECT_EQ(ZoStaticPictureTarget(client, CSize(10, 6), SS_REALSIZEIMAGE), CRect(0, 0, 10, 6));
+    EXPECT_EQ(ZoStaticPictureTarget(client, CSize(10, 6), SS_REALSIZEIMAGE | SS_CENTERIMAGE), CRect(15, 12, 25, 18));
+    EXPECT_EQ(ZoStaticPictureTarget(client, CSize(10, 6), SS_CENTERIMAGE), client);
+}
+
+TEST(StaticRules, FrameShiftAndBorderSlot)
+{
+    EXPECT_EQ(ZoStaticFrameTopShift(-13), 6);
+    EXPECT_EQ(ZoStaticFrameTopShift(0), 0);
+    EXPECT_EQ(ZoStaticFrameTopShift(12), -6);
+    EXPECT_EQ(ZoStaticBorderSlot(0, WS_EX_STATICEDGE), 28);
+    EXPECT_EQ(ZoStaticBorderSlot(WS_BORDER, WS_EX_CLIENTEDGE), 28);
+    EXPECT_EQ(ZoStaticBorderSlot(WS_BORDER, 0), 49);
+    EXPECT_EQ(ZoStaticBorderSlot(0, 0), -1);
+}
+
+// --- Text statics --------------------------------------------------------------------------------
+
+TEST_F(StaticTest, EmptyTextPaintsOnlyTheBackground)
+{
+    CZoStatic stat;
+    Make(stat, L"", SS_LEFT);
+    const zotest::Dib dib = zotest::RenderClient(stat.m_hWnd);
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 120, 30}), Slot(48));
+    stat.DestroyWindow();
+}
+
+TEST_F(StaticTest, BackgroundSetterTakesEffectAtNextPaint)
+{
+    CZoStatic stat;
+    Make(stat, L"", SS_LEFT);
+    stat.SetBackGroundColor(RGB(10, 200, 30));
+    const zotest::Dib dib = zotest::RenderClient(stat.m_hWnd);
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 120, 30}), RGB(10, 200, 30));
+}
+
+TEST_F(StaticTest, EnabledTextUsesItsSlotAndDisabledTextIsGrey)
+{
+    CZoStatic stat;
+    Make(stat, L"MMMM HHHH", SS_LEFT);
+    stat.SetTextTheme(static_cast<E_ZoThemeColors>(0));
+    stat.SetBackGroundColor(RGB(255, 255, 255));
+    zotest::Dib enabled = zotest::RenderClient(stat.m_hWnd);
+    EXPECT_GT(buttontest::CountPixels(enabled, Slot(0)), 0);
+    EXPECT_EQ(buttontest::CountPixels(enabled, RGB(0x7E, 0x7E, 0x7E)), 0);
+
+    stat.EnableWindow(FALSE);
+    zotest::Dib disabled = zotest::RenderClient(stat.m_hWnd);
+    EXPECT_GT(buttontest::CountPixels(disabled, RGB(0x7E, 0x7E, 0x7E)), 0);
+    EXPECT_EQ(buttontest::CountPixels(disabled, Slot(0)), 0);
+}
+
+TEST_F(StaticTest, TextLandsByAlignment)
+{
+    CZoStatic left, right, centred;
+    const RECT wide = {10, 50, 210, 90};
+    Make(left, L"Hi", SS_LEFT, 0, wide);
+    Make(right, L"Hi", SS_RIGHT, 0, wide);
+    Make(centred, L"Hi", SS_SIMPLE | SS_CENTERIMAGE, 0, wide);
+    const RECT l = zotest::BoundsOfDifferences(zotest::RenderClient(left.m_hWnd), Slot(48));
+    const RECT r = zotest::BoundsOfDifferences(zotest::RenderClient(right.m_hWnd), Slot(48));
+    const RECT c = zotest::BoundsOfDifferences(zotest::RenderClient(centred.m_hWnd), Slot(48));
+    EXPECT_LT(l.left, 5);
+    EXPECT_LT(l.top, 10);
+    EXPECT_GT(r.right, 190);
+    EXPECT_LT(c.left, 5);
+    // Vertically centred: well below where the top-aligned text starts.
+    EXPECT_GT(c.top, l.top + 8);
+    EXPECT_LT(c.bottom, 36);
+}
+
+TEST_F(StaticTest, SettingTextOrEnablingRepaintsAtOnce)
+{
+    CZoStatic stat;
+    Make(stat, L"One", SS_LEFT);
+    zotest::PumpUntilIdle(500);
+    zotest::MessageRecorder recorder;
+    ASSERT_TRUE(recorder.Watch(stat.m_hWnd));
+    stat.SetWindowText(L"Two");
+    EXPECT_GE(recorder.Count(WM_PAINT), 1u);
+    recorder.Clear();
+    stat.EnableWindow(FALSE);
+    EXPECT_GE(recorder.Count(WM_PAINT), 1u);
+    recorder.UnwatchAll();
+}
+
+TEST_F(StaticTest, NothingIsErasedByWmEraseBkgnd)
+{
+    CZoStatic stat;
+    Make(stat, L"", SS_LEFT);
+    zotest::Dib dib(120, 30, RGB(9, 9, 9));
+    EXPECT_EQ(SendMessage(stat.m_hWnd, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dib.dc()), 0), TRUE);
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 120, 30}), RGB(9, 9, 9));
+}
+
+// --- Pictures, icons, frames --------------------------------------------------------------------
+
+TEST_F(StaticTest, RealSizePictureCentredOverSlotZero)
+{
+    CZoStatic stat;
+    Make(stat, L"", SS_BITMAP | SS_REALSIZEIMAGE | SS_CENTERIMAGE, 0, RECT{10, 10, 50, 40});
+    HBITMAP bitmap = buttontest::MakeBitmap(10, 6, RGB(200, 0, 0), buttontest::kMagenta);
+    stat.SetBitmap(bitmap);
+    stat.MoveWindow(10, 10, 40, 30);
+    const zotest::Dib dib = zotest::RenderClient(stat.m_hWnd);
+    ZOTEST_EXPECT_PIXEL(dib, 0, 0, Slot(0));
+    ZOTEST_EXPECT_FILL(dib, (RECT{16, 12, 25, 18}), RGB(200, 0, 0));
+    // The magenta corner is transparent.
+    ZOTEST_EXPECT_PIXEL(dib, 15, 12, Slot(0));
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 40, 12}), Slot(0));
+    stat.DestroyWindow();
+    DeleteObject(bitmap);
+}
+
+TEST_F(StaticTest, PictureWithoutRealSizeStretchesOverTheClient)
+{
+    CZoStatic stat;
+    Make(stat, L"", SS_BITMAP, 0, RECT{10, 10, 50, 40});
+    HBITMAP bitmap = buttontest::MakeBitmap(4, 4, RGB(0, 0, 220), RGB(0, 0, 220));
+    stat.SetBitmap(bitmap);
+    stat.MoveWindow(10, 10, 40, 30);
+    const zotest::Dib dib = zotest::RenderClient(stat.m_hWnd);
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 40, 30}), RGB(0, 0, 220));
+    stat.DestroyWindow();
+    DeleteObject(bitmap);
+}
+
+TEST_F(StaticTest, PictureStaticWithoutPictureShowsSlotZero)
+{
+    CZoStatic stat;
+    Make(stat, L"", SS_BITMAP | SS_CENTERIMAGE, 0, RECT{10, 10, 50, 40});
+    const zotest::Dib dib = zotest::RenderClient(stat.m_hWnd);
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 40, 30}), Slot(0));
+}
+
+TEST_F(StaticTest, IconDrawnAtTopLeftOverSlotZero)
+{
+    CZoStatic stat;
+    Make(stat, L"", SS_ICON | SS_CENTERIMAGE, 0, RECT{10, 10, 70, 70});
+    stat.SetIcon(LoadIcon(nullptr, IDI_APPLICATION));
+    stat.MoveWindow(10, 10, 60, 60);
+    const zotest::Dib dib = zotest::RenderClient(stat.m_hWnd);
+    const RECT ink = zotest::BoundsOfDifferences(dib, Slot(0));
+    EXPECT_LT(ink.left, 8);
+    EXPECT_LT(ink.top, 8);
+    EXPECT_LE(ink.right, 33);
+    EXPECT_LE(ink.bottom, 33);
+    ZOTEST_EXPECT_FILL(dib, (RECT{34, 34, 60, 60}), Slot(0));
+}
+
+TEST_F(StaticTest, FrameWithoutFontOutlinesTheClient)
+{
+    CZoStatic stat;
+    Make(stat, L"", SS_BLACKFRAME, 0, RECT{10, 10, 70, 50});
+    const zotest::Dib dib = zotest::RenderClient(stat.m_hWnd);
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 60, 1}), Slot(49));
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 39, 60, 40}), Slot(49));
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 1, 40}), Slot(49));
+    ZOTEST_EXPECT_FILL(dib, (RECT{59, 0, 60, 40}), Slot(49));
+    // The inside is not painted.
+    ZOTEST_EXPECT_FILL(dib, (RECT{1, 1, 59, 39}), zotest::kUnpainted);
+}
+
+TEST_F(StaticTest, FrameTopMovesDownByHalfTheFontHeight)
+{
+    CZoStatic stat;
+    Make(stat, L"", SS_GRAYFRAME, 0, RECT{10, 10, 70, 50});
+    CFont font;
+    ASSERT_TRUE(font.CreateFont(-14, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, L"Arial"));
+    stat.SetFont(&font, FALSE);
+    // Wine's static keeps a font only for text styles; a frame answers WM_GETFONT with none there.
+    if (stat.SendMessage(WM_GETFONT) == 0)
+        GTEST_SKIP() << "the platform keeps no font for frame statics";
+    const zotest::Dib dib = zotest::RenderClient(stat.m_hWnd);
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 60, 7}), zotest::kUnpainted);
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 7, 60, 8}), Slot(49));
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 7, 1, 40}), Slot(49));
+    stat.DestroyWindow();
+}
+
+// --- Non-client border --------------------------------------------------------------------------
+
+TEST_F(StaticTest, BorderByExtendedStyle)
+{
+    CZoStatic edged, bordered;
+    Make(edged, L"", SS_LEFT, WS_EX_STATICEDGE, RECT{10, 10, 70, 50});
+    Make(bordered, L"", SS_LEFT | WS_BORDER, 0, RECT{100, 10, 160, 50});
+    edged.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
+    bordered.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
+    const zotest::Dib edge = zotest::RenderWindow(edged.m_hWnd, zotest::RenderPath::Screen);
+    const zotest::Dib border = zotest::RenderWindow(bordered.m_hWnd, zotest::RenderPath::Screen);
+    ZOTEST_EXPECT_FILL(edge, (RECT{0, 0, 60, 1}), Slot(28));
+    ZOTEST_EXPECT_FILL(edge, (RECT{0, 0, 1, 40}), Slot(28));
+    ZOTEST_EXPECT_FILL(border, (RECT{0, 39, 60, 40}), Slot(49));
+    ZOTEST_EXPECT_FILL(border, (RECT{59, 0, 60, 40}), Slot(49));
+}
+
+// --- Attaching, classes ------------------------------------------------------------------------
+
+TEST_F(StaticTest, SubclassedStaticPaintsTheSkin)
+{
+    HWND raw = CreateWindowW(L"STATIC", L"", WS_CHILD | WS_VISIBLE | SS_LEFT, 10, 10, 50, 20, parent(),
+                             reinterpret_cast<HMENU>(101), nullptr, nullptr);
+    ASSERT_NE(raw, nullptr);
+    CZoStatic stat;
+    ASSERT_TRUE(stat.SubclassDlgItem(101, parentWnd()));
+    const zotest::Dib dib = zotest::RenderClient(raw);
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 50, 20}), Slot(48));
+    stat.DestroyWindow();
+}
+
+TEST_F(StaticTest, StylesItDoesNotKnowAreLeftToTheSystem)
+{
+    CZoStatic stat;
+    Make(stat, L"", SS_BLACKRECT, 0, RECT{10, 10, 40, 30});
+    const zotest::Dib dib = zotest::RenderClient(stat.m_hWnd);
+    // The standard black rectangle, not the skin's background.
+    EXPECT_EQ(buttontest::CountPixels(dib, Slot(48)), 0);
+}
+
+TEST(StaticClasses, RunTimeClassNames)
+{
+    CZoStatic plain;
+    CZoStaticBig big;
+    CZoStaticHuge huge;
+    EXPECT_STREQ(plain.GetRuntimeClass()->m_lpszClassName, "CZoStatic");
+    EXPECT_STREQ(big.GetRuntimeClass()->m_lpszClassName, "CZoStaticBig");
+    EXPECT_STREQ(huge.GetRuntimeClass()->m_lpszClassName, "CZoStaticHuge");
+    EXPECT_TRUE(big.IsKindOf(RUNTIME_CLASS(CZoStatic)));
+    EXPECT_TRUE(huge.IsKindOf(RUNTIME_CLASS(CStatic)));
+}
+
+TEST_F(StaticTest, BiggerVariantsDrawTallerText)
+{
+    CZoStatic plain;
+    CZoStaticHuge huge;
+    Make(plain, L"H", SS_LEFT);
+    Make(huge, L"H", SS_LEFT);
+    const RECT a = zotest::BoundsOfDifferences(zotest::RenderClient(plain.m_hWnd), Slot(48));
+    const RECT b = zotest::BoundsOfDifferences(zotest::RenderClient(huge.m_hWnd), Slot(48));
+    EXPECT_GT(b.bottom - b.top, a.bottom - a.top);
+}
+
+// --- Resources ----------------------------------------------------------------------------------
+
+void CreatePaintDestroy(CZoStatic& stat, HWND parent, DWORD style)
+{
+    stat.Create(L"Label", WS_CHILD | WS_VISIBLE | style, CRect(5, 5, 105, 25), CWnd::FromHandle(parent), 102);
+    zotest::RenderClient(stat.m_hWnd);
+    stat.DestroyWindow();
+}
+
+TEST_F(StaticTest, NoGdiGrowthOverCreatePaintDestroyCycles)
+{
+    HWND host = parent();
+    ZOTEST_EXPECT_NO_LEAKS(1000, [host]() {
+        CZoStatic plain;
+        CreatePaintDestroy(plain, host, SS_LEFT | SS_CENTERIMAGE);
+        CZoStaticBig big;
+        CreatePaintDestroy(big, host, SS_CENTER);
+        CZoStaticHuge huge;
+        CreatePaintDestroy(huge, host, SS_BLACKFRAME);
+    }, zotest::count_gdi);
+}
+
+} // namespace

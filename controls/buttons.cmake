@@ -2,4 +2,5 @@
 list(APPEND ZO_CONTROL_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/ZoControlTheme.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ZoStatic.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ZoButton.cpp
 )

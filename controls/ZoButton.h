@@ -1,0 +1,234 @@
+// The skinned button.
+// Classes in this file:
+//   CZoButton   push, default push, check box, radio, push-like and group-box buttons painted
+//               with per-state colour tables, skins, images, a tooltip and hover tracking
+// plus the plain rules behind its painting (state, cells, text flags, image and text placement,
+// group-box geometry) as functions of numbers.
+#pragma once
+#include <afxwin.h>
+#include <afxcmn.h>
+
+#include "core/ZoCtrlExport.h"
+#include "core/ZoThemeTypes.h"
+#include "frames/ZoMenuXP.h"
+
+namespace ZoControls {
+
+class CZoResourceImage;
+class CZoResourceBMPImage;
+
+// The state every colour table and state-following image cell is indexed by.
+enum E_ZoButtonStates
+{
+    BS_ZO_NORMAL = 0,
+    BS_ZO_HOT = 1,
+    BS_ZO_PRESSED = 2,
+    BS_ZO_DISABLED = 3,
+    BS_ZO_COUNT = 4
+};
+
+// The four border lines of a push button.
+enum E_ZoFlatButtonLines
+{
+    LINE_LEFT = 0,
+    LINE_TOP = 1,
+    LINE_RIGHT = 2,
+    LINE_BOTTOM = 3,
+    LINE_COUNT = 4
+};
+
+// A line colour that means "this line is not drawn".
+const COLORREF ZO_LINE_NOT_DRAWN = 0x00FF00FF;
+
+// State of a push button from IsWindowEnabled, BM_GETSTATE and the hovering flag.
+ZOCTRL_API E_ZoButtonStates ZoPushButtonState(bool enabled, UINT buttonState, bool hovering);
+
+// Cell of the check-box/radio strip: the row is the box kind and check state, the column the state.
+ZOCTRL_API int ZoCheckCellRow(bool isCheckbox, UINT buttonState);
+ZOCTRL_API int ZoCheckCellColumn(bool enabled, UINT buttonState, bool hovering);
+// Top-left corner of the box cell of size `unit` in `client`.
+ZOCTRL_API CPoint ZoCheckCellOrigin(const CRect& client, int unit, DWORD style);
+
+// DrawText flags of a push button's caption. Each alignment bit is tested alone, so BS_CENTER
+// aligns left and BS_VCENTER aligns top; only the absence of both bits centres.
+ZOCTRL_API UINT ZoPushButtonTextFormat(DWORD style);
+// DrawText flags of a check box, radio or plain caption; `centreByDefault` decides what no
+// horizontal bit means.
+ZOCTRL_API UINT ZoCaptionTextFormat(DWORD style, bool centreByDefault);
+// Where text measured as `measured` goes in `rect` for `format`.
+ZOCTRL_API CRect ZoPlaceMeasuredText(const CRect& rect, const CSize& measured, UINT format);
+
+// Cell index of an image axis: the fixed index, or the state when the axis follows it.
+ZOCTRL_API int ZoImageCellColumn(int column, int state);
+// As above for rows; while row 3 is not allowed it is drawn as row 4.
+ZOCTRL_API int ZoImageCellRow(int row, int state, bool rowThreeAllowed);
+
+// Where an image and a push button's caption go.
+struct ZoImageTextLayout
+{
+    CPoint image;  // top-left corner of the image
+    CRect text;    // rectangle the caption is drawn in (pressed offset included)
+};
+
+// `textRect` is the button less its text margins, `image` the image or cell size (0 x 0 for no
+// image), `textWidth` and `lineHeight` the caption's width and the height of "Hy".
+ZOCTRL_API ZoImageTextLayout ZoLayoutImageAndText(const CRect& textRect, const CSize& image, bool hasText,
+                                                  int textWidth, int lineHeight, DWORD style, bool centerAligned,
+                                                  int textGap, bool pressed);
+
+// Group box: the frame below half the caption height, and the caption's indent at `zoom`.
+ZOCTRL_API CRect ZoGroupBoxFrame(const CRect& client, int lineHeight);
+ZOCTRL_API int ZoGroupBoxIndent(float zoom);
+
+// The background skin of every push kind and theme: "BMP_ZO_BTNDEFPUSH_NORMAL".
+ZOCTRL_API CString ZoPushButtonResourceId(bool isDefault, E_ZoTheme theme);
+
+#ifdef _MSC_VER
+#pragma warning(push)
+#pragma warning(disable : 4251) // CString members are private, never used by the host
+#endif
+
+class ZOCTRL_API CZoButton : public CButton
+{
+    DECLARE_DYNAMIC(CZoButton)
+
+public:
+    CZoButton();
+    explicit CZoButton(E_ZoThemeFont font);
+    virtual ~CZoButton();
+
+    // Images. A bitmap strip by name, a PNG resource by id; one cell fixed, or one axis
+    // following the state (statesAcross: the column is the state).
+    void SetZoBitmap(const wchar_t* name, bool redraw = true, int cols = 1, int rows = 1, int col = 0, int row = 0);
+    void SetZoBitmaps(const wchar_t* name, bool redraw, bool statesAcross, int cols, int rows, int index);
+    void SetZoPNGImage(UINT id, bool dark, bool redraw = true, int cols = 1, int rows = 1, int col = 0, int row = 0);
+    void SetZoPNGImage(UINT id, COLORREF back, bool redraw = true, int cols = 1, int rows = 1, int col = 0,
+                       int row = 0);
+    void SetZoPNGImages(UINT id, bool dark, bool redraw, bool statesAcross, int cols, int rows, int index);
+    void SetZoPNGImages(UINT id, COLORREF back, bool redraw, bool statesAcross, int cols, int rows, int index);
+    void SetZoPNGImages(UINT id, const COLORREF* backs, bool redraw, bool statesAcross, int cols, int rows,
+                        int index);
+    virtual void SetZoPNGImageBackgroundColor();
+    virtual void SetZoPNGImageBackgroundColor(const COLORREF* colors, int count);
+    virtual void SetZoPNGImageBackgroundColor(COLORREF color);
+
+    void SetToolTipText(const wchar_t* text);
+    CToolTipCtrl* GetToolTipCtrl() const;
+
+    void SetFontIndex(E_ZoThemeFont font, bool redraw = true);
+    void SetCenterAlignedImage(bool centered, bool redraw = true);
+    void SetStartTextPosFromImage(int gap);
+
+    void SetFaceColor(COLORREF color, bool redraw = true);
+    void SetFaceColor(E_ZoButtonStates state, COLORREF color, bool redraw = true);
+    void SetFaceColors(const COLORREF colors[4], bool redraw = true);
+    void SetTextColor(COLORREF color, bool redraw = true);
+    void SetTextColor(E_ZoButtonStates state, COLORREF color, bool redraw = true);
+    void SetTextColors(const COLORREF colors[4], bool redraw = true);
+    void Set4LineColors(COLORREF color, bool redraw = true);
+    void Set4LineColors(E_ZoButtonStates state, COLORREF color, bool redraw = true);
+    void Set4LineColors(const COLORREF colors[4], bool redraw = true);
+    void SetLTRBLineColors(COLORREF lt, COLORREF rb, bool redraw = true);
+    void SetLTRBLineColors(E_ZoButtonStates state, COLORREF lt, COLORREF rb, bool redraw = true);
+    void SetLTRBLineColors(const COLORREF lt[4], const COLORREF rb[4], bool redraw = true);
+    void SetLineColor(E_ZoFlatButtonLines line, COLORREF color, bool redraw = true);
+    void SetLineColor(E_ZoFlatButtonLines line, E_ZoButtonStates state, COLORREF color, bool redraw = true);
+    void SetLineColor(E_ZoFlatButtonLines line, const COLORREF colors[4], bool redraw = true);
+    void SetDefaultBrightColor(bool faces, bool lines);
+    // Lines as SetDefaultBrightColor: only the faces are darker.
+    void SetDefaultDarkColor(bool faces, bool lines);
+
+    // Read back by tests, variants and hosts that draw around the button.
+    COLORREF GetFaceColor(E_ZoButtonStates state) const;
+    COLORREF GetTextColor(E_ZoButtonStates state) const;
+    COLORREF GetLineColor(E_ZoFlatButtonLines line, E_ZoButtonStates state) const;
+
+    void Invalidate(BOOL erase = TRUE);
+
+    static bool IsPushButton(DWORD type);
+    static bool IsCheckbox(DWORD type);
+    static bool IsRadioButton(DWORD type);
+
+    bool IsHoveringNow() const;
+
+protected:
+    virtual void PreSubclassWindow();
+    virtual BOOL PreTranslateMessage(MSG* pMsg);
+    virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+
+    virtual void Init();
+    virtual void DrawPushButtonBackground(CDC& dc, const CRect& rect, E_ZoButtonStates state);
+    virtual void DrawPushButtonTextAndImage(CDC& dc, const CRect& rect, E_ZoButtonStates state);
+    virtual void DrawPushButtonFocusRect(CDC& dc, const CRect& rect);
+    virtual void LoadResource();
+    virtual CString GetBackgroundResourceId();
+    virtual void DrawCheckBoxBackground(CDC& dc, const CRect& rect);
+    virtual void DrawCheckBoxFocusRect(CDC& dc, const CRect& rect);
+
+    // Paints the whole client area into `dc` as WM_PAINT would; false for kinds the system paints.
+    bool PaintInto(CDC& dc);
+    void DrawPushButton(CDC& dc, bool pushLike);
+
+    E_ZoTheme GetTheme() const;
+    E_ZoMonitorSize GetMonitorSize() const;
+    DWORD GetButtonType() const;
+
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnPaint();
+    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    afx_msg void OnDestroy();
+    afx_msg void OnMouseMove(UINT nFlags, CPoint point);
+    afx_msg LRESULT OnMouseLeave(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
+    ZO_DECLARE_MENUXP_FORWARDING()
+    DECLARE_MESSAGE_MAP()
+
+    // Row 3 of a state-following image is drawn as row 4 while this is false.
+    bool m_bAllowRowThree;
+
+private:
+    void _clearColorTables();
+    void _redrawIf(bool redraw);
+    void _refreshNow();
+    void _deleteImages();
+    void _loadBitmapImage(const wchar_t* name, int cols, int rows, int col, int row);
+    bool _loadPNGImage(UINT id, int cols, int rows, int col, int row);
+    void _setThemePNGBackgrounds(bool dark, int rows);
+    void _setPNGBackgrounds(const COLORREF* colors, int count);
+    void _createOrUpdateToolTip();
+    void _drawCheckboxRadio(CDC& dc, bool isCheckbox);
+    CRect _drawText(CDC& dc, const CRect& rect, const CString& text, int colorSlot, bool centreByDefault);
+    void _drawGroupBox(CDC& dc);
+    CSize _drawSystemImage(CDC* pDC, int x, int y, int state, bool measureOnly);
+    CSize _imageSize() const;
+    void _drawImage(CDC& dc, int x, int y, int state);
+    CRect _textMarginRect(const CRect& rect);
+    int _lineHeight(CDC& dc);
+
+    E_ZoTheme m_eTheme;
+    E_ZoThemeFont m_eFont;
+    E_ZoMonitorSize m_eMonitorSize;
+    COLORREF m_aTextColors[BS_ZO_COUNT];
+    COLORREF m_aFaceColors[BS_ZO_COUNT];
+    COLORREF m_aLineColors[BS_ZO_COUNT][LINE_COUNT];
+    bool m_bHovering;
+    bool m_bResourcesLoaded;
+    CZoResourceBMPImage* m_pBackground;
+    bool m_bCenterAlignedImage;
+    bool m_bFontGiven;
+    int m_nTextGap;
+    CString m_strToolTip;
+    CString m_strImageName;
+    CZoResourceImage* m_pImage;
+    bool m_bImageIsPNG;
+    int m_nImageColumn;
+    int m_nImageRow;
+    CToolTipCtrl* m_pToolTip;
+};
+
+#ifdef _MSC_VER
+#pragma warning(pop)
+#endif
+
+} // namespace ZoControls

@@ -1,0 +1,247 @@
+// CZoButton behaviour: repainting on hover, text and enable changes, the system's check state
+// and notifications, colour setters, tooltips, attaching, and resources over many cycles.
+#include "button_test_support.h"
+
+#include <afxcmn.h>
+
+#include "controls/ZoButton.h"
+
+using namespace ZoControls;
+using buttontest::Slot;
+
+namespace {
+
+class ButtonTest : public buttontest::ControlTest
+{
+protected:
+    void Make(CZoButton& button, const wchar_t* text, DWORD style, const RECT& rect = RECT{10, 10, 90, 34})
+    {
+        ASSERT_TRUE(button.Create(text, WS_CHILD | WS_VISIBLE | style, rect, parentWnd(), 400));
+        zotest::PumpUntilIdle(300);
+    }
+};
+
+TEST_F(ButtonTest, HoverEnteringAndLeavingRepaintOnce)
+{
+    CZoButton button;
+    Make(button, L"Hover", BS_PUSHBUTTON);
+    zotest::MessageRecorder recorder;
+    ASSERT_TRUE(recorder.Watch(button.m_hWnd));
+    SendMessage(button.m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(4, 4));
+    SendMessage(button.m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(6, 4));
+    EXPECT_TRUE(button.IsHoveringNow());
+    EXPECT_EQ(recorder.Count(WM_PAINT), 1u);
+    recorder.Clear();
+    SendMessage(button.m_hWnd, WM_MOUSELEAVE, 0, 0);
+    SendMessage(button.m_hWnd, WM_MOUSELEAVE, 0, 0);
+    EXPECT_FALSE(button.IsHoveringNow());
+    EXPECT_EQ(recorder.Count(WM_PAINT), 1u);
+    recorder.UnwatchAll();
+}
+
+TEST_F(ButtonTest, DisabledButtonsAndGroupBoxesNeverHover)
+{
+    CZoButton group, disabled;
+    Make(group, L"Group", BS_GROUPBOX, RECT{10, 10, 150, 80});
+    Make(disabled, L"Off", BS_PUSHBUTTON | WS_DISABLED, RECT{160, 10, 240, 34});
+    SendMessage(group.m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(4, 4));
+    SendMessage(disabled.m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(4, 4));
+    EXPECT_FALSE(group.IsHoveringNow());
+    EXPECT_FALSE(disabled.IsHoveringNow());
+}
+
+TEST_F(ButtonTest, SettingTextOrEnablingRepaintsAtOnce)
+{
+    CZoButton button;
+    Make(button, L"One", BS_PUSHBUTTON);
+    zotest::MessageRecorder recorder;
+    ASSERT_TRUE(recorder.Watch(button.m_hWnd));
+    button.SetWindowText(L"Two");
+    EXPECT_GE(recorder.Count(WM_PAINT), 1u);
+    recorder.Clear();
+    button.EnableWindow(FALSE);
+    EXPECT_GE(recorder.Count(WM_PAINT), 1u);
+    recorder.UnwatchAll();
+    EXPECT_EQ(zotest::RenderClient(button.m_hWnd).Pixel(40, 2), Slot(17));
+}
+
+TEST_F(ButtonTest, SystemKeepsCheckStateAndParentGetsBnClicked)
+{
+    CZoButton box;
+    Make(box, L"Check", BS_AUTOCHECKBOX);
+    zotest::MessageRecorder recorder;
+    ASSERT_TRUE(recorder.WatchWithParent(box.m_hWnd));
+    recorder.MatchOnlyListed(true);
+    zotest::SendClick(box.m_hWnd, POINT{5, 5});
+    EXPECT_EQ(box.GetCheck(), BST_CHECKED);
+    const zotest::ExpectedMessage clicked[] = {
+        {WM_LBUTTONDOWN, zotest::sent},
+        {WM_LBUTTONUP, zotest::sent},
+        {WM_COMMAND, zotest::sent | zotest::parent | zotest::code | zotest::wparam, MAKEWPARAM(400, BN_CLICKED), 0,
+         BN_CLICKED},
+    };
+    ZOTEST_EXPECT_SEQUENCE(recorder, clicked);
+    zotest::SendClick(box.m_hWnd, POINT{5, 5});
+    EXPECT_EQ(box.GetCheck(), BST_UNCHECKED);
+    recorder.UnwatchAll();
+}
+
+TEST_F(ButtonTest, PushClickReachesParentUnchanged)
+{
+    CZoButton button;
+    Make(button, L"Go", BS_PUSHBUTTON);
+    zotest::MessageRecorder recorder;
+    ASSERT_TRUE(recorder.WatchWithParent(button.m_hWnd));
+    zotest::SendClick(button.m_hWnd, POINT{5, 5});
+    EXPECT_EQ(recorder.Count(WM_COMMAND, zotest::WindowRole::Parent), 1u);
+    const std::vector<zotest::RecordedMessage> commands = recorder.MessagesOf(WM_COMMAND);
+    ASSERT_EQ(commands.size(), 1u);
+    EXPECT_EQ(commands[0].wParam, MAKEWPARAM(400, BN_CLICKED));
+    EXPECT_EQ(commands[0].lParam, reinterpret_cast<LPARAM>(button.m_hWnd));
+    recorder.UnwatchAll();
+}
+
+TEST_F(ButtonTest, InitSetsColourTablesByKind)
+{
+    CZoButton push, box, radio, group;
+    Make(push, L"", BS_PUSHBUTTON);
+    Make(box, L"", BS_CHECKBOX, RECT{10, 40, 90, 60});
+    Make(radio, L"", BS_RADIOBUTTON, RECT{10, 70, 90, 90});
+    Make(group, L"", BS_GROUPBOX, RECT{100, 10, 200, 90});
+    for (int s = 0; s < BS_ZO_COUNT; ++s) {
+        const E_ZoButtonStates state = static_cast<E_ZoButtonStates>(s);
+        EXPECT_EQ(push.GetTextColor(state), Slot(34 + s));
+        EXPECT_EQ(box.GetTextColor(state), Slot(9 + s));
+        EXPECT_EQ(radio.GetTextColor(state), Slot(9 + s));
+        EXPECT_EQ(group.GetTextColor(state), Slot(50));
+        const int faceSlots[4] = {13, 14, 15, 17};
+        const int lineSlots[4] = {18, 19, 20, 22};
+        EXPECT_EQ(push.GetFaceColor(state), Slot(faceSlots[s]));
+        for (int l = 0; l < LINE_COUNT; ++l)
+            EXPECT_EQ(push.GetLineColor(static_cast<E_ZoFlatButtonLines>(l), state), Slot(lineSlots[s]));
+    }
+    EXPECT_TRUE(group.GetStyle() & WS_CLIPSIBLINGS);
+}
+
+TEST_F(ButtonTest, ColourSetterForms)
+{
+    CZoButton button;
+    Make(button, L"", BS_PUSHBUTTON);
+    button.SetFaceColor(RGB(1, 1, 1), false);
+    EXPECT_EQ(button.GetFaceColor(BS_ZO_DISABLED), RGB(1, 1, 1));
+    button.SetFaceColor(BS_ZO_HOT, RGB(2, 2, 2), false);
+    EXPECT_EQ(button.GetFaceColor(BS_ZO_HOT), RGB(2, 2, 2));
+    EXPECT_EQ(button.GetFaceColor(BS_ZO_NORMAL), RGB(1, 1, 1));
+    const COLORREF four[4] = {RGB(10, 0, 0), RGB(11, 0, 0), RGB(12, 0, 0), RGB(13, 0, 0)};
+    button.SetTextColors(four, false);
+    EXPECT_EQ(button.GetTextColor(BS_ZO_PRESSED), RGB(12, 0, 0));
+    button.SetLTRBLineColors(BS_ZO_PRESSED, RGB(5, 0, 0), RGB(6, 0, 0), false);
+    EXPECT_EQ(button.GetLineColor(LINE_LEFT, BS_ZO_PRESSED), RGB(5, 0, 0));
+    EXPECT_EQ(button.GetLineColor(LINE_TOP, BS_ZO_PRESSED), RGB(5, 0, 0));
+    EXPECT_EQ(button.GetLineColor(LINE_RIGHT, BS_ZO_PRESSED), RGB(6, 0, 0));
+    EXPECT_EQ(button.GetLineColor(LINE_BOTTOM, BS_ZO_PRESSED), RGB(6, 0, 0));
+    button.Set4LineColors(four, false);
+    EXPECT_EQ(button.GetLineColor(LINE_BOTTOM, BS_ZO_DISABLED), RGB(13, 0, 0));
+    button.SetLineColor(LINE_TOP, BS_ZO_NORMAL, RGB(7, 0, 0), false);
+    EXPECT_EQ(button.GetLineColor(LINE_TOP, BS_ZO_NORMAL), RGB(7, 0, 0));
+    EXPECT_EQ(button.GetLineColor(LINE_LEFT, BS_ZO_NORMAL), RGB(10, 0, 0));
+    // Out-of-range states and lines change nothing.
+    button.SetFaceColor(static_cast<E_ZoButtonStates>(9), RGB(9, 9, 9), false);
+    button.SetLineColor(static_cast<E_ZoFlatButtonLines>(-1), RGB(9, 9, 9), false);
+    EXPECT_EQ(button.GetFaceColor(static_cast<E_ZoButtonStates>(9)), CLR_INVALID);
+    EXPECT_EQ(button.GetLineColor(LINE_LEFT, BS_ZO_NORMAL), RGB(10, 0, 0));
+    // The face fill follows the setter.
+    EXPECT_EQ(zotest::RenderClient(button.m_hWnd).Pixel(40, 10), RGB(1, 1, 1));
+}
+
+TEST_F(ButtonTest, DarkDefaultsChangeFacesButNotLines)
+{
+    CZoButton bright, dark;
+    Make(bright, L"", BS_PUSHBUTTON);
+    Make(dark, L"", BS_PUSHBUTTON, RECT{100, 10, 180, 34});
+    bright.SetLineColor(LINE_LEFT, RGB(1, 2, 3), false);
+    dark.SetLineColor(LINE_LEFT, RGB(1, 2, 3), false);
+    bright.SetDefaultBrightColor(false, true);
+    dark.SetDefaultDarkColor(false, true);
+    for (int s = 0; s < BS_ZO_COUNT; ++s)
+        for (int l = 0; l < LINE_COUNT; ++l)
+            EXPECT_EQ(dark.GetLineColor(static_cast<E_ZoFlatButtonLines>(l), static_cast<E_ZoButtonStates>(s)),
+                      bright.GetLineColor(static_cast<E_ZoFlatButtonLines>(l), static_cast<E_ZoButtonStates>(s)));
+    dark.SetDefaultDarkColor(true, false);
+    EXPECT_EQ(dark.GetFaceColor(BS_ZO_NORMAL), Slot(23));
+    EXPECT_EQ(dark.GetFaceColor(BS_ZO_DISABLED), Slot(27));
+}
+
+TEST_F(ButtonTest, ToolTipCreatedUpdatedAndDestroyed)
+{
+    CZoButton button;
+    button.SetToolTipText(L"Before");
+    EXPECT_EQ(button.GetToolTipCtrl(), nullptr);
+    Make(button, L"Tip", BS_PUSHBUTTON);
+    button.SetToolTipText(L"Hello");
+    CToolTipCtrl* tip = button.GetToolTipCtrl();
+    ASSERT_NE(tip, nullptr);
+    EXPECT_TRUE(::IsWindow(tip->GetSafeHwnd()));
+    EXPECT_EQ(tip->GetToolCount(), 1);
+    button.SetToolTipText(L"Again");
+    EXPECT_EQ(button.GetToolTipCtrl(), tip);
+    CString text;
+    tip->GetText(text, &button);
+    EXPECT_EQ(text, CString(L"Again"));
+    button.SetToolTipText(L"");
+    EXPECT_EQ(button.GetToolTipCtrl(), nullptr);
+}
+
+TEST_F(ButtonTest, SubclassedDialogButtonPaintsTheSkin)
+{
+    HWND raw = CreateWindowW(L"BUTTON", L"", WS_CHILD | WS_VISIBLE | BS_PUSHBUTTON, 10, 10, 60, 20, parent(),
+                             reinterpret_cast<HMENU>(401), nullptr, nullptr);
+    ASSERT_NE(raw, nullptr);
+    CZoButton button;
+    ASSERT_TRUE(button.SubclassDlgItem(401, parentWnd()));
+    const zotest::Dib dib = zotest::RenderClient(raw);
+    ZOTEST_EXPECT_FILL(dib, (RECT{1, 1, 59, 19}), Slot(13));
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 60, 1}), Slot(18));
+    button.DestroyWindow();
+}
+
+TEST_F(ButtonTest, EraseBackgroundPaintsNothing)
+{
+    CZoButton button;
+    Make(button, L"", BS_PUSHBUTTON);
+    zotest::Dib dib(80, 24, RGB(9, 9, 9));
+    EXPECT_EQ(SendMessage(button.m_hWnd, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dib.dc()), 0), TRUE);
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 80, 24}), RGB(9, 9, 9));
+}
+
+TEST_F(ButtonTest, RecreatedWindowReloadsItsStrip)
+{
+    CZoButton box;
+    Make(box, L"", BS_AUTOCHECKBOX, RECT{10, 10, 110, 35});
+    const zotest::Dib first = zotest::RenderClient(box.m_hWnd);
+    box.DestroyWindow();
+    Make(box, L"", BS_AUTOCHECKBOX, RECT{10, 10, 110, 35});
+    const zotest::Dib second = zotest::RenderClient(box.m_hWnd);
+    const RECT all = {0, 0, 100, 25};
+    EXPECT_TRUE(zotest::MatchesCell(second, POINT{0, 0}, first, all));
+    EXPECT_GT(buttontest::CountPixels(second, Slot(0)), 0);
+    EXPECT_LT(buttontest::CountPixels(second, Slot(0)), 100 * 25);
+}
+
+TEST_F(ButtonTest, NoGdiGrowthOverCreatePaintDestroyCycles)
+{
+    CWnd* host = parentWnd();
+    const DWORD kinds[] = {BS_PUSHBUTTON, BS_DEFPUSHBUTTON, BS_AUTOCHECKBOX, BS_AUTORADIOBUTTON,
+                           BS_AUTOCHECKBOX | BS_PUSHLIKE, BS_GROUPBOX};
+    ZOTEST_EXPECT_NO_LEAKS(1000, [host, &kinds]() {
+        for (DWORD kind : kinds) {
+            CZoButton button;
+            button.Create(L"Cycle", WS_CHILD | WS_VISIBLE | kind, CRect(5, 5, 105, 30), host, 402);
+            button.SetToolTipText(L"Tip");
+            zotest::RenderClient(button.m_hWnd);
+            button.DestroyWindow();
+        }
+    }, zotest::count_gdi);
+}
+
+} // namespace

@@ -1,0 +1,372 @@
+// CZoButton pixels: face and border lines per state, check and radio cells from the strip,
+// text and image placement, group boxes, focus cues.
+#include "button_test_support.h"
+
+#include <cstdlib>
+
+#include "controls/ZoButton.h"
+#include "core/ZoThemeManager.h"
+#include "images/ZoResourcePNG.h"
+
+using namespace ZoControls;
+using buttontest::Slot;
+
+namespace {
+
+const UINT kCheckStrip = 808;
+
+class ButtonPaintTest : public buttontest::ControlTest
+{
+protected:
+    void Make(CZoButton& button, const wchar_t* text, DWORD style, const RECT& rect = RECT{10, 10, 90, 34})
+    {
+        ASSERT_TRUE(button.Create(text, WS_CHILD | WS_VISIBLE | style, rect, parentWnd(), 300));
+    }
+
+    // The strip's cell (column, row) composed over `backs` (one colour per row), drawn alone.
+    zotest::Dib StripCell(int column, int row, const COLORREF* backs, int count)
+    {
+        CZoResourcePNGImage strip;
+        EXPECT_TRUE(strip.LoadResourceImage(kCheckStrip, 4, 5));
+        strip.SetBackgroundColor(backs, count);
+        zotest::Dib cell(15, 15, RGB(9, 9, 9));
+        CDC dc;
+        dc.Attach(cell.dc());
+        strip.DrawUnitImage(dc, 0, 0, column, row, buttontest::kMagenta);
+        dc.Detach();
+        return cell;
+    }
+
+    zotest::Dib StripCell(int column, int row, COLORREF back)
+    {
+        const COLORREF backs[5] = {back, back, back, back, back};
+        return StripCell(column, row, backs, 5);
+    }
+
+    static ::testing::AssertionResult SameArea(const zotest::Dib& dib, POINT at, const zotest::Dib& cell)
+    {
+        const RECT all = {0, 0, cell.width(), cell.height()};
+        return zotest::MatchesCell(dib, at, cell, all);
+    }
+
+    // Bounds of the caption: everything in the interior that is not the face colour.
+    static RECT CaptionBounds(const zotest::Dib& dib, COLORREF face)
+    {
+        const RECT inner = {1, 1, dib.width() - 1, dib.height() - 1};
+        const zotest::Dib crop = dib.Crop(inner);
+        RECT r = zotest::BoundsOfDifferences(crop, face);
+        if (r.right > r.left)
+            OffsetRect(&r, 1, 1);
+        return r;
+    }
+};
+
+// First row holding a pixel of `color`; -1 when none does.
+int FirstRowWith(const zotest::Dib& dib, COLORREF color)
+{
+    for (int y = 0; y < dib.height(); ++y)
+        for (int x = 0; x < dib.width(); ++x)
+            if (dib.Pixel(x, y) == color)
+                return y;
+    return -1;
+}
+
+// --- Push buttons ------------------------------------------------------------------------------
+
+void ExpectFaceAndLines(const zotest::Dib& dib, COLORREF face, COLORREF line)
+{
+    const int w = dib.width();
+    const int h = dib.height();
+    ZOTEST_EXPECT_FILL(dib, (RECT{1, 1, w - 1, h - 1}), face);
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 1, h}), line);
+    ZOTEST_EXPECT_FILL(dib, (RECT{w - 1, 0, w, h}), line);
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, w, 1}), line);
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, h - 1, w, h}), line);
+}
+
+TEST_F(ButtonPaintTest, PushFaceAndLinesPerState)
+{
+    CZoButton button;
+    Make(button, L"", BS_PUSHBUTTON);
+    ExpectFaceAndLines(zotest::RenderClient(button.m_hWnd), Slot(13), Slot(18));
+
+    SendMessage(button.m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+    ASSERT_TRUE(button.IsHoveringNow());
+    ExpectFaceAndLines(zotest::RenderClient(button.m_hWnd), Slot(14), Slot(19));
+
+    button.SetState(TRUE);
+    ExpectFaceAndLines(zotest::RenderClient(button.m_hWnd), Slot(15), Slot(20));
+    button.SetState(FALSE);
+
+    SendMessage(button.m_hWnd, WM_MOUSELEAVE, 0, 0);
+    EXPECT_FALSE(button.IsHoveringNow());
+    button.EnableWindow(FALSE);
+    ExpectFaceAndLines(zotest::RenderClient(button.m_hWnd), Slot(17), Slot(22));
+}
+
+TEST_F(ButtonPaintTest, DefaultPushLooksLikePush)
+{
+    CZoButton plain, def;
+    Make(plain, L"", BS_PUSHBUTTON);
+    Make(def, L"", BS_DEFPUSHBUTTON, RECT{100, 10, 180, 34});
+    ExpectFaceAndLines(zotest::RenderClient(def.m_hWnd), Slot(13), Slot(18));
+}
+
+TEST_F(ButtonPaintTest, LinesInMagentaAreNotDrawn)
+{
+    CZoButton button;
+    Make(button, L"", BS_PUSHBUTTON);
+    button.SetLineColor(LINE_TOP, ZO_LINE_NOT_DRAWN);
+    button.SetLineColor(LINE_RIGHT, RGB(0, 0, 200));
+    const zotest::Dib dib = zotest::RenderClient(button.m_hWnd);
+    ZOTEST_EXPECT_FILL(dib, (RECT{1, 0, 79, 1}), Slot(13));
+    // The right line runs bottom to top and LineTo leaves out its end point.
+    ZOTEST_EXPECT_FILL(dib, (RECT{79, 1, 80, 24}), RGB(0, 0, 200));
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 1, 24}), Slot(18));
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 23, 79, 24}), Slot(18));
+}
+
+TEST_F(ButtonPaintTest, CheckedPushLikeBoxDrawsPressed)
+{
+    CZoButton button;
+    Make(button, L"", BS_AUTOCHECKBOX | BS_PUSHLIKE);
+    button.SetCheck(BST_CHECKED);
+    ExpectFaceAndLines(zotest::RenderClient(button.m_hWnd), Slot(15), Slot(20));
+}
+
+TEST_F(ButtonPaintTest, CaptionInStateTextColour)
+{
+    CZoButton button;
+    Make(button, L"MMMM", BS_PUSHBUTTON);
+    const zotest::Dib dib = zotest::RenderClient(button.m_hWnd);
+    EXPECT_GT(buttontest::CountPixels(dib, Slot(34)), 0);
+    button.EnableWindow(FALSE);
+    EXPECT_GT(buttontest::CountPixels(zotest::RenderClient(button.m_hWnd), Slot(37)), 0);
+}
+
+TEST_F(ButtonPaintTest, CaptionAlignmentBits)
+{
+    CZoButton centred, bsCenter, right, bsVCenter, bottom;
+    const RECT wide = {10, 10, 210, 50};
+    Make(centred, L"Ab", BS_PUSHBUTTON, wide);
+    Make(bsCenter, L"Ab", BS_PUSHBUTTON | BS_CENTER, wide);
+    Make(right, L"Ab", BS_PUSHBUTTON | BS_RIGHT, wide);
+    Make(bsVCenter, L"Ab", BS_PUSHBUTTON | BS_VCENTER, wide);
+    Make(bottom, L"Ab", BS_PUSHBUTTON | BS_BOTTOM, wide);
+    const RECT c = CaptionBounds(zotest::RenderClient(centred.m_hWnd), Slot(13));
+    const RECT l = CaptionBounds(zotest::RenderClient(bsCenter.m_hWnd), Slot(13));
+    const RECT r = CaptionBounds(zotest::RenderClient(right.m_hWnd), Slot(13));
+    const RECT t = CaptionBounds(zotest::RenderClient(bsVCenter.m_hWnd), Slot(13));
+    const RECT b = CaptionBounds(zotest::RenderClient(bottom.m_hWnd), Slot(13));
+    EXPECT_LT(std::abs((c.left + c.right) / 2 - 100), 4);
+    // BS_CENTER draws left-aligned, BS_VCENTER top-aligned.
+    EXPECT_LT(l.left, 6);
+    EXPECT_GT(r.right, 194);
+    EXPECT_LT(t.top, 6);
+    EXPECT_GT(c.top, 8);
+    EXPECT_GT(b.bottom, 34);
+}
+
+TEST_F(ButtonPaintTest, SystemImageLeftOfTextMovesWhenPressed)
+{
+    CZoButton button;
+    Make(button, L"Ab", BS_PUSHBUTTON | BS_BITMAP, RECT{10, 10, 110, 50});
+    HBITMAP bitmap = buttontest::MakeBitmap(10, 10, RGB(0, 180, 0), RGB(0, 180, 0));
+    button.SetBitmap(bitmap);
+    // d = (40 - hy - 10) / 3 shrinks the text rectangle symmetrically: the image stays centred.
+    zotest::Dib up = zotest::RenderClient(button.m_hWnd);
+    ZOTEST_EXPECT_FILL(up, (RECT{0, 15, 10, 25}), RGB(0, 180, 0));
+    button.SetState(TRUE);
+    zotest::Dib down = zotest::RenderClient(button.m_hWnd);
+    ZOTEST_EXPECT_FILL(down, (RECT{1, 16, 11, 26}), RGB(0, 180, 0));
+    ZOTEST_EXPECT_PIXEL(down, 1, 15, Slot(15));
+    button.DestroyWindow();
+    DeleteObject(bitmap);
+}
+
+TEST_F(ButtonPaintTest, LoneImageCentredAndStillWhenPressed)
+{
+    CZoButton button;
+    Make(button, L"", BS_PUSHBUTTON | BS_BITMAP, RECT{10, 10, 110, 50});
+    HBITMAP bitmap = buttontest::MakeBitmap(10, 10, RGB(0, 180, 0), RGB(0, 180, 0));
+    button.SetBitmap(bitmap);
+    ZOTEST_EXPECT_FILL(zotest::RenderClient(button.m_hWnd), (RECT{45, 15, 55, 25}), RGB(0, 180, 0));
+    button.SetState(TRUE);
+    ZOTEST_EXPECT_FILL(zotest::RenderClient(button.m_hWnd), (RECT{45, 15, 55, 25}), RGB(0, 180, 0));
+    button.DestroyWindow();
+    DeleteObject(bitmap);
+}
+
+TEST_F(ButtonPaintTest, ImageBelowAndAboveText)
+{
+    CZoButton below, above;
+    Make(below, L"Ab", BS_PUSHBUTTON | BS_BITMAP | BS_TOP, RECT{10, 10, 110, 70});
+    Make(above, L"Ab", BS_PUSHBUTTON | BS_BITMAP | BS_BOTTOM, RECT{10, 80, 110, 140});
+    HBITMAP bitmap = buttontest::MakeBitmap(10, 10, RGB(0, 180, 0), RGB(0, 180, 0));
+    below.SetBitmap(bitmap);
+    above.SetBitmap(bitmap);
+    const zotest::Dib b = zotest::RenderClient(below.m_hWnd);
+    const zotest::Dib a = zotest::RenderClient(above.m_hWnd);
+    EXPECT_EQ(buttontest::CountPixels(b, RGB(0, 180, 0)), 100);
+    EXPECT_EQ(buttontest::CountPixels(a, RGB(0, 180, 0)), 100);
+    // Image at the bottom of the shrunk rectangle with the text above it, and the other way round.
+    const int imageBelow = FirstRowWith(b, RGB(0, 180, 0));
+    const int imageAbove = FirstRowWith(a, RGB(0, 180, 0));
+    const int textBelow = FirstRowWith(b, Slot(34));
+    const int textAbove = FirstRowWith(a, Slot(34));
+    EXPECT_GT(imageBelow, 30);
+    EXPECT_LT(imageAbove, 20);
+    EXPECT_LT(textBelow, imageBelow);
+    EXPECT_GT(textAbove, imageAbove + 9);
+    ZOTEST_EXPECT_FILL(b, (RECT{45, imageBelow, 55, imageBelow + 10}), RGB(0, 180, 0));
+    ZOTEST_EXPECT_FILL(a, (RECT{45, imageAbove, 55, imageAbove + 10}), RGB(0, 180, 0));
+    below.DestroyWindow();
+    above.DestroyWindow();
+    DeleteObject(bitmap);
+}
+
+TEST_F(ButtonPaintTest, DisabledStateFollowingRowDrawsRowFour)
+{
+    CZoButton button;
+    Make(button, L"", BS_PUSHBUTTON, RECT{10, 10, 55, 45});
+    button.SetZoPNGImages(kCheckStrip, false, true, false, 4, 5, 1);
+    button.EnableWindow(FALSE);
+    const zotest::Dib dib = zotest::RenderClient(button.m_hWnd);
+    COLORREF backs[5];
+    for (int i = 0; i < 5; ++i)
+        backs[i] = Slot(13 + i);
+    // Centred: ((0 + 45) / 2 - 7, (0 + 35) / 2 - 7).
+    EXPECT_TRUE(SameArea(dib, POINT{15, 10}, StripCell(1, 4, backs, 5)));
+    EXPECT_FALSE(SameArea(dib, POINT{15, 10}, StripCell(1, 3, backs, 5)));
+}
+
+// --- Check boxes and radios --------------------------------------------------------------------
+
+TEST_F(ButtonPaintTest, CheckBoxCellsFromTheStrip)
+{
+    CZoButton box;
+    Make(box, L"", BS_AUTO3STATE, RECT{10, 10, 110, 35});
+    const POINT at = {0, 5};
+    EXPECT_TRUE(SameArea(zotest::RenderClient(box.m_hWnd), at, StripCell(0, 0, Slot(0))));
+    box.SetCheck(BST_CHECKED);
+    EXPECT_TRUE(SameArea(zotest::RenderClient(box.m_hWnd), at, StripCell(0, 1, Slot(0))));
+    box.SetCheck(BST_INDETERMINATE);
+    EXPECT_TRUE(SameArea(zotest::RenderClient(box.m_hWnd), at, StripCell(0, 2, Slot(0))));
+    SendMessage(box.m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(3, 3));
+    EXPECT_TRUE(SameArea(zotest::RenderClient(box.m_hWnd), at, StripCell(1, 2, Slot(0))));
+    box.SetState(TRUE);
+    EXPECT_TRUE(SameArea(zotest::RenderClient(box.m_hWnd), at, StripCell(2, 2, Slot(0))));
+    box.SetState(FALSE);
+    box.EnableWindow(FALSE);
+    EXPECT_TRUE(SameArea(zotest::RenderClient(box.m_hWnd), at, StripCell(3, 2, Slot(0))));
+}
+
+TEST_F(ButtonPaintTest, RadioCellsAndBoxOnTheRight)
+{
+    CZoButton radio;
+    Make(radio, L"", BS_AUTORADIOBUTTON | BS_LEFTTEXT | BS_TOP, RECT{10, 10, 110, 35});
+    EXPECT_TRUE(SameArea(zotest::RenderClient(radio.m_hWnd), POINT{85, 0}, StripCell(0, 3, Slot(0))));
+    radio.SetCheck(BST_CHECKED);
+    EXPECT_TRUE(SameArea(zotest::RenderClient(radio.m_hWnd), POINT{85, 0}, StripCell(0, 4, Slot(0))));
+}
+
+TEST_F(ButtonPaintTest, CheckTextBesideTheBoxInStateSlot)
+{
+    CZoButton box;
+    Make(box, L"MMMM", BS_AUTOCHECKBOX, RECT{10, 10, 160, 35});
+    const zotest::Dib dib = zotest::RenderClient(box.m_hWnd);
+    const RECT text = zotest::BoundsOfDifferences(dib.Crop(RECT{15, 0, 150, 25}), Slot(0));
+    EXPECT_GE(text.left, 3);
+    EXPECT_LT(text.left, 8);
+    EXPECT_GT(buttontest::CountPixels(dib, Slot(9)), 0);
+    box.EnableWindow(FALSE);
+    EXPECT_GT(buttontest::CountPixels(zotest::RenderClient(box.m_hWnd), Slot(12)), 0);
+}
+
+TEST_F(ButtonPaintTest, FocusRectangleOnCheckBoxNotOnPushButton)
+{
+    CZoButton box, push;
+    Make(box, L"Focus", BS_AUTOCHECKBOX, RECT{10, 10, 160, 35});
+    Make(push, L"Focus", BS_PUSHBUTTON, RECT{10, 50, 160, 75});
+    const zotest::Dib boxBefore = zotest::RenderClient(box.m_hWnd);
+    const zotest::Dib pushBefore = zotest::RenderClient(push.m_hWnd);
+    box.SendMessage(BM_SETSTATE, FALSE, 0);
+    SetForegroundWindow(parent());
+    box.SetFocus();
+    ASSERT_TRUE(box.GetState() & BST_FOCUS);
+    const zotest::Dib boxAfter = zotest::RenderClient(box.m_hWnd);
+    push.SetFocus();
+    ASSERT_TRUE(push.GetState() & BST_FOCUS);
+    const zotest::Dib pushAfter = zotest::RenderClient(push.m_hWnd);
+    int boxChanged = 0;
+    for (int y = 0; y < 25; ++y)
+        for (int x = 0; x < 150; ++x)
+            boxChanged += boxBefore.Pixel(x, y) != boxAfter.Pixel(x, y);
+    EXPECT_GT(boxChanged, 10);
+    const RECT all = {0, 0, 150, 25};
+    EXPECT_TRUE(zotest::MatchesCell(pushAfter, POINT{0, 0}, pushBefore, all));
+}
+
+// --- Group boxes ----------------------------------------------------------------------------
+
+int GroupLineHeight()
+{
+    CFont* font = const_cast<CFont*>(
+        CZoThemeManager::GetInstance()->GetCacheGDIFont(ZoThemeFont_9, ZoMonitorSize_Normal));
+    HDC dc = CreateCompatibleDC(nullptr);
+    HGDIOBJ old = SelectObject(dc, font->GetSafeHandle());
+    SIZE size = {};
+    GetTextExtentPoint32W(dc, L"Hy", 2, &size);
+    SelectObject(dc, old);
+    DeleteDC(dc);
+    return size.cy;
+}
+
+TEST_F(ButtonPaintTest, GroupBoxFrameAndCaptionCut)
+{
+    CZoButton group;
+    Make(group, L"Group", BS_GROUPBOX, RECT{10, 10, 170, 90});
+    const zotest::Dib dib = zotest::RenderClient(group.m_hWnd);
+    const int top = GroupLineHeight() / 2 + 2;
+    // Outline (client less one pixel right and bottom) and the inner second line.
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, top, 1, 79}), Slot(49));
+    ZOTEST_EXPECT_FILL(dib, (RECT{1, top + 1, 2, 77}), Slot(49));
+    ZOTEST_EXPECT_FILL(dib, (RECT{158, top + 1, 160, 79}), Slot(49));
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 78, 159, 80}), Slot(49));
+    ZOTEST_EXPECT_FILL(dib, (RECT{100, top, 157, top + 2}), Slot(49));
+    // The caption starts at the indent with two blanks that cut the top line.
+    ZOTEST_EXPECT_FILL(dib, (RECT{7, top, 9, top + 2}), Slot(48));
+    ZOTEST_EXPECT_FILL(dib, (RECT{2, GroupLineHeight() + 2, 157, 77}), Slot(48));
+}
+
+TEST_F(ButtonPaintTest, GroupBoxCaptionPositions)
+{
+    CZoButton left, centred, right;
+    Make(left, L"Cap", BS_GROUPBOX, RECT{10, 10, 170, 60});
+    Make(centred, L"Cap", BS_GROUPBOX | BS_CENTER, RECT{10, 70, 170, 120});
+    Make(right, L"Cap", BS_GROUPBOX | BS_RIGHT, RECT{10, 130, 170, 180});
+    // The top line shows wherever the caption is not.
+    const zotest::Dib cd = zotest::RenderClient(centred.m_hWnd);
+    EXPECT_NE(cd.Pixel(80, GroupLineHeight() / 2 + 2), Slot(49));
+    EXPECT_EQ(cd.Pixel(20, GroupLineHeight() / 2 + 2), Slot(49));
+    EXPECT_EQ(cd.Pixel(140, GroupLineHeight() / 2 + 2), Slot(49));
+    const zotest::Dib ld = zotest::RenderClient(left.m_hWnd);
+    EXPECT_EQ(ld.Pixel(120, GroupLineHeight() / 2 + 2), Slot(49));
+    EXPECT_EQ(ld.Pixel(8, GroupLineHeight() / 2 + 2), Slot(48));
+    const zotest::Dib rd = zotest::RenderClient(right.m_hWnd);
+    EXPECT_EQ(rd.Pixel(30, GroupLineHeight() / 2 + 2), Slot(49));
+    EXPECT_EQ(rd.Pixel(150, GroupLineHeight() / 2 + 2), Slot(48));
+}
+
+TEST_F(ButtonPaintTest, UnknownKindsAreLeftToTheSystem)
+{
+    CZoButton owner;
+    Make(owner, L"", BS_OWNERDRAW);
+    zotest::MessageRecorder recorder;
+    ASSERT_TRUE(recorder.Watch(parent(), zotest::WindowRole::Parent));
+    zotest::RenderClient(owner.m_hWnd);
+    EXPECT_GE(recorder.Count(WM_DRAWITEM, zotest::WindowRole::Parent), 1u);
+    recorder.UnwatchAll();
+}
+
+} // namespace

@@ -3,4 +3,5 @@ list(APPEND ZO_CONTROL_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/ZoControlTheme.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ZoStatic.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ZoButton.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ZoButtonVariants.cpp
 )

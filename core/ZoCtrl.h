@@ -15,4 +15,7 @@
 #include "controls/ZoProgressCtrl.h"
 #include "controls/ZoSpinButtonCtrl.h"
 #include "controls/SeparatorWnd.h"
+#include "controls/ZoButton.h"
+#include "controls/ZoButtonVariants.h"
+#include "controls/ZoStatic.h"
 #include "frames/ZoMenuXP.h"

@@ -1,0 +1,178 @@
+// CZoFlatButton, CZoToggleButton, CZoButton4MsgBox: margins, focus cues, the toggle's face
+// behind its box, and the message-box button's kind.
+#include "button_test_support.h"
+
+#include "controls/ZoButtonVariants.h"
+
+using namespace ZoControls;
+using buttontest::Slot;
+
+namespace {
+
+class VariantTest : public buttontest::ControlTest
+{
+protected:
+    void Make(CZoButton& button, const wchar_t* text, DWORD style, const RECT& rect = RECT{10, 10, 110, 35})
+    {
+        ASSERT_TRUE(button.Create(text, WS_CHILD | WS_VISIBLE | style, rect, parentWnd(), 500));
+    }
+
+    static RECT Margins(const CButton& button)
+    {
+        RECT margin = {-1, -1, -1, -1};
+        button.SendMessage(BCM_GETTEXTMARGIN, 0, reinterpret_cast<LPARAM>(&margin));
+        return margin;
+    }
+
+    static int Differences(const zotest::Dib& a, const zotest::Dib& b)
+    {
+        int count = 0;
+        for (int y = 0; y < a.height(); ++y)
+            for (int x = 0; x < a.width(); ++x)
+                count += a.Pixel(x, y) != b.Pixel(x, y);
+        return count;
+    }
+};
+
+TEST_F(VariantTest, FlatLinesBeforeInit)
+{
+    CZoFlatButton flat;
+    EXPECT_EQ(flat.GetLineColor(LINE_LEFT, BS_ZO_NORMAL), Slot(18));
+    EXPECT_EQ(flat.GetLineColor(LINE_BOTTOM, BS_ZO_DISABLED), Slot(18));
+    EXPECT_EQ(flat.GetLineColor(LINE_TOP, BS_ZO_HOT), Slot(19));
+    EXPECT_EQ(flat.GetLineColor(LINE_RIGHT, BS_ZO_PRESSED), Slot(20));
+    // The font-role constructor sets nothing up.
+    CZoFlatButton withFont(ZoThemeFont_3);
+    EXPECT_EQ(withFont.GetLineColor(LINE_LEFT, BS_ZO_NORMAL), ZO_LINE_NOT_DRAWN);
+}
+
+TEST_F(VariantTest, FlatPushTextInsetByThreePixels)
+{
+    zotest::ScopedCommonControls6 v6;
+    // BCM_SETTEXTMARGIN is a version 6 button message.
+    if (!v6.active())
+        GTEST_SKIP() << "no comctl32 version 6";
+    CZoFlatButton flat;
+    Make(flat, L"MM", BS_PUSHBUTTON | BS_LEFT | BS_TOP);
+    const RECT m = Margins(flat);
+    EXPECT_EQ(m.left, 3);
+    EXPECT_EQ(m.top, 3);
+    EXPECT_EQ(m.right, 3);
+    EXPECT_EQ(m.bottom, 3);
+    const zotest::Dib dib = zotest::RenderClient(flat.m_hWnd);
+    const RECT ink = zotest::BoundsOfDifferences(dib.Crop(RECT{1, 1, 99, 24}), Slot(13));
+    EXPECT_GE(ink.left + 1, 3);
+    EXPECT_LE(ink.left + 1, 5);
+    EXPECT_GE(ink.top + 1, 3);
+}
+
+TEST_F(VariantTest, FlatAndToggleNeverShowFocus)
+{
+    CZoFlatButton flat;
+    CZoToggleButton toggle;
+    Make(flat, L"Flat", BS_PUSHBUTTON);
+    Make(toggle, L"Toggle", BS_AUTOCHECKBOX, RECT{10, 50, 110, 75});
+    const zotest::Dib flatBefore = zotest::RenderClient(flat.m_hWnd);
+    const zotest::Dib toggleBefore = zotest::RenderClient(toggle.m_hWnd);
+    SetForegroundWindow(parent());
+    flat.SetFocus();
+    ASSERT_TRUE(flat.GetState() & BST_FOCUS);
+    EXPECT_EQ(Differences(flatBefore, zotest::RenderClient(flat.m_hWnd)), 0);
+    toggle.SetFocus();
+    ASSERT_TRUE(toggle.GetState() & BST_FOCUS);
+    EXPECT_EQ(Differences(toggleBefore, zotest::RenderClient(toggle.m_hWnd)), 0);
+}
+
+TEST_F(VariantTest, ToggleFaceFollowsCheckHoverAndEnable)
+{
+    CZoToggleButton toggle;
+    Make(toggle, L"", BS_AUTOCHECKBOX);
+    // Corner pixels inside the face, away from the box on the left.
+    EXPECT_EQ(zotest::RenderClient(toggle.m_hWnd).Pixel(90, 3), Slot(13));
+    EXPECT_EQ(zotest::RenderClient(toggle.m_hWnd).Pixel(0, 0), Slot(18));
+    toggle.SetCheck(BST_CHECKED);
+    EXPECT_EQ(zotest::RenderClient(toggle.m_hWnd).Pixel(90, 3), Slot(15));
+    EXPECT_EQ(zotest::RenderClient(toggle.m_hWnd).Pixel(99, 24), Slot(20));
+    toggle.SetCheck(BST_UNCHECKED);
+    SendMessage(toggle.m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(3, 3));
+    EXPECT_EQ(zotest::RenderClient(toggle.m_hWnd).Pixel(90, 3), Slot(14));
+    toggle.SetCheck(BST_CHECKED);
+    toggle.EnableWindow(FALSE);
+    EXPECT_EQ(zotest::RenderClient(toggle.m_hWnd).Pixel(90, 3), Slot(17));
+}
+
+TEST_F(VariantTest, ToggleKeepsTheSystemMargins)
+{
+    zotest::ScopedCommonControls6 v6;
+    CZoButton plain;
+    CZoToggleButton toggle;
+    Make(plain, L"", BS_AUTOCHECKBOX);
+    Make(toggle, L"", BS_AUTOCHECKBOX, RECT{10, 50, 110, 75});
+    const RECT a = Margins(plain);
+    const RECT b = Margins(toggle);
+    EXPECT_TRUE(EqualRect(&a, &b));
+}
+
+TEST_F(VariantTest, MsgBoxButtonKindSetBeforeCreation)
+{
+    CZoButton4MsgBox def, plain;
+    EXPECT_TRUE(def.SetAsDefault(true));
+    EXPECT_TRUE(plain.SetAsDefault(false));
+    Make(def, L"OK", BS_AUTOCHECKBOX | BS_LEFTTEXT);
+    Make(plain, L"Cancel", BS_DEFPUSHBUTTON, RECT{120, 10, 200, 35});
+    EXPECT_EQ(def.GetStyle() & BS_TYPEMASK, static_cast<DWORD>(BS_DEFPUSHBUTTON));
+    EXPECT_EQ(plain.GetStyle() & BS_TYPEMASK, static_cast<DWORD>(BS_PUSHBUTTON));
+    // Painted as push buttons.
+    EXPECT_EQ(zotest::RenderClient(def.m_hWnd).Pixel(0, 0), Slot(18));
+}
+
+TEST_F(VariantTest, MsgBoxButtonKindAfterCreationIsRefused)
+{
+    CZoButton4MsgBox button;
+    Make(button, L"Yes", BS_PUSHBUTTON);
+    EXPECT_FALSE(button.SetAsDefault(true));
+    button.DestroyWindow();
+    Make(button, L"Yes", BS_PUSHBUTTON);
+    EXPECT_EQ(button.GetStyle() & BS_TYPEMASK, static_cast<DWORD>(BS_PUSHBUTTON));
+}
+
+TEST(VariantRules, MsgBoxStyleKeepsBitsEightToFifteen)
+{
+    EXPECT_EQ(ZoMsgBoxButtonStyle(BS_AUTOCHECKBOX | BS_LEFTTEXT | BS_MULTILINE, true),
+              static_cast<DWORD>(BS_DEFPUSHBUTTON | BS_MULTILINE));
+    EXPECT_EQ(ZoMsgBoxButtonStyle(WS_CHILD | BS_DEFPUSHBUTTON | BS_CENTER, false), static_cast<DWORD>(BS_CENTER));
+}
+
+TEST(VariantClasses, RunTimeClasses)
+{
+    CZoFlatButton flat;
+    CZoToggleButton toggle;
+    EXPECT_STREQ(flat.GetRuntimeClass()->m_lpszClassName, "CZoFlatButton");
+    EXPECT_STREQ(toggle.GetRuntimeClass()->m_lpszClassName, "CZoToggleButton");
+    EXPECT_TRUE(toggle.IsKindOf(RUNTIME_CLASS(CZoFlatButton)));
+    EXPECT_TRUE(flat.IsKindOf(RUNTIME_CLASS(CZoButton)));
+    CZoButton4MsgBox box;
+    EXPECT_STREQ(box.GetRuntimeClass()->m_lpszClassName, "CZoButton");
+}
+
+TEST_F(VariantTest, NoGdiGrowthOverCreatePaintDestroyCycles)
+{
+    CWnd* host = parentWnd();
+    ZOTEST_EXPECT_NO_LEAKS(1000, [host]() {
+        CZoFlatButton flat;
+        flat.Create(L"Flat", WS_CHILD | WS_VISIBLE | BS_PUSHBUTTON, CRect(5, 5, 105, 30), host, 501);
+        zotest::RenderClient(flat.m_hWnd);
+        flat.DestroyWindow();
+        CZoToggleButton toggle;
+        toggle.Create(L"Toggle", WS_CHILD | WS_VISIBLE | BS_AUTOCHECKBOX, CRect(5, 5, 105, 30), host, 502);
+        zotest::RenderClient(toggle.m_hWnd);
+        toggle.DestroyWindow();
+        CZoButton4MsgBox box;
+        box.SetAsDefault(true);
+        box.Create(L"OK", WS_CHILD | WS_VISIBLE | BS_PUSHBUTTON, CRect(5, 5, 105, 30), host, 503);
+        zotest::RenderClient(box.m_hWnd);
+        box.DestroyWindow();
+    }, zotest::count_gdi);
+}
+
+} // namespace

@@ -44,5 +44,22 @@ function(zo_add_test_executable name)
   zo_windows_executable(${name})
   target_link_libraries(${name} PRIVATE zotest_support gtest)
   add_test(NAME ${name} COMMAND ${name} --gtest_color=no)
-  set_tests_properties(${name} PROPERTIES TIMEOUT 600)
+  set_tests_properties(${name} PROPERTIES TIMEOUT 1500)
+endfunction()
+
+# Includes every <family>.cmake beside the calling CMakeLists.txt. Each family appends its
+# sources to a list of the caller's, so families are added without editing a shared list.
+macro(zo_include_families)
+  file(GLOB _zo_families CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cmake)
+  foreach(_zo_family IN LISTS _zo_families)
+    include(${_zo_family})
+  endforeach()
+endmacro()
+
+# A subsystem's test executable, built from the test sources its families listed.
+function(zo_add_library_tests name)
+  if(ARGN AND TARGET ZoCtrl)
+    zo_add_test_executable(${name} ${ARGN})
+    target_link_libraries(${name} PRIVATE ZoCtrl $<$<NOT:$<BOOL:${MSVC}>>:zoafx> gdiplus comctl32)
+  endif()
 endfunction()

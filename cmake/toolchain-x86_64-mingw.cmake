@@ -1,13 +1,4 @@
-# Cross-compiling for 64-bit Windows with MinGW-w64 (the posix-threads variant:
-# the win32 one lacks std::thread and std::mutex).
-set(CMAKE_SYSTEM_NAME Windows)
-set(CMAKE_SYSTEM_PROCESSOR AMD64)
+# 64-bit Windows.
 set(ZO_MINGW_TRIPLE x86_64-w64-mingw32)
-set(CMAKE_C_COMPILER   ${ZO_MINGW_TRIPLE}-gcc-posix)
-set(CMAKE_CXX_COMPILER ${ZO_MINGW_TRIPLE}-g++-posix)
-set(CMAKE_RC_COMPILER  ${ZO_MINGW_TRIPLE}-windres)
-set(CMAKE_FIND_ROOT_PATH /usr/${ZO_MINGW_TRIPLE})
-set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
-set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
-set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/../tools/wine-run)
+set(CMAKE_SYSTEM_PROCESSOR AMD64)
+include(${CMAKE_CURRENT_LIST_DIR}/toolchain-mingw-common.cmake)

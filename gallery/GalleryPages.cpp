@@ -3,6 +3,7 @@
 
 #include "GalleryPage.h"
 #include "MenusPage.h"
+#include "ScrollingPage.h"
 #include "SkinsPage.h"
 #include "ThemePage.h"
 
@@ -13,6 +14,7 @@ const GalleryPageEntry kPages[] = {
     {L"Skins 3M", &CreateGalleryPage<CSkins3MPage>},
     {L"Skins 5M", &CreateGalleryPage<CSkins5MPage>},
     {L"Menus", &CreateGalleryPage<CMenusPage>},
+    {L"Scrolling", &CreateGalleryPage<CScrollingPage>},
 };
 } // namespace
 

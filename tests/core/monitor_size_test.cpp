@@ -57,68 +57,34 @@ E_ZoMonitorSize PrimaryMonitorClass()
 
 } // namespace
 
-TEST(ThemeQuery, PlainParentLeavesThemeZero)
+// A container and a static child in it; `plainParent` holds the child under a window that
+// answers nothing instead.
+class QueryTest : public testing::Test
 {
-    zotest::ScopedWindow parent(zotest::CreateSolidWindow(RECT{0, 0, 200, 100}, RGB(1, 2, 3)));
+protected:
+    void TearDown() override
+    {
+        if (::IsWindow(container.GetSafeHwnd()))
+            container.DestroyWindow();
+    }
+    void CreateChildOfContainer()
+    {
+        ASSERT_TRUE(CreateContainer(container));
+        ASSERT_TRUE(CreateChildStatic(child, &container));
+    }
+    void CreateChildOfPlainParent()
+    {
+        ASSERT_TRUE(CreateChildStatic(child, CWnd::FromHandle(plainParent)));
+    }
+    zotest::ScopedWindow plainParent{zotest::CreateSolidWindow(RECT{0, 0, 200, 100}, RGB(1, 2, 3))};
+    AnsweringContainer container;
     CWnd child;
-    ASSERT_TRUE(CreateChildStatic(child, CWnd::FromHandle(parent)));
+};
+
+TEST_F(QueryTest, PlainParentLeavesThemeZeroAndMeasuresTheMonitor)
+{
+    ASSERT_NO_FATAL_FAILURE(CreateChildOfPlainParent());
     EXPECT_EQ(ZoGetCurrentThemeIndex(&child), ZoTheme_Default);
-    child.DestroyWindow();
-}
-
-TEST(ThemeQuery, ContainerAnswersItsTheme)
-{
-    AnsweringContainer container;
-    container.SetZoTheme(ZoTheme_2);
-    ASSERT_TRUE(CreateContainer(container));
-    CWnd child;
-    ASSERT_TRUE(CreateChildStatic(child, &container));
-    EXPECT_EQ(ZoGetCurrentThemeIndex(&child), ZoTheme_2);
-    container.DestroyWindow();
-}
-
-TEST(ThemeQuery, WindowWithoutParentOrWindowAtAllGivesThemeZero)
-{
-    AnsweringContainer top;
-    top.SetZoTheme(ZoTheme_1);
-    ASSERT_TRUE(CreateContainer(top));
-    EXPECT_EQ(ZoGetCurrentThemeIndex(&top), ZoTheme_Default); // asks the parent, and there is none
-    EXPECT_EQ(ZoGetCurrentThemeIndex(nullptr), ZoTheme_Default);
-    top.DestroyWindow();
-    EXPECT_EQ(ZoGetCurrentThemeIndex(&top), ZoTheme_Default);
-}
-
-TEST(MonitorQuery, ParentAnswerWins)
-{
-    AnsweringContainer container;
-    ASSERT_TRUE(CreateContainer(container));
-    container.SetZoMonitorSize(ZoMonitorSize_5M);
-    CWnd child;
-    ASSERT_TRUE(CreateChildStatic(child, &container));
-    EXPECT_EQ(ZoGetCurrentMonitorSize(&child, false), ZoMonitorSize_5M);
-    container.SetZoMonitorSize(ZoMonitorSize_3M);
-    EXPECT_EQ(ZoGetCurrentMonitorSize(&child, false), ZoMonitorSize_3M);
-    container.DestroyWindow();
-}
-
-TEST(MonitorQuery, AskSelfAsksTheWindowItself)
-{
-    AnsweringContainer outer;
-    ASSERT_TRUE(CreateContainer(outer));
-    outer.SetZoMonitorSize(ZoMonitorSize_3M);
-    AnsweringContainer inner;
-    ASSERT_TRUE(CreateContainer(inner, &outer));
-    inner.SetZoMonitorSize(ZoMonitorSize_5M);
-    EXPECT_EQ(ZoGetCurrentMonitorSize(&inner, true), ZoMonitorSize_5M);
-    EXPECT_EQ(ZoGetCurrentMonitorSize(&inner, false), ZoMonitorSize_3M);
-    outer.DestroyWindow();
-}
-
-TEST(MonitorQuery, UnansweredQueryMeasuresTheMonitor)
-{
-    zotest::ScopedWindow parent(zotest::CreateSolidWindow(RECT{0, 0, 200, 100}, RGB(1, 2, 3)));
-    CWnd child;
-    ASSERT_TRUE(CreateChildStatic(child, CWnd::FromHandle(parent)));
     EXPECT_EQ(ZoGetCurrentMonitorSize(&child, false), PrimaryMonitorClass());
     EXPECT_EQ(ZoGetCurrentMonitorSize(&child, true), PrimaryMonitorClass());
     EXPECT_EQ(ZoGetCurrentMonitorSize(nullptr, false), PrimaryMonitorClass());
@@ -126,14 +92,39 @@ TEST(MonitorQuery, UnansweredQueryMeasuresTheMonitor)
     EXPECT_EQ(ZoGetCurrentMonitorSize(&child, false), PrimaryMonitorClass());
 }
 
-TEST(MonitorQuery, ContainerStillUndecidedCountsAsNoAnswer)
+TEST_F(QueryTest, ContainerAnswersItsThemeAndSizeClass)
 {
-    AnsweringContainer container;
-    ASSERT_TRUE(CreateContainer(container));
+    container.SetZoTheme(ZoTheme_2);
+    ASSERT_NO_FATAL_FAILURE(CreateChildOfContainer());
+    EXPECT_EQ(ZoGetCurrentThemeIndex(&child), ZoTheme_2);
+    container.SetZoMonitorSize(ZoMonitorSize_5M);
+    EXPECT_EQ(ZoGetCurrentMonitorSize(&child, false), ZoMonitorSize_5M);
+    container.SetZoMonitorSize(ZoMonitorSize_3M);
+    EXPECT_EQ(ZoGetCurrentMonitorSize(&child, false), ZoMonitorSize_3M);
+    // Still undecided counts as no answer.
     container.SetZoMonitorSize(ZoMonitorSize_Unknown);
-    CWnd child;
-    ASSERT_TRUE(CreateChildStatic(child, &container));
     EXPECT_EQ(ZoGetCurrentMonitorSize(&child, false), PrimaryMonitorClass());
+}
+
+TEST_F(QueryTest, WindowWithoutParentOrWindowAtAllGivesThemeZero)
+{
+    container.SetZoTheme(ZoTheme_1);
+    ASSERT_TRUE(CreateContainer(container));
+    EXPECT_EQ(ZoGetCurrentThemeIndex(&container), ZoTheme_Default); // asks the parent, and there is none
+    EXPECT_EQ(ZoGetCurrentThemeIndex(nullptr), ZoTheme_Default);
+    container.DestroyWindow();
+    EXPECT_EQ(ZoGetCurrentThemeIndex(&container), ZoTheme_Default);
+}
+
+TEST_F(QueryTest, AskSelfAsksTheWindowItself)
+{
+    ASSERT_TRUE(CreateContainer(container));
+    container.SetZoMonitorSize(ZoMonitorSize_3M);
+    AnsweringContainer inner;
+    ASSERT_TRUE(CreateContainer(inner, &container));
+    inner.SetZoMonitorSize(ZoMonitorSize_5M);
+    EXPECT_EQ(ZoGetCurrentMonitorSize(&inner, true), ZoMonitorSize_5M);
+    EXPECT_EQ(ZoGetCurrentMonitorSize(&inner, false), ZoMonitorSize_3M);
     container.DestroyWindow();
 }
 

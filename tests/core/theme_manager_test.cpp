@@ -79,107 +79,71 @@ TEST(ThemeManagerLifetime, RepeatedStartAndEndLeaksNoGdiObjects)
     }, zotest::count_gdi);
 }
 
-TEST(ThemeColors, EverySlotHasItsTableColour)
+class ThemeManagerTest : public testing::Test
 {
+protected:
+    void SetUp() override { ASSERT_NE(manager, nullptr); }
     ScopedZoCtrl library;
     const CZoThemeManager* manager = CZoThemeManager::GetInstance();
-    ASSERT_NE(manager, nullptr);
-    for (int slot = 0; slot < 130; ++slot)
-        EXPECT_EQ(manager->GetGDIColor(Slot(slot), ZoTheme_Default), kExpectedSlots[slot]) << "slot " << slot;
+};
+
+TEST_F(ThemeManagerTest, EverySlotHasItsTableColourWhateverTheTheme)
+{
+    for (E_ZoTheme theme : {ZoTheme_Default, ZoTheme_1, ZoTheme_2, static_cast<E_ZoTheme>(77)})
+        for (int slot = 0; slot < 130; ++slot) {
+            SCOPED_TRACE(testing::Message() << "theme " << theme << " slot " << slot);
+            EXPECT_EQ(manager->GetGDIColor(Slot(slot), theme), kExpectedSlots[slot]);
+            const Gdiplus::Color color = manager->GetGDIPlusColor(Slot(slot), theme);
+            EXPECT_EQ(color.GetA(), 0xFF);
+            EXPECT_EQ(color.ToCOLORREF(), kExpectedSlots[slot]);
+        }
 }
 
-TEST(ThemeColors, ThemeArgumentIsIgnored)
+TEST_F(ThemeManagerTest, SlotsOutsideTheTableGiveBlack)
 {
-    ScopedZoCtrl library;
-    const CZoThemeManager* manager = CZoThemeManager::GetInstance();
-    ASSERT_NE(manager, nullptr);
-    for (int slot = 0; slot < 130; ++slot) {
-        EXPECT_EQ(manager->GetGDIColor(Slot(slot), ZoTheme_1), kExpectedSlots[slot]) << "slot " << slot;
-        EXPECT_EQ(manager->GetGDIColor(Slot(slot), ZoTheme_2), kExpectedSlots[slot]) << "slot " << slot;
-        EXPECT_EQ(manager->GetGDIColor(Slot(slot), static_cast<E_ZoTheme>(77)), kExpectedSlots[slot]);
-    }
-    EXPECT_EQ(manager->GetGDIColor(Slot(129), ZoTheme_2), 0x000000FFu);
-    EXPECT_EQ(manager->GetGDIColor(Slot(5), ZoTheme_1), 0x00E7D3D1u);
-}
-
-TEST(ThemeColors, GdiplusColourIsTheOpaqueArgbOfTheSlot)
-{
-    ScopedZoCtrl library;
-    const CZoThemeManager* manager = CZoThemeManager::GetInstance();
-    ASSERT_NE(manager, nullptr);
-    for (int slot = 0; slot < 130; ++slot) {
-        const Gdiplus::Color color = manager->GetGDIPlusColor(Slot(slot), ZoTheme_2);
-        EXPECT_EQ(color.GetA(), 0xFF) << "slot " << slot;
-        EXPECT_EQ(color.ToCOLORREF(), kExpectedSlots[slot]) << "slot " << slot;
-    }
-    EXPECT_EQ(manager->GetGDIPlusColor(Slot(129), ZoTheme_Default).GetValue(), 0xFFFF0000u);
-}
-
-TEST(ThemeColors, SlotsOutsideTheTableGiveBlack)
-{
-    ScopedZoCtrl library;
-    const CZoThemeManager* manager = CZoThemeManager::GetInstance();
-    ASSERT_NE(manager, nullptr);
     EXPECT_EQ(manager->GetGDIColor(Slot(-1), ZoTheme_Default), 0u);
     EXPECT_EQ(manager->GetGDIColor(Slot(130), ZoTheme_Default), 0u);
     EXPECT_EQ(manager->GetGDIPlusColor(Slot(5000), ZoTheme_Default).GetValue(), 0xFF000000u);
 }
 
-TEST(ThemeZoom, FactorPerSizeClassIncludingUnknown)
+TEST_F(ThemeManagerTest, ZoomFactorPerSizeClassIncludingUnknown)
 {
-    ScopedZoCtrl library;
-    const CZoThemeManager* manager = CZoThemeManager::GetInstance();
-    ASSERT_NE(manager, nullptr);
-    EXPECT_FLOAT_EQ(manager->GetZoomFactor(ZoMonitorSize_Normal), 1.0f);
-    EXPECT_FLOAT_EQ(manager->GetZoomFactor(ZoMonitorSize_3M), 1.2f);
-    EXPECT_FLOAT_EQ(manager->GetZoomFactor(ZoMonitorSize_5M), 1.6f);
-    EXPECT_FLOAT_EQ(manager->GetZoomFactor(ZoMonitorSize_Unknown), 1.0f);
-    EXPECT_FLOAT_EQ(manager->GetZoomFactor(static_cast<E_ZoMonitorSize>(9)), 1.0f);
+    const float expected[] = {1.0f, 1.2f, 1.6f};
+    for (int size = -1; size < 10; ++size)
+        EXPECT_FLOAT_EQ(manager->GetZoomFactor(static_cast<E_ZoMonitorSize>(size)),
+                        size >= 0 && size < 3 ? expected[size] : 1.0f) << size;
 }
 
-TEST(ThemeFonts, EveryRoleAndSizeClassHasTheTableHeightAndStyle)
+TEST_F(ThemeManagerTest, EveryRoleAndSizeClassHasTheTableHeightAndStyle)
 {
-    ScopedZoCtrl library;
     for (int role = 0; role < 14; ++role) {
         const FontRow& row = kExpectedFonts[role];
         for (int size = 0; size < 3; ++size) {
+            SCOPED_TRACE(testing::Message() << "role " << role << " size class " << size);
             const LOGFONTW font = coretest::CachedLogFont(role, size);
-            EXPECT_EQ(font.lfHeight, -row.heights[size]) << "role " << role << " size class " << size;
-            EXPECT_EQ(font.lfWeight, row.bold ? FW_BOLD : FW_NORMAL) << "role " << role;
-            EXPECT_EQ(font.lfItalic, 0) << "role " << role;
-            EXPECT_EQ(font.lfEscapement, row.escapement) << "role " << role;
+            EXPECT_EQ(font.lfHeight, -row.heights[size]);
+            EXPECT_EQ(font.lfWeight, row.bold ? FW_BOLD : FW_NORMAL);
+            EXPECT_EQ(font.lfItalic, 0);
+            EXPECT_EQ(font.lfEscapement, row.escapement);
             EXPECT_EQ(font.lfCharSet, DEFAULT_CHARSET);
             EXPECT_EQ(font.lfQuality, PROOF_QUALITY);
-            EXPECT_EQ(std::wstring(font.lfFaceName), coretest::ExpectedFace(row.face)) << "role " << role;
+            EXPECT_EQ(std::wstring(font.lfFaceName), coretest::ExpectedFace(row.face));
         }
     }
 }
 
-TEST(ThemeFonts, EachCacheSlotIsItsOwnFont)
+TEST_F(ThemeManagerTest, EachCacheSlotIsItsOwnFontAndOutsideTheCacheThereIsNone)
 {
-    ScopedZoCtrl library;
-    const CZoThemeManager* manager = CZoThemeManager::GetInstance();
-    ASSERT_NE(manager, nullptr);
     const CFont* first = manager->GetCacheGDIFont(ZoThemeFont_0, ZoMonitorSize_Normal);
     ASSERT_NE(first, nullptr);
     EXPECT_NE(first, manager->GetCacheGDIFont(ZoThemeFont_0, ZoMonitorSize_3M));
     EXPECT_NE(first->GetSafeHandle(), manager->GetCacheGDIFont(ZoThemeFont_8, ZoMonitorSize_Normal)->GetSafeHandle());
-}
-
-TEST(ThemeFonts, RolesAndSizesOutsideTheCacheGiveNoFont)
-{
-    ScopedZoCtrl library;
-    const CZoThemeManager* manager = CZoThemeManager::GetInstance();
-    ASSERT_NE(manager, nullptr);
     EXPECT_EQ(manager->GetCacheGDIFont(static_cast<E_ZoThemeFont>(14), ZoMonitorSize_Normal), nullptr);
     EXPECT_EQ(manager->GetCacheGDIFont(ZoThemeFont_0, ZoMonitorSize_Unknown), nullptr);
     EXPECT_EQ(manager->GetCacheGDIFont(ZoThemeFont_0, static_cast<E_ZoMonitorSize>(3)), nullptr);
 }
 
-TEST(ThemeFonts, FontNameIsTheDefaultFaceOrItsReplacement)
+TEST_F(ThemeManagerTest, FontNameIsTheDefaultFaceOrItsReplacement)
 {
-    ScopedZoCtrl library;
-    const CZoThemeManager* manager = CZoThemeManager::GetInstance();
-    ASSERT_NE(manager, nullptr);
     EXPECT_EQ(std::wstring(manager->GetFontName()), coretest::ExpectedFace(L"Segoe UI"));
 }

@@ -48,39 +48,27 @@ protected:
 
 TEST_F(MenuCharTest, LetterExecutesTheMarkedItem)
 {
-    EXPECT_EQ(CMenuXP::OnMenuChar(menu, L'o', MF_POPUP), MAKELRESULT(0, MNC_EXECUTE));
-    EXPECT_EQ(CMenuXP::OnMenuChar(menu, L'A', MF_POPUP), MAKELRESULT(3, MNC_EXECUTE));
-    EXPECT_EQ(CMenuXP::OnMenuChar(menu, L'e', 0), MAKELRESULT(5, MNC_EXECUTE));
-}
-
-TEST_F(MenuCharTest, SubmenuItemsKeepTheirTexts)
-{
-    EXPECT_EQ(CMenuXP::OnMenuChar(menu, L'r', MF_POPUP), MAKELRESULT(6, MNC_EXECUTE));
-}
-
-TEST_F(MenuCharTest, FirstMatchingItemWins)
-{
-    EXPECT_EQ(CMenuXP::OnMenuChar(menu, L'd', MF_POPUP), MAKELRESULT(4, MNC_EXECUTE));
-}
-
-TEST_F(MenuCharTest, DoubledAmpersandMarksNothing)
-{
-    // "R&&D notes" shows "R&D notes": D is no mnemonic there, but "&Delete" has it.
-    EXPECT_EQ(CMenuXP::OnMenuChar(menu, L'd', MF_POPUP), MAKELRESULT(4, MNC_EXECUTE));
+    const struct {
+        wchar_t ch;
+        UINT flags;
+        LRESULT expected;
+    } cases[] = {
+        {L'o', MF_POPUP, MAKELRESULT(0, MNC_EXECUTE)},
+        {L'A', MF_POPUP, MAKELRESULT(3, MNC_EXECUTE)},
+        {L'e', 0, MAKELRESULT(5, MNC_EXECUTE)},
+        {L'r', MF_POPUP, MAKELRESULT(6, MNC_EXECUTE)}, // a submenu item keeps its text
+        {L'd', MF_POPUP, MAKELRESULT(4, MNC_EXECUTE)}, // "R&&D notes" shows "R&D": no mnemonic there
+        {L'z', MF_POPUP, 0},
+        {L'o', MF_POPUP | MF_SYSMENU, 0}, // system menus are not answered
+        {L'o', MF_SYSMENU, 0},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(testing::Message() << static_cast<char>(c.ch) << " flags " << c.flags);
+        EXPECT_EQ(CMenuXP::OnMenuChar(menu, c.ch, c.flags), c.expected);
+    }
+    EXPECT_EQ(CMenuXP::OnMenuChar(nullptr, L'o', MF_POPUP), 0);
     ::DeleteMenu(menu, 4, MF_BYPOSITION);
     EXPECT_EQ(CMenuXP::OnMenuChar(menu, L'd', MF_POPUP), 0);
-}
-
-TEST_F(MenuCharTest, NoMatchGivesZero)
-{
-    EXPECT_EQ(CMenuXP::OnMenuChar(menu, L'z', MF_POPUP), 0);
-    EXPECT_EQ(CMenuXP::OnMenuChar(nullptr, L'o', MF_POPUP), 0);
-}
-
-TEST_F(MenuCharTest, SystemMenusAndOtherFlagsAreNotAnswered)
-{
-    EXPECT_EQ(CMenuXP::OnMenuChar(menu, L'o', MF_POPUP | MF_SYSMENU), 0);
-    EXPECT_EQ(CMenuXP::OnMenuChar(menu, L'o', MF_SYSMENU), 0);
 }
 
 TEST_F(MenuCharTest, HostAnswersThroughItsMessageMap)

@@ -63,6 +63,19 @@ protected:
         return dib;
     }
 
+    // Draws the one item of a fresh menu bar ("File") or popup (`text`) instead of the fixture's menu.
+    zotest::Dib DrawOnlyItem(bool menuBar, const wchar_t* text, UINT state, int itemHeight)
+    {
+        HMENU other = menuBar ? ::CreateMenu() : ::CreatePopupMenu();
+        ::AppendMenuW(other, MF_STRING, 1, text);
+        CMenuXP::SetXPLookNFeel(&host, other, true, menuBar);
+        std::swap(other, menu);
+        zotest::Dib dib = Draw(0, state, itemHeight);
+        std::swap(other, menu);
+        ::DestroyMenu(other);
+        return dib;
+    }
+
     MenuHost host;
     HMENU menu = nullptr;
     int height = 0;
@@ -87,6 +100,25 @@ HIMAGELIST SolidImageList(COLORREF color)
     ::DeleteObject(bitmap);
     return list;
 }
+
+// A red image shown beside command `id` for the life of the object.
+class ScopedRedItemImage
+{
+public:
+    explicit ScopedRedItemImage(UINT id) : id_(id), images_(SolidImageList(kRed))
+    {
+        CMenuXP::SetMenuItemImage(id_, images_, 0);
+    }
+    ~ScopedRedItemImage()
+    {
+        CMenuXP::SetMenuItemImage(id_, nullptr, -1);
+        ImageList_Destroy(images_);
+    }
+
+private:
+    UINT id_;
+    HIMAGELIST images_;
+};
 
 int InkPixels(const zotest::Dib& dib, const RECT& area, COLORREF background)
 {
@@ -186,13 +218,7 @@ TEST_F(MenuDrawTest, DefaultItemIsBold)
     // Some Wine set-ups render a bold Tahoma with the regular face; nothing to compare there.
     if (BoldInk(FW_BOLD) == BoldInk(FW_NORMAL))
         GTEST_SKIP() << "bold and regular text look alike on this system";
-    const ItemSpec same[] = {{L"Properties", 1, MF_STRING}};
-    HMENU plain = BuildPopup(same);
-    CMenuXP::SetXPLookNFeel(&host, plain, true, false);
-    std::swap(plain, menu);
-    const zotest::Dib regular = Draw(0);
-    std::swap(plain, menu);
-    ::DestroyMenu(plain);
+    const zotest::Dib regular = DrawOnlyItem(false, L"Properties", 0, 0);
     const zotest::Dib bold = Draw(5);
     const RECT textArea = {22, 0, kWidth, height};
     const RECT regularBounds = zotest::BoundsOfDifferences(regular.Crop(textArea), Slot(68));
@@ -205,50 +231,35 @@ TEST_F(MenuDrawTest, DefaultItemIsBold)
 
 TEST_F(MenuDrawTest, ItemImageSitsAtThreePixels)
 {
-    HIMAGELIST images = SolidImageList(kRed);
-    CMenuXP::SetMenuItemImage(101, images, 0);
+    ScopedRedItemImage image(101);
     const zotest::Dib dib = Draw(0);
     ZOTEST_EXPECT_FILL(dib, (RECT{3, 3, 19, 19}), kRed);
     ZOTEST_EXPECT_PIXEL(dib, 2, 2, Slot(68));
     ZOTEST_EXPECT_PIXEL(dib, 19, 19, Slot(68));
-    CMenuXP::SetMenuItemImage(101, nullptr, -1);
-    ImageList_Destroy(images);
 }
 
 TEST_F(MenuDrawTest, SelectedImageIsLiftedOverItsShadow)
 {
-    HIMAGELIST images = SolidImageList(kRed);
-    CMenuXP::SetMenuItemImage(101, images, 0);
+    ScopedRedItemImage image(101);
     const zotest::Dib dib = Draw(0, ODS_SELECTED);
     ZOTEST_EXPECT_FILL(dib, (RECT{2, 2, 18, 18}), kRed);
     ZOTEST_EXPECT_PIXEL(dib, 19, 19, SelectedShadowColor());
     ZOTEST_EXPECT_PIXEL(dib, 3, 19, Slot(68));
-    CMenuXP::SetMenuItemImage(101, nullptr, -1);
-    ImageList_Destroy(images);
 }
 
 TEST_F(MenuDrawTest, DisabledImageIsAFlatSilhouette)
 {
-    HIMAGELIST images = SolidImageList(kRed);
-    CMenuXP::SetMenuItemImage(104, images, 0);
+    ScopedRedItemImage image(104);
     const zotest::Dib dib = Draw(4);
     ZOTEST_EXPECT_PIXEL(dib, 10, 10, DisabledGlyphColor());
     ZOTEST_EXPECT_PIXEL(dib, 3, 3, DisabledGlyphColor());
     ZOTEST_EXPECT_PIXEL(dib, 2, 2, Slot(68));
-    CMenuXP::SetMenuItemImage(104, nullptr, -1);
-    ImageList_Destroy(images);
 }
 
 TEST_F(MenuDrawTest, OpenMenuBarItemHasFrameFillAndShadow)
 {
-    HMENU bar = ::CreateMenu();
-    ::AppendMenuW(bar, MF_STRING, 1, L"File");
-    CMenuXP::SetXPLookNFeel(&host, bar, true, true);
-    std::swap(bar, menu);
     const int h = 20;
-    const zotest::Dib dib = Draw(0, ODS_SELECTED, h);
-    std::swap(bar, menu);
-    ::DestroyMenu(bar);
+    const zotest::Dib dib = DrawOnlyItem(true, L"File", ODS_SELECTED, h);
     const COLORREF edge = ::GetSysColor(COLOR_3DDKSHADOW);
     ZOTEST_EXPECT_PIXEL(dib, 0, 0, edge);
     ZOTEST_EXPECT_PIXEL(dib, kWidth - 5, h - 1, edge);
@@ -268,13 +279,7 @@ TEST_F(MenuDrawTest, OpenMenuBarItemHasFrameFillAndShadow)
 
 TEST_F(MenuDrawTest, MenuBarItemTextIsCentred)
 {
-    HMENU bar = ::CreateMenu();
-    ::AppendMenuW(bar, MF_STRING, 1, L"File");
-    CMenuXP::SetXPLookNFeel(&host, bar, true, true);
-    std::swap(bar, menu);
-    const zotest::Dib dib = Draw(0, 0, 20);
-    std::swap(bar, menu);
-    ::DestroyMenu(bar);
+    const zotest::Dib dib = DrawOnlyItem(true, L"File", 0, 20);
     const RECT text = zotest::BoundsOfDifferences(dib.Crop(RECT{22, 0, kWidth, 20}), Slot(68));
     ASSERT_FALSE(::IsRectEmpty(&text));
     const int centre = (text.left + text.right) / 2 + 22;
@@ -296,14 +301,11 @@ TEST_F(MenuDrawTest, OtherControlsAreLeftToTheCaller)
 
 TEST_F(MenuDrawTest, DrawingLeavesNoGdiObjectsBehind)
 {
-    HIMAGELIST images = SolidImageList(kRed);
-    CMenuXP::SetMenuItemImage(101, images, 0);
+    ScopedRedItemImage image(101);
     ZOTEST_EXPECT_NO_LEAKS(5, [&] {
         for (int position = 0; position < 6; ++position) {
             Draw(position);
             Draw(position, ODS_SELECTED);
         }
     }, zotest::count_gdi);
-    CMenuXP::SetMenuItemImage(101, nullptr, -1);
-    ImageList_Destroy(images);
 }

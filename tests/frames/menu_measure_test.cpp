@@ -12,6 +12,24 @@ using namespace menutest;
 
 namespace {
 
+const ItemSpec kFileMenu[] = {
+    {L"Open\tCtrl+O", 101, MF_STRING},
+    {L"Save everything", 102, MF_STRING},
+    {nullptr, 0, MF_SEPARATOR},
+    {L"Exit\tAlt+Shift+F4", 103, MF_STRING},
+};
+
+// What `window` answers to WM_MEASUREITEM for a menu item.
+MEASUREITEMSTRUCT Measure(CWnd& window, ULONG_PTR itemData, UINT itemID = 0)
+{
+    MEASUREITEMSTRUCT measure = {};
+    measure.CtlType = ODT_MENU;
+    measure.itemID = itemID;
+    measure.itemData = itemData;
+    window.SendMessage(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&measure));
+    return measure;
+}
+
 class MenuMeasureTest : public ThemeTest
 {
 protected:
@@ -28,23 +46,21 @@ protected:
         ThemeTest::TearDown();
     }
 
+    void MakeThemedFileMenu()
+    {
+        menu = BuildPopup(kFileMenu);
+        CMenuXP::SetXPLookNFeel(&host, menu, true, false);
+    }
+
     MenuHost host;
     HMENU menu = nullptr;
-};
-
-const ItemSpec kFileMenu[] = {
-    {L"Open\tCtrl+O", 101, MF_STRING},
-    {L"Save everything", 102, MF_STRING},
-    {nullptr, 0, MF_SEPARATOR},
-    {L"Exit\tAlt+Shift+F4", 103, MF_STRING},
 };
 
 } // namespace
 
 TEST_F(MenuMeasureTest, PopupItemsShareHeightWidestTextAndWidestAccelerator)
 {
-    menu = BuildPopup(kFileMenu);
-    CMenuXP::SetXPLookNFeel(&host, menu, true, false);
+    MakeThemedFileMenu();
     const int tmHeight = MenuFontHeight();
     ASSERT_GT(tmHeight, 0);
     const ULONG_PTR expected =
@@ -57,30 +73,21 @@ TEST_F(MenuMeasureTest, PopupItemsShareHeightWidestTextAndWidestAccelerator)
 
 TEST_F(MenuMeasureTest, SeparatorsAreHalfTheFontHigh)
 {
-    menu = BuildPopup(kFileMenu);
-    CMenuXP::SetXPLookNFeel(&host, menu, true, false);
+    MakeThemedFileMenu();
     const MENUITEMINFOW separator = ItemInfo(menu, 2);
     EXPECT_TRUE(separator.fType & MFT_OWNERDRAW);
     EXPECT_TRUE(separator.fType & MFT_SEPARATOR);
     EXPECT_EQ(separator.dwItemData, static_cast<ULONG_PTR>(MenuFontHeight() / 2 + 2));
 
-    MEASUREITEMSTRUCT measure = {};
-    measure.CtlType = ODT_MENU;
-    measure.itemData = separator.dwItemData;
-    host.SendMessage(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&measure));
+    const MEASUREITEMSTRUCT measure = Measure(host, separator.dwItemData);
     EXPECT_EQ(measure.itemWidth, 42u);
     EXPECT_EQ(measure.itemHeight, static_cast<UINT>(MenuFontHeight() / 2 + 2));
 }
 
 TEST_F(MenuMeasureTest, MeasuredWidthHoldsTextIconColumnAndAccelerators)
 {
-    menu = BuildPopup(kFileMenu);
-    CMenuXP::SetXPLookNFeel(&host, menu, true, false);
-    MEASUREITEMSTRUCT measure = {};
-    measure.CtlType = ODT_MENU;
-    measure.itemID = 101;
-    measure.itemData = ItemData(menu, 0);
-    host.SendMessage(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&measure));
+    MakeThemedFileMenu();
+    const MEASUREITEMSTRUCT measure = Measure(host, ItemData(menu, 0), 101);
     EXPECT_EQ(measure.itemWidth,
               static_cast<UINT>(MenuTextWidth(L"Save everything") + 42 + MenuTextWidth(L"Alt+Shift+F4")));
     EXPECT_EQ(measure.itemHeight, static_cast<UINT>((std::max)(MenuFontHeight() + 2, 16) + 4));
@@ -136,8 +143,7 @@ TEST_F(MenuMeasureTest, MenusAlreadyOwnerDrawnAreLeftAlone)
 
 TEST_F(MenuMeasureTest, SecondCallChangesNothing)
 {
-    menu = BuildPopup(kFileMenu);
-    CMenuXP::SetXPLookNFeel(&host, menu, true, false);
+    MakeThemedFileMenu();
     ULONG_PTR first[4];
     for (int i = 0; i < 4; ++i)
         first[i] = ItemData(menu, i);
@@ -216,10 +222,7 @@ TEST_F(MenuMeasureTest, ThemedWindowsOptInAndForwardTheirMenus)
     EXPECT_TRUE(CMenuXP::IsOwnerDrawn(menu));
     EXPECT_EQ(themed.SendMessage(WM_MENUCHAR, MAKEWPARAM(L'x', MF_POPUP), reinterpret_cast<LPARAM>(menu)),
               MAKELRESULT(1, MNC_EXECUTE));
-    MEASUREITEMSTRUCT measure = {};
-    measure.CtlType = ODT_MENU;
-    measure.itemData = ItemData(menu, 1);
-    themed.SendMessage(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&measure));
+    const MEASUREITEMSTRUCT measure = Measure(themed, ItemData(menu, 1));
     EXPECT_EQ(measure.itemHeight, static_cast<UINT>(ItemDataHeight(ItemData(menu, 1))));
     EXPECT_GT(measure.itemHeight, 0u);
     themed.DestroyWindow();

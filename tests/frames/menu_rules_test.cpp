@@ -97,44 +97,33 @@ TEST(MenuMnemonic, DoubledAmpersandIsLiteral)
 
 TEST(MenuOsClass, FromPlatformAndVersion)
 {
-    EXPECT_EQ(OsClassFromVersion(VER_PLATFORM_WIN32s, 3, 1), 1);
-    EXPECT_EQ(OsClassFromVersion(VER_PLATFORM_WIN32_WINDOWS, 4, 0), 2);
-    EXPECT_EQ(OsClassFromVersion(VER_PLATFORM_WIN32_WINDOWS, 4, 10), 3);
-    EXPECT_EQ(OsClassFromVersion(VER_PLATFORM_WIN32_WINDOWS, 4, 90), 4);
-    EXPECT_EQ(OsClassFromVersion(VER_PLATFORM_WIN32_NT, 4, 0), 6);
-    EXPECT_EQ(OsClassFromVersion(VER_PLATFORM_WIN32_NT, 5, 0), 7);
-    EXPECT_EQ(OsClassFromVersion(VER_PLATFORM_WIN32_NT, 5, 1), 8);
-    EXPECT_EQ(OsClassFromVersion(VER_PLATFORM_WIN32_NT, 5, 2), 5);
-    EXPECT_EQ(OsClassFromVersion(VER_PLATFORM_WIN32_NT, 6, 0), 9);
-    EXPECT_EQ(OsClassFromVersion(VER_PLATFORM_WIN32_NT, 6, 1), 9);
-    EXPECT_EQ(OsClassFromVersion(VER_PLATFORM_WIN32_NT, 6, 2), 11);
-    EXPECT_EQ(OsClassFromVersion(VER_PLATFORM_WIN32_NT, 6, 3), 11);
-    EXPECT_EQ(OsClassFromVersion(VER_PLATFORM_WIN32_NT, 6, 4), 5);
-    EXPECT_EQ(OsClassFromVersion(VER_PLATFORM_WIN32_NT, 10, 0), 12);
-    EXPECT_EQ(OsClassFromVersion(VER_PLATFORM_WIN32_NT, 3, 51), 5);
-    EXPECT_EQ(OsClassFromVersion(77, 6, 1), 0);
+    const DWORD w32s = VER_PLATFORM_WIN32s, w = VER_PLATFORM_WIN32_WINDOWS, nt = VER_PLATFORM_WIN32_NT;
+    const struct {
+        DWORD platform, major, minor;
+        int osClass;
+    } cases[] = {
+        {w32s, 3, 1, 1}, {w, 4, 0, 2},   {w, 4, 10, 3},  {w, 4, 90, 4},  {nt, 4, 0, 6},  {nt, 5, 0, 7},
+        {nt, 5, 1, 8},  {nt, 5, 2, 5},  {nt, 6, 0, 9},  {nt, 6, 1, 9},  {nt, 6, 2, 11}, {nt, 6, 3, 11},
+        {nt, 6, 4, 5},  {nt, 10, 0, 12}, {nt, 3, 51, 5}, {77, 6, 1, 0},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(OsClassFromVersion(c.platform, c.major, c.minor), c.osClass)
+            << c.platform << " " << c.major << "." << c.minor;
     EXPECT_GE(CMenuXP::GetOsClass(), 1);
 }
 
 TEST(MenuBarShadow, DarkensFourColumnsWithSoftCorners)
 {
-    // Outermost column (k = 0): rows 2 .. height - 3, all at 93 %.
-    EXPECT_EQ(MenuBarShadowPercent(0, 1, 20), 100);
-    EXPECT_EQ(MenuBarShadowPercent(0, 2, 20), 93);
-    EXPECT_EQ(MenuBarShadowPercent(0, 17, 20), 93);
-    EXPECT_EQ(MenuBarShadowPercent(0, 18, 20), 100);
-    // k = 1 starts at row 1; k = 3 at row 0 and ends earlier.
-    EXPECT_EQ(MenuBarShadowPercent(1, 0, 20), 100);
-    EXPECT_EQ(MenuBarShadowPercent(1, 1, 20), 93);
-    EXPECT_EQ(MenuBarShadowPercent(1, 2, 20), 88);
-    EXPECT_EQ(MenuBarShadowPercent(1, 5, 20), 88);
-    EXPECT_EQ(MenuBarShadowPercent(3, 0, 20), 93);
-    EXPECT_EQ(MenuBarShadowPercent(3, 1, 20), 88);
-    EXPECT_EQ(MenuBarShadowPercent(3, 2, 20), 83);
-    EXPECT_EQ(MenuBarShadowPercent(3, 3, 20), 78);
-    EXPECT_EQ(MenuBarShadowPercent(3, 15, 20), 78);
-    EXPECT_EQ(MenuBarShadowPercent(3, 16, 20), 100);
-    EXPECT_EQ(MenuBarShadowPercent(4, 5, 20), 100);
+    // Per column k (0 outermost) and row of a 20-row item: the percentage kept. Column 0 covers
+    // rows 2 .. 17; column 1 starts at row 1; column 3 at row 0 and ends earlier.
+    const struct {
+        int column, row, percent;
+    } cases[] = {
+        {0, 1, 100}, {0, 2, 93}, {0, 17, 93}, {0, 18, 100}, {1, 0, 100}, {1, 1, 93}, {1, 2, 88}, {1, 5, 88},
+        {3, 0, 93},  {3, 1, 88}, {3, 2, 83},  {3, 3, 78},   {3, 15, 78}, {3, 16, 100}, {4, 5, 100},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(MenuBarShadowPercent(c.column, c.row, 20), c.percent) << c.column << ", " << c.row;
 }
 
 TEST(MenuPopupFrame, JoinLineOnlyUnderTheOpenBarItem)

@@ -18,6 +18,14 @@ RECT ToRect(const ZoBlitRect& r)
     return rect;
 }
 
+::testing::AssertionResult BlitIs(const ZoBlitRect& r, int x, int y, int w, int h)
+{
+    if (r.x == x && r.y == y && r.w == w && r.h == h)
+        return ::testing::AssertionSuccess();
+    return ::testing::AssertionFailure() << "blit rectangle is x " << r.x << ", y " << r.y << ", w " << r.w << ", h "
+                                         << r.h;
+}
+
 // Source pixels equal to the key colour must leave the destination as it was.
 ::testing::AssertionResult KeyPixelsLeftOut(const zotest::Dib& dib, POINT at, const zotest::Dib& source,
                                             const RECT& cell)
@@ -43,58 +51,35 @@ RECT ToRect(const ZoBlitRect& r)
 
 TEST(ResourceNames, SizeClassSuffixes)
 {
-    EXPECT_EQ(ZoResourceNameForSize(L"BMP_ZO_EDIT", ZoMonitorSize_Normal), CString(L"BMP_ZO_EDIT"));
-    EXPECT_EQ(ZoResourceNameForSize(L"BMP_ZO_EDIT", ZoMonitorSize_3M), CString(L"BMP_ZO_EDIT_3M"));
-    EXPECT_EQ(ZoResourceNameForSize(L"BMP_ZO_EDIT", ZoMonitorSize_5M), CString(L"BMP_ZO_EDIT_5M"));
-    EXPECT_EQ(ZoResourceNameForSize(L"BMP_ZO_EDIT", ZoMonitorSize_Unknown), CString(L"BMP_ZO_EDIT"));
-    EXPECT_EQ(ZoResourceNameForSize(L"BMP_ZO_EDIT", static_cast<E_ZoMonitorSize>(7)), CString(L"BMP_ZO_EDIT"));
-}
-
-TEST(ResourceNames, NumericAndNullNamesHaveNoVariants)
-{
+    const struct {
+        int size;
+        const wchar_t* name;
+    } cases[] = {{ZoMonitorSize_Normal, L"BMP_ZO_EDIT"}, {ZoMonitorSize_3M, L"BMP_ZO_EDIT_3M"},
+                 {ZoMonitorSize_5M, L"BMP_ZO_EDIT_5M"}, {ZoMonitorSize_Unknown, L"BMP_ZO_EDIT"}, {7, L"BMP_ZO_EDIT"}};
+    for (const auto& c : cases)
+        EXPECT_EQ(ZoResourceNameForSize(L"BMP_ZO_EDIT", static_cast<E_ZoMonitorSize>(c.size)), CString(c.name)) << c.size;
+    // Numeric and null names have no variants.
     EXPECT_TRUE(ZoResourceNameForSize(nullptr, ZoMonitorSize_3M).IsEmpty());
     EXPECT_TRUE(ZoResourceNameForSize(MAKEINTRESOURCEW(800), ZoMonitorSize_3M).IsEmpty());
 }
 
-TEST(CellArithmetic, CellOfHeaderSortStrip)
+TEST(CellArithmetic, CellsOfWholeUnitsAndUncutPictures)
 {
-    const ZoBlitRect cell = ZoUnitCellRect(28, 12, 4, 2, 2, 1);
-    EXPECT_EQ(cell.x, 14);
-    EXPECT_EQ(cell.y, 6);
-    EXPECT_EQ(cell.w, 7);
-    EXPECT_EQ(cell.h, 6);
-}
-
-TEST(CellArithmetic, RemainderPixelsBelongToNoCell)
-{
+    EXPECT_TRUE(BlitIs(ZoUnitCellRect(28, 12, 4, 2, 2, 1), 14, 6, 7, 6)); // header-sort strip
     // 75 rows in 2 units: 37-row cells, the last row is never drawn.
-    const ZoBlitRect cell = ZoUnitCellRect(60, 75, 4, 2, 3, 1);
-    EXPECT_EQ(cell.x, 45);
-    EXPECT_EQ(cell.y, 37);
-    EXPECT_EQ(cell.w, 15);
-    EXPECT_EQ(cell.h, 37);
-}
-
-TEST(CellArithmetic, UncutPictureHasEmptyCells)
-{
+    EXPECT_TRUE(BlitIs(ZoUnitCellRect(60, 75, 4, 2, 3, 1), 45, 37, 15, 37));
     EXPECT_EQ(ZoUnitExtent(36, 0), 0);
     EXPECT_EQ(ZoUnitExtent(36, -3), 0);
-    const ZoBlitRect cell = ZoUnitCellRect(36, 27, 0, 0, 1, 1);
-    EXPECT_EQ(cell.w, 0);
-    EXPECT_EQ(cell.h, 0);
+    const ZoBlitRect uncut = ZoUnitCellRect(36, 27, 0, 0, 1, 1);
+    EXPECT_EQ(uncut.w, 0);
+    EXPECT_EQ(uncut.h, 0);
 }
 
 TEST(LowerStretchPlan, UpperKeepsHeightLowerRunsEightRowsFurther)
 {
     const ZoLowerStretchPlan plan = ZoPlanLowerStretching(10, 20, 30, 40, 3, 4, 5, 6);
-    EXPECT_EQ(plan.upperSource.x, 3);
-    EXPECT_EQ(plan.upperSource.y, 4);
-    EXPECT_EQ(plan.upperSource.w, 5);
-    EXPECT_EQ(plan.upperSource.h, 6);
-    EXPECT_EQ(plan.upperDest.x, 10);
-    EXPECT_EQ(plan.upperDest.y, 20);
-    EXPECT_EQ(plan.upperDest.w, 30);
-    EXPECT_EQ(plan.upperDest.h, 6);
+    EXPECT_TRUE(BlitIs(plan.upperSource, 3, 4, 5, 6));
+    EXPECT_TRUE(BlitIs(plan.upperDest, 10, 20, 30, 6));
     EXPECT_EQ(plan.lowerSource.y, 9);
     EXPECT_EQ(plan.lowerSource.h, 1);
     EXPECT_EQ(plan.lowerDest.y, 25);
@@ -278,18 +263,6 @@ INSTANTIATE_TEST_SUITE_P(
                       StripCase{L"BMP_ZO_SCROLLVER_BTNS", L"BMP_ZO_SCROLLVER_BTNS_3M", ZoMonitorSize_3M, 4, 4},
                       StripCase{L"BMP_ZO_SKIN_FRAMEWNDBORDER", L"BMP_ZO_SKIN_FRAMEWNDBORDER", ZoMonitorSize_3M, 3,
                                 4}));
-
-TEST_F(BmpImageTest, HeaderSortCellTwoOneCopiesItsRectangle)
-{
-    CZoResourceBMPImage image;
-    ASSERT_TRUE(image.LoadResourceImage(L"BMP_ZO_HEADERSORT", ZoMonitorSize_Normal, 4, 2));
-    HBITMAP copy = imagetest::LoadDllBitmap(L"BMP_ZO_HEADERSORT");
-    ASSERT_NE(copy, nullptr);
-    DibCanvas canvas(20, 20);
-    image.DrawUnitImage(canvas.dc(), 5, 6, 2, 1, kMagenta);
-    ZOTEST_EXPECT_CELL(canvas.dib(), (POINT{5, 6}), copy, (RECT{14, 6, 21, 12}), kMagenta);
-    DeleteObject(copy);
-}
 
 TEST_F(BmpImageTest, DrawImageTakesPositionThenSourceOriginThenSize)
 {

@@ -50,6 +50,45 @@ std::vector<DWORD> CheckRadioPixels(int& width, int& height)
     return pixels;
 }
 
+// Checks the 15-pixel-wide cell drawn at `at` in `dib` against the picture's pixels from
+// (sourceX, sourceY): fully transparent ones must show `back`, fully opaque ones themselves.
+::testing::AssertionResult CellShowsPicture(const zotest::Dib& dib, POINT at, const std::vector<DWORD>& raw,
+                                            int sourceX, int sourceY, int rows, COLORREF back)
+{
+    int checked = 0;
+    for (int y = 0; y < rows; ++y)
+        for (int x = 0; x < 15; ++x) {
+            const DWORD src = raw[(sourceY + y) * 60 + sourceX + x];
+            const BYTE alpha = static_cast<BYTE>(src >> 24);
+            if (alpha != 0 && alpha != 255)
+                continue;
+            ++checked;
+            const ::testing::AssertionResult pixel =
+                zotest::PixelIs(dib, at.x + x, at.y + y, alpha == 0 ? back : ToColorRef(src));
+            if (!pixel)
+                return pixel;
+        }
+    if (checked == 0)
+        return ::testing::AssertionFailure() << "no fully transparent or opaque pixel in the cell";
+    return ::testing::AssertionSuccess();
+}
+
+// A picture handed to the store, released and deleted at the end of the scope.
+class StoredPicture
+{
+public:
+    explicit StoredPicture(HBITMAP picture) : picture_(picture) {}
+    ~StoredPicture()
+    {
+        CZoResourcePNGData::GetInstance()->ReleaseImageData(picture_);
+        DeleteObject(picture_);
+    }
+    operator HBITMAP() const { return picture_; }
+
+private:
+    HBITMAP picture_;
+};
+
 class PngTest : public ::testing::Test
 {
 protected:
@@ -78,15 +117,9 @@ TEST(PngArithmetic, PixelCompositionSetsTheGivenAlpha)
     const BYTE src[4] = {200, 10, 100, 128};
     BYTE dst[4] = {};
     ZoComposePixel(src, RGB(64, 128, 192), 0xFF, dst);
-    EXPECT_EQ(dst[0], 196);
-    EXPECT_EQ(dst[1], 68);
-    EXPECT_EQ(dst[2], 82);
-    EXPECT_EQ(dst[3], 0xFF);
+    EXPECT_EQ(std::vector<BYTE>(dst, dst + 4), (std::vector<BYTE>{196, 68, 82, 0xFF}));
     ZoComposePixel(src, RGB(0, 0, 0), 0, dst);
-    EXPECT_EQ(dst[0], 100);
-    EXPECT_EQ(dst[1], 5);
-    EXPECT_EQ(dst[2], 50);
-    EXPECT_EQ(dst[3], 0);
+    EXPECT_EQ(std::vector<BYTE>(dst, dst + 4), (std::vector<BYTE>{100, 5, 50, 0}));
 }
 
 TEST(PngArithmetic, TwoRowPicturesCarryStateFourInRowOne)
@@ -113,7 +146,7 @@ TEST(PngArithmetic, ThemeGroups)
 
 TEST_F(PngTest, CompositionOverSeveralColours)
 {
-    HBITMAP picture = imagetest::MakePicture(3, 1, {kClear, kOpaque, kHalf});
+    const StoredPicture picture(imagetest::MakePicture(3, 1, {kClear, kOpaque, kHalf}));
     const COLORREF backs[3] = {RGB(255, 255, 255), RGB(0, 0, 0), RGB(64, 128, 192)};
     store().SetBackGroundColor(backs, 3);
     store().SetImageData(picture, 3);
@@ -126,13 +159,11 @@ TEST_F(PngTest, CompositionOverSeveralColours)
         EXPECT_EQ(BufferPixel(buffer, 1), kOpaque) << "opaque pixel, state " << state;
         EXPECT_EQ(BufferPixel(buffer, 2), expectedHalf[state]) << "half pixel, state " << state;
     }
-    store().ReleaseImageData(picture);
-    DeleteObject(picture);
 }
 
 TEST_F(PngTest, ThirdStateWithTwoColoursComposesOverBlack)
 {
-    HBITMAP picture = imagetest::MakePicture(2, 1, {kClear, kHalf});
+    const StoredPicture picture(imagetest::MakePicture(2, 1, {kClear, kHalf}));
     store().SetBackGroundColor(RGB(10, 20, 30), 1);
     store().SetBackGroundColor(RGB(40, 50, 60), 1);
     store().SetImageData(picture, 3);
@@ -145,25 +176,21 @@ TEST_F(PngTest, ThirdStateWithTwoColoursComposesOverBlack)
     // Beyond the composed states there is no buffer.
     EXPECT_EQ(store().GetImageData(picture, ToolButton_Extra), nullptr);
     EXPECT_EQ(store().GetImageData(picture, static_cast<E_ToolButtonStates>(-1)), nullptr);
-    store().ReleaseImageData(picture);
-    DeleteObject(picture);
 }
 
 TEST_F(PngTest, ColourQueueIsEmptiedByEachComposition)
 {
-    HBITMAP picture = imagetest::MakePicture(1, 1, {kClear});
+    const StoredPicture picture(imagetest::MakePicture(1, 1, {kClear}));
     store().SetBackGroundColor(RGB(1, 2, 3), 2);
     store().SetImageData(picture, 1);
     // The second colour was dropped with the queue: the next composition has none.
     store().SetImageData(picture, 1);
     EXPECT_EQ(BufferPixel(store().GetImageData(picture, ToolButton_Normal), 0), 0xFF000000u);
-    store().ReleaseImageData(picture);
-    DeleteObject(picture);
 }
 
 TEST_F(PngTest, NoStatesReleasesButKeepsQueuedColours)
 {
-    HBITMAP picture = imagetest::MakePicture(1, 1, {kClear});
+    const StoredPicture picture(imagetest::MakePicture(1, 1, {kClear}));
     store().SetImageData(picture, 1);
     ASSERT_NE(store().GetImageData(picture, ToolButton_Normal), nullptr);
 
@@ -172,13 +199,11 @@ TEST_F(PngTest, NoStatesReleasesButKeepsQueuedColours)
     EXPECT_EQ(store().GetImageData(picture, ToolButton_Normal), nullptr);
     store().SetImageData(picture, 1);
     EXPECT_EQ(BufferPixel(store().GetImageData(picture, ToolButton_Normal), 0), Opaque(RGB(7, 8, 9)));
-    store().ReleaseImageData(picture);
-    DeleteObject(picture);
 }
 
 TEST_F(PngTest, NonPositiveCountsQueueNothing)
 {
-    HBITMAP picture = imagetest::MakePicture(1, 1, {kClear});
+    const StoredPicture picture(imagetest::MakePicture(1, 1, {kClear}));
     const COLORREF white = RGB(255, 255, 255);
     store().SetBackGroundColor(white, 0);
     store().SetBackGroundColor(white, -4);
@@ -186,13 +211,11 @@ TEST_F(PngTest, NonPositiveCountsQueueNothing)
     store().SetBackGroundColor(static_cast<const COLORREF*>(nullptr), 3);
     store().SetImageData(picture, 1);
     EXPECT_EQ(BufferPixel(store().GetImageData(picture, ToolButton_Normal), 0), 0xFF000000u);
-    store().ReleaseImageData(picture);
-    DeleteObject(picture);
 }
 
 TEST_F(PngTest, ReleaseAndRecompose)
 {
-    HBITMAP picture = imagetest::MakePicture(1, 1, {kHalf});
+    const StoredPicture picture(imagetest::MakePicture(1, 1, {kHalf}));
     store().SetBackGroundColor(RGB(255, 255, 255), 1);
     store().SetImageData(picture, 1);
     EXPECT_EQ(BufferPixel(store().GetImageData(picture, ToolButton_Normal), 0), 0xFFB184E3u);
@@ -207,8 +230,6 @@ TEST_F(PngTest, ReleaseAndRecompose)
     // Composing again replaces the entry.
     store().SetImageData(picture, 2);
     EXPECT_EQ(BufferPixel(store().GetImageData(picture, ToolButton_Hot), 0), 0xFF320564u);
-    store().ReleaseImageData(picture);
-    DeleteObject(picture);
 }
 
 TEST_F(PngTest, UnusableBitmapsGetNoEntry)
@@ -274,19 +295,8 @@ TEST_F(PngTest, EachStateDrawsItsCellOverItsColour)
         for (int column = 0; column < 4; ++column) {
             DibCanvas canvas(20, 20);
             image.DrawUnitImage(canvas.dc(), 2, 3, column, state, RGB(0, 0, 0));
-            int checked = 0;
-            for (int y = 0; y < 15; ++y)
-                for (int x = 0; x < 15; ++x) {
-                    const DWORD src = raw[(state * 15 + y) * 60 + column * 15 + x];
-                    const BYTE alpha = static_cast<BYTE>(src >> 24);
-                    if (alpha != 0 && alpha != 255)
-                        continue;
-                    const COLORREF expected = alpha == 0 ? backs[state] : ToColorRef(src);
-                    ++checked;
-                    ASSERT_TRUE(zotest::PixelIs(canvas.dib(), 2 + x, 3 + y, expected))
-                        << "state " << state << ", column " << column;
-                }
-            EXPECT_GT(checked, 0);
+            EXPECT_TRUE(CellShowsPicture(canvas.dib(), POINT{2, 3}, raw, column * 15, state * 15, 15, backs[state]))
+                << "state " << state << ", column " << column;
             ZOTEST_EXPECT_BOUNDS(canvas.dib(), zotest::kUnpainted, (RECT{2, 3, 17, 18}));
         }
 }
@@ -335,15 +345,7 @@ TEST_F(PngTest, TwoRowPictureDrawsRowOneForStateFour)
         const int row = state == 4 ? 1 : 0;
         DibCanvas canvas(20, 40);
         image.DrawUnitImage(canvas.dc(), 0, 0, 1, state, 0);
-        for (int y = 0; y < 37; ++y)
-            for (int x = 0; x < 15; ++x) {
-                const DWORD src = raw[(row * 37 + y) * 60 + 15 + x];
-                const BYTE alpha = static_cast<BYTE>(src >> 24);
-                if (alpha != 0 && alpha != 255)
-                    continue;
-                const COLORREF expected = alpha == 0 ? back : ToColorRef(src);
-                ASSERT_TRUE(zotest::PixelIs(canvas.dib(), x, y, expected)) << "state " << state;
-            }
+        EXPECT_TRUE(CellShowsPicture(canvas.dib(), POINT{0, 0}, raw, 15, row * 37, 37, back)) << "state " << state;
     }
 }
 

@@ -13,61 +13,55 @@ namespace {
 
 const COLORREF kFill = RGB(0x20, 0x80, 0xC0);
 
-// A CDC over a test DIB for the life of the object.
-class TargetDC
+// A test DIB with a CDC over it, the target a memory DC copies to.
+struct Target
 {
-public:
-    explicit TargetDC(const zotest::Dib& dib) { dc_.Attach(dib.dc()); }
-    ~TargetDC() { dc_.Detach(); }
-    CDC* get() { return &dc_; }
-
-private:
-    CDC dc_;
+    Target(int width, int height) : dib(width, height) { dc.Attach(dib.dc()); }
+    ~Target() { dc.Detach(); }
+    zotest::Dib dib;
+    CDC dc;
 };
 
 } // namespace
 
 TEST(MemDC, NothingReachesTheTargetBeforeTheCopy)
 {
-    zotest::Dib target(60, 40);
-    TargetDC targetDC(target);
+    Target target(60, 40);
     {
-        CZoMemDC mem(targetDC.get(), 60, 40);
+        CZoMemDC mem(&target.dc, 60, 40);
         mem.FillSolidRect(0, 0, 60, 40, kFill);
-        ZOTEST_EXPECT_FILL(target, (RECT{0, 0, 60, 40}), zotest::kUnpainted);
+        ZOTEST_EXPECT_FILL(target.dib, (RECT{0, 0, 60, 40}), zotest::kUnpainted);
     }
     // Destroyed without the copy: the target stays untouched.
-    ZOTEST_EXPECT_FILL(target, (RECT{0, 0, 60, 40}), zotest::kUnpainted);
+    ZOTEST_EXPECT_FILL(target.dib, (RECT{0, 0, 60, 40}), zotest::kUnpainted);
 }
 
 TEST(MemDC, CopyToTargetCopiesTheWholeSurfaceAtTheOrigin)
 {
-    zotest::Dib target(80, 50);
-    TargetDC targetDC(target);
-    CZoMemDC mem(targetDC.get(), 60, 40);
+    Target target(80, 50);
+    CZoMemDC mem(&target.dc, 60, 40);
     mem.FillSolidRect(0, 0, 60, 40, kFill);
     mem.FillSolidRect(10, 10, 5, 5, RGB(255, 0, 0));
     mem.CopyToTarget();
-    ZOTEST_EXPECT_FILL(target, (RECT{0, 0, 60, 10}), kFill);
-    ZOTEST_EXPECT_FILL(target, (RECT{10, 10, 15, 15}), RGB(255, 0, 0));
-    ZOTEST_EXPECT_FILL(target, (RECT{60, 0, 80, 50}), zotest::kUnpainted);
-    ZOTEST_EXPECT_FILL(target, (RECT{0, 40, 60, 50}), zotest::kUnpainted);
+    ZOTEST_EXPECT_FILL(target.dib, (RECT{0, 0, 60, 10}), kFill);
+    ZOTEST_EXPECT_FILL(target.dib, (RECT{10, 10, 15, 15}), RGB(255, 0, 0));
+    ZOTEST_EXPECT_FILL(target.dib, (RECT{60, 0, 80, 50}), zotest::kUnpainted);
+    ZOTEST_EXPECT_FILL(target.dib, (RECT{0, 40, 60, 50}), zotest::kUnpainted);
 }
 
 TEST(MemDC, DrawTextLandsInTheSurfaceNotTheTarget)
 {
-    zotest::Dib target(120, 40);
-    TargetDC targetDC(target);
-    CZoMemDC mem(targetDC.get(), 120, 40);
+    Target target(120, 40);
+    CZoMemDC mem(&target.dc, 120, 40);
     mem.FillSolidRect(0, 0, 120, 40, RGB(255, 255, 255));
     mem.SetTextColor(RGB(0, 0, 0));
     mem.SetBkMode(TRANSPARENT);
     CRect area(0, 0, 120, 40);
     CDC* asBase = &mem; // through the base class, as paint handlers hold it
     EXPECT_GT(asBase->DrawText(L"Zo text", -1, &area, DT_SINGLELINE | DT_CENTER | DT_VCENTER), 0);
-    ZOTEST_EXPECT_FILL(target, (RECT{0, 0, 120, 40}), zotest::kUnpainted);
+    ZOTEST_EXPECT_FILL(target.dib, (RECT{0, 0, 120, 40}), zotest::kUnpainted);
     mem.CopyToTarget();
-    const RECT inked = zotest::BoundsOfDifferences(target, RGB(255, 255, 255));
+    const RECT inked = zotest::BoundsOfDifferences(target.dib, RGB(255, 255, 255));
     EXPECT_GT(inked.right, inked.left);
     // Centred text: the ink sits in the middle third horizontally and inside the surface.
     EXPECT_GT(inked.left, 10);
@@ -78,9 +72,8 @@ TEST(MemDC, DrawTextLandsInTheSurfaceNotTheTarget)
 
 TEST(MemDC, TextOperationsAllDrawIntoTheSurface)
 {
-    zotest::Dib target(200, 120);
-    TargetDC targetDC(target);
-    CZoMemDC mem(targetDC.get(), 200, 120);
+    Target target(200, 120);
+    CZoMemDC mem(&target.dc, 200, 120);
     mem.FillSolidRect(0, 0, 200, 120, RGB(255, 255, 255));
     mem.SetTextColor(RGB(0, 0, 0));
     CDC* dc = &mem;
@@ -94,10 +87,10 @@ TEST(MemDC, TextOperationsAllDrawIntoTheSurface)
     wchar_t text[] = L"DrawTextEx";
     CRect area(5, 80, 200, 120);
     EXPECT_GT(dc->DrawTextEx(text, -1, &area, DT_SINGLELINE, nullptr), 0);
-    ZOTEST_EXPECT_FILL(target, (RECT{0, 0, 200, 120}), zotest::kUnpainted);
+    ZOTEST_EXPECT_FILL(target.dib, (RECT{0, 0, 200, 120}), zotest::kUnpainted);
     mem.CopyToTarget();
     for (int band = 0; band < 4; ++band) {
-        const zotest::Dib strip = target.Crop(RECT{0, 5 + band * 25, 200, 25 + band * 25});
+        const zotest::Dib strip = target.dib.Crop(RECT{0, 5 + band * 25, 200, 25 + band * 25});
         const RECT inked = zotest::BoundsOfDifferences(strip, RGB(255, 255, 255));
         EXPECT_GT(inked.right, inked.left) << "band " << band;
     }
@@ -105,9 +98,8 @@ TEST(MemDC, TextOperationsAllDrawIntoTheSurface)
 
 TEST(MemDC, VisibilityIsAskedOfTheSurface)
 {
-    zotest::Dib target(30, 30);
-    TargetDC targetDC(target);
-    CZoMemDC mem(targetDC.get(), 30, 30);
+    Target target(30, 30);
+    CZoMemDC mem(&target.dc, 30, 30);
     EXPECT_TRUE(mem.PtVisible(5, 5));
     CRect inside(0, 0, 10, 10);
     EXPECT_TRUE(mem.RectVisible(&inside));
@@ -121,16 +113,15 @@ TEST(MemDC, VisibilityIsAskedOfTheSurface)
 
 TEST(MemDC, ZeroSizeNeitherCrashesNorTouchesTheTarget)
 {
-    zotest::Dib target(20, 20);
-    TargetDC targetDC(target);
+    Target target(20, 20);
     for (const SIZE size : {SIZE{0, 0}, SIZE{0, 10}, SIZE{10, 0}, SIZE{-5, -5}}) {
-        CZoMemDC mem(targetDC.get(), size.cx, size.cy);
+        CZoMemDC mem(&target.dc, size.cx, size.cy);
         mem.FillSolidRect(0, 0, 20, 20, kFill);
         CRect area(0, 0, 20, 20);
         mem.DrawText(L"x", -1, &area, DT_SINGLELINE);
         mem.CopyToTarget();
     }
-    ZOTEST_EXPECT_FILL(target, (RECT{0, 0, 20, 20}), zotest::kUnpainted);
+    ZOTEST_EXPECT_FILL(target.dib, (RECT{0, 0, 20, 20}), zotest::kUnpainted);
 }
 
 TEST(MemDC, WithoutTargetTheSurfaceStillWorks)
@@ -144,12 +135,11 @@ TEST(MemDC, WithoutTargetTheSurfaceStillWorks)
 
 TEST(MemDC, CreatingAndDestroyingLeaksNoGdiObjects)
 {
-    zotest::Dib target(64, 64);
-    TargetDC targetDC(target);
+    Target target(64, 64);
     ZOTEST_EXPECT_NO_LEAKS(3, [&] {
-        CZoMemDC mem(targetDC.get(), 64, 64);
+        CZoMemDC mem(&target.dc, 64, 64);
         mem.FillSolidRect(0, 0, 64, 64, kFill);
         mem.CopyToTarget();
-        CZoMemDC empty(targetDC.get(), 0, 0);
+        CZoMemDC empty(&target.dc, 0, 0);
     }, zotest::count_gdi);
 }

@@ -6,13 +6,12 @@ using namespace menutest;
 
 namespace {
 
-class MenuCharTest : public ThemeTest
+class MenuCharTest : public MenuHostTest
 {
 protected:
     void SetUp() override
     {
-        ThemeTest::SetUp();
-        ASSERT_TRUE(host.CreateHost());
+        MenuHostTest::SetUp();
         const ItemSpec items[] = {
             {L"&Open\tCtrl+O", 1, MF_STRING},
             {nullptr, 0, MF_SEPARATOR},
@@ -27,20 +26,12 @@ protected:
         ::AppendMenuW(menu, MF_POPUP, reinterpret_cast<UINT_PTR>(submenu), L"&Recent");
         CMenuXP::SetXPLookNFeel(&host, menu, true, false);
     }
-    void TearDown() override
-    {
-        ::DestroyMenu(menu);
-        host.DestroyWindow();
-        ThemeTest::TearDown();
-    }
 
     LRESULT SendMenuChar(wchar_t ch, UINT flags)
     {
         return host.SendMessage(WM_MENUCHAR, MAKEWPARAM(ch, flags), reinterpret_cast<LPARAM>(menu));
     }
 
-    MenuHost host;
-    HMENU menu = nullptr;
     HMENU submenu = nullptr;
 };
 

@@ -16,13 +16,12 @@ namespace {
 const int kWidth = 200;
 const COLORREF kRed = RGB(255, 0, 0);
 
-class MenuDrawTest : public ThemeTest
+class MenuDrawTest : public MenuHostTest
 {
 protected:
     void SetUp() override
     {
-        ThemeTest::SetUp();
-        ASSERT_TRUE(host.CreateHost());
+        MenuHostTest::SetUp();
         const ItemSpec items[] = {
             {L"Open\tCtrl+O", 101, MF_STRING},
             {L"Word wrap", 102, MF_STRING | MF_CHECKED},
@@ -36,12 +35,6 @@ protected:
         ::SetMenuDefaultItem(menu, 105, FALSE);
         CMenuXP::SetXPLookNFeel(&host, menu, true, false);
         height = ItemDataHeight(ItemData(menu, 0));
-    }
-    void TearDown() override
-    {
-        ::DestroyMenu(menu);
-        host.DestroyWindow();
-        ThemeTest::TearDown();
     }
 
     // Draws the item at `position` into a fresh bitmap of its size, through the host.
@@ -76,8 +69,6 @@ protected:
         return dib;
     }
 
-    MenuHost host;
-    HMENU menu = nullptr;
     int height = 0;
 };
 

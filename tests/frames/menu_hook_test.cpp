@@ -85,25 +85,18 @@ void CALLBACK ProbeTimer(HWND window, UINT, UINT_PTR id, DWORD)
     ::EndMenu();
 }
 
-class MenuHookTest : public ThemeTest
+class MenuHookTest : public MenuHostTest
 {
 protected:
     void SetUp() override
     {
-        ThemeTest::SetUp();
-        ASSERT_TRUE(host.CreateHost());
+        MenuHostTest::SetUp();
         const ItemSpec items[] = {
             {L"&Open\tCtrl+O", 101, MF_STRING},
             {nullptr, 0, MF_SEPARATOR},
             {L"E&xit", 102, MF_STRING},
         };
         menu = BuildPopup(items);
-    }
-    void TearDown() override
-    {
-        ::DestroyMenu(menu);
-        host.DestroyWindow();
-        ThemeTest::TearDown();
     }
 
     // Opens `popup` at the host and lets the probe timer look at it and close it.
@@ -117,8 +110,6 @@ protected:
         host.KillTimer(kProbeTimer);
     }
 
-    MenuHost host;
-    HMENU menu = nullptr;
 };
 
 // The hook installed for the life of a scope.

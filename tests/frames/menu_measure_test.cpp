@@ -30,30 +30,14 @@ MEASUREITEMSTRUCT Measure(CWnd& window, ULONG_PTR itemData, UINT itemID = 0)
     return measure;
 }
 
-class MenuMeasureTest : public ThemeTest
+class MenuMeasureTest : public MenuHostTest
 {
 protected:
-    void SetUp() override
-    {
-        ThemeTest::SetUp();
-        ASSERT_TRUE(host.CreateHost());
-    }
-    void TearDown() override
-    {
-        if (menu)
-            ::DestroyMenu(menu);
-        host.DestroyWindow();
-        ThemeTest::TearDown();
-    }
-
     void MakeThemedFileMenu()
     {
         menu = BuildPopup(kFileMenu);
         CMenuXP::SetXPLookNFeel(&host, menu, true, false);
     }
-
-    MenuHost host;
-    HMENU menu = nullptr;
 };
 
 } // namespace

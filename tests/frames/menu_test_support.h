@@ -29,6 +29,27 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 
+// The theme manager and a host window for a test; `menu`, when set, is destroyed at the end.
+class MenuHostTest : public ThemeTest
+{
+protected:
+    void SetUp() override
+    {
+        ThemeTest::SetUp();
+        ASSERT_TRUE(host.CreateHost());
+    }
+    void TearDown() override
+    {
+        if (menu)
+            ::DestroyMenu(menu);
+        host.DestroyWindow();
+        ThemeTest::TearDown();
+    }
+
+    MenuHost host;
+    HMENU menu = nullptr;
+};
+
 // One item of a test menu: text (with "\t" before an accelerator), command, flags of AppendMenu.
 struct ItemSpec
 {

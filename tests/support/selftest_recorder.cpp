@@ -58,45 +58,42 @@ void Click(HWND button)
 
 } // namespace
 
-TEST(RecorderButton, SentClickReachesParentAsBnClicked)
+// The button and its parent watched, with only the listed messages compared.
+class RecorderButton : public ::testing::Test
 {
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(recorder.WatchWithParent(window.button));
+        recorder.MatchOnlyListed(true);
+    }
     ButtonOnParent window;
     MessageRecorder recorder;
-    ASSERT_TRUE(recorder.WatchWithParent(window.button));
-    recorder.MatchOnlyListed(true);
+};
+
+TEST_F(RecorderButton, SentClickReachesParentAsBnClicked)
+{
     Click(window.button);
     ZOTEST_EXPECT_SEQUENCE(recorder, kSentClick);
     EXPECT_TRUE(recorder.Messages().empty()) << "the comparison flushes the recorder";
 }
 
-TEST(RecorderButton, PostedClickIsRecordedAsPosted)
+TEST_F(RecorderButton, PostedClickIsRecordedAsPosted)
 {
-    ButtonOnParent window;
-    MessageRecorder recorder;
-    ASSERT_TRUE(recorder.WatchWithParent(window.button));
-    recorder.MatchOnlyListed(true);
     PostMessageW(window.button, WM_LBUTTONDOWN, MK_LBUTTON, kInside);
     PostMessageW(window.button, WM_LBUTTONUP, 0, kInside);
     PumpUntilIdle();
     ZOTEST_EXPECT_SEQUENCE(recorder, kPostedClick);
 }
 
-TEST(RecorderButton, SentClickDoesNotMatchPostedTable)
+TEST_F(RecorderButton, SentClickDoesNotMatchPostedTable)
 {
-    ButtonOnParent window;
-    MessageRecorder recorder;
-    recorder.WatchWithParent(window.button);
-    recorder.MatchOnlyListed(true);
     Click(window.button);
     EXPECT_FALSE(CompareSequence(recorder, kPostedClick, std::size(kPostedClick)).matches);
 }
 
-TEST(RecorderButton, WrongTableFailsAtTheCallersFileAndLine)
+TEST_F(RecorderButton, WrongTableFailsAtTheCallersFileAndLine)
 {
-    ButtonOnParent window;
-    MessageRecorder recorder;
-    recorder.WatchWithParent(window.button);
-    recorder.MatchOnlyListed(true);
     Click(window.button);
     ::testing::TestPartResultArray failures;
     int expectedLine = 0;
@@ -121,12 +118,8 @@ TEST(RecorderButton, WrongTableFailsAtTheCallersFileAndLine)
     EXPECT_NE(message.find("code=5"), std::string::npos) << "the expected notification code is shown";
 }
 
-TEST(RecorderButton, EXPECT_NONFATAL_FAILUREseesTheMismatch)
+TEST_F(RecorderButton, EXPECT_NONFATAL_FAILUREseesTheMismatch)
 {
-    ButtonOnParent window;
-    MessageRecorder recorder;
-    recorder.WatchWithParent(window.button);
-    recorder.MatchOnlyListed(true);
     Click(window.button);
     EXPECT_NONFATAL_FAILURE(ZOTEST_EXPECT_SEQUENCE(recorder, kClickWithoutCommand), "does not match");
 }

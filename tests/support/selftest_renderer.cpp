@@ -42,13 +42,17 @@ TEST(RendererWindows, SolidWindowFillsItsClientArea)
     ZOTEST_EXPECT_FILL(image, (RECT{0, 0, 100, 60}), kBlue);
 }
 
-TEST(RendererWindows, ChildIsDrawnAtItsPlaceOverItsParent)
+TEST(RendererWindows, ChildIsDrawnAtItsPlaceOverItsParentOnBothPaths)
 {
     ScopedWindow window(CreateSolidWindow({20, 20, 120, 80}, kBlue));
     CreateSolidWindow({10, 5, 40, 25}, kRed, window);
-    const Dib image = RenderClient(window);
-    ZOTEST_EXPECT_FILL(image, (RECT{10, 5, 40, 25}), kRed);
-    ZOTEST_EXPECT_BOUNDS(image, kBlue, (RECT{10, 5, 40, 25}));
+    PumpUntilIdle();
+    for (RenderPath path : {RenderPath::PrintClient, RenderPath::Screen}) {
+        SCOPED_TRACE(path == RenderPath::Screen ? "screen" : "print client");
+        const Dib image = RenderClient(window, path);
+        ZOTEST_EXPECT_FILL(image, (RECT{10, 5, 40, 25}), kRed);
+        ZOTEST_EXPECT_BOUNDS(image, kBlue, (RECT{10, 5, 40, 25}));
+    }
 }
 
 TEST(RendererWindows, UpperSiblingCoversLowerOne)
@@ -76,16 +80,6 @@ TEST(RendererWindows, HiddenWindowRendersThroughPrintClient)
     ScopedWindow window(CreateSolidWindow({20, 20, 60, 60}, kRed));
     ShowWindow(window, SW_HIDE);
     ZOTEST_EXPECT_FILL(RenderClient(window), (RECT{0, 0, 40, 40}), kRed);
-}
-
-TEST(RendererWindows, ScreenPathCopiesWhatIsOnScreen)
-{
-    ScopedWindow window(CreateSolidWindow({20, 20, 120, 80}, kBlue));
-    CreateSolidWindow({10, 5, 40, 25}, kRed, window);
-    PumpUntilIdle();
-    const Dib image = RenderClient(window, RenderPath::Screen);
-    ZOTEST_EXPECT_FILL(image, (RECT{10, 5, 40, 25}), kRed);
-    ZOTEST_EXPECT_BOUNDS(image, kBlue, (RECT{10, 5, 40, 25}));
 }
 
 namespace {

@@ -38,39 +38,31 @@ TEST(Exceptions, CatchByPointerAndDelete)
     }
 }
 
-TEST(Exceptions, DerivedExceptionsAreCaughtAsCException)
+// Whether `thrower` throws an exception that a handler for `Caught` receives, of class `kind`.
+template <class Caught, class F>
+bool ThrowsKindCaughtAs(F thrower, CRuntimeClass* kind)
 {
-    int nCaught = 0;
     try
     {
-        AfxThrowInvalidArgException();
+        thrower();
     }
-    catch (CException* e)
+    catch (Caught* e)
     {
-        EXPECT_TRUE(e->IsKindOf(RUNTIME_CLASS(CInvalidArgException)));
-        ++nCaught;
+        const bool right = e->IsKindOf(kind) != FALSE;
         e->Delete();
+        return right;
     }
-    try
-    {
-        AfxThrowNotSupportedException();
-    }
-    catch (CNotSupportedException* e)
-    {
-        ++nCaught;
-        e->Delete();
-    }
-    try
-    {
-        AfxThrowMemoryException();
-    }
-    catch (CSimpleException* e)
-    {
-        EXPECT_TRUE(e->IsKindOf(RUNTIME_CLASS(CMemoryException)));
-        ++nCaught;
-        e->Delete();
-    }
-    EXPECT_EQ(nCaught, 3);
+    return false;
+}
+
+TEST(Exceptions, DerivedExceptionsAreCaughtThroughTheirBases)
+{
+    EXPECT_TRUE(ThrowsKindCaughtAs<CException>([] { AfxThrowInvalidArgException(); },
+                                               RUNTIME_CLASS(CInvalidArgException)));
+    EXPECT_TRUE(ThrowsKindCaughtAs<CNotSupportedException>([] { AfxThrowNotSupportedException(); },
+                                                           RUNTIME_CLASS(CNotSupportedException)));
+    EXPECT_TRUE(ThrowsKindCaughtAs<CSimpleException>([] { AfxThrowMemoryException(); },
+                                                     RUNTIME_CLASS(CMemoryException)));
 }
 
 TEST(Exceptions, DeleteKeepsObjectsNotMarkedAutoDelete)
@@ -164,20 +156,18 @@ TEST(ExceptionMacros, NoExceptionSkipsTheHandlers)
 
 TEST(FileException, OsErrorsMapToCauses)
 {
-    EXPECT_EQ(CFileException::OsErrorToException(ERROR_FILE_NOT_FOUND), CFileException::fileNotFound);
-    EXPECT_EQ(CFileException::OsErrorToException(ERROR_PATH_NOT_FOUND), CFileException::badPath);
-    EXPECT_EQ(CFileException::OsErrorToException(ERROR_TOO_MANY_OPEN_FILES), CFileException::tooManyOpenFiles);
-    EXPECT_EQ(CFileException::OsErrorToException(ERROR_ACCESS_DENIED), CFileException::accessDenied);
-    EXPECT_EQ(CFileException::OsErrorToException(ERROR_INVALID_HANDLE), CFileException::invalidFile);
-    EXPECT_EQ(CFileException::OsErrorToException(ERROR_CURRENT_DIRECTORY), CFileException::removeCurrentDir);
-    EXPECT_EQ(CFileException::OsErrorToException(ERROR_CANNOT_MAKE), CFileException::directoryFull);
-    EXPECT_EQ(CFileException::OsErrorToException(ERROR_NEGATIVE_SEEK), CFileException::badSeek);
-    EXPECT_EQ(CFileException::OsErrorToException(ERROR_CRC), CFileException::hardIO);
-    EXPECT_EQ(CFileException::OsErrorToException(ERROR_SHARING_VIOLATION), CFileException::sharingViolation);
-    EXPECT_EQ(CFileException::OsErrorToException(ERROR_LOCK_VIOLATION), CFileException::lockViolation);
-    EXPECT_EQ(CFileException::OsErrorToException(ERROR_DISK_FULL), CFileException::diskFull);
-    EXPECT_EQ(CFileException::OsErrorToException(ERROR_HANDLE_EOF), CFileException::endOfFile);
-    EXPECT_EQ(CFileException::OsErrorToException(12345), CFileException::genericException);
+    const struct { LONG error; int cause; } cases[] = {
+        {ERROR_FILE_NOT_FOUND, CFileException::fileNotFound}, {ERROR_PATH_NOT_FOUND, CFileException::badPath},
+        {ERROR_TOO_MANY_OPEN_FILES, CFileException::tooManyOpenFiles},
+        {ERROR_ACCESS_DENIED, CFileException::accessDenied}, {ERROR_INVALID_HANDLE, CFileException::invalidFile},
+        {ERROR_CURRENT_DIRECTORY, CFileException::removeCurrentDir},
+        {ERROR_CANNOT_MAKE, CFileException::directoryFull}, {ERROR_NEGATIVE_SEEK, CFileException::badSeek},
+        {ERROR_CRC, CFileException::hardIO}, {ERROR_SHARING_VIOLATION, CFileException::sharingViolation},
+        {ERROR_LOCK_VIOLATION, CFileException::lockViolation}, {ERROR_DISK_FULL, CFileException::diskFull},
+        {ERROR_HANDLE_EOF, CFileException::endOfFile}, {12345, CFileException::genericException},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(CFileException::OsErrorToException(c.error), c.cause) << c.error;
 }
 
 TEST(FileException, ThrowOsErrorCarriesCauseErrorAndName)

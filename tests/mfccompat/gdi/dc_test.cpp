@@ -572,29 +572,26 @@ TEST(DCState, AnisotropicScaling)
 
 TEST(DCState, BrushOriginShiftsPatterns)
 {
-    zotest::Dib dib(4, 1, kWhite);
-    DibDC dc(dib);
     CBitmap pattern;
     const WORD rows[8] = { 0x55, 0x55, 0x55, 0x55, 0x55, 0x55, 0x55, 0x55 }; // 0 1 0 1 ...
     pattern.CreateBitmap(8, 8, 1, 1, rows);
     CBrush brush(&pattern);
-    dc.SetTextColor(kBlack);
-    dc.SetBkColor(kWhite);
-    CBrush* old = dc.SelectObject(&brush);
-    EXPECT_EQ(CPoint(0, 0), dc.SetBrushOrg(1, 0));
-    EXPECT_EQ(CPoint(1, 0), dc.GetBrushOrg());
-    dc.PatBlt(0, 0, 4, 1, PATCOPY);
-    dc.SelectObject(old);
-    EXPECT_NE(dib.Pixel(0, 0), dib.Pixel(1, 0));
-    COLORREF shifted = dib.Pixel(1, 0);
-    zotest::Dib unshifted(4, 1, kWhite);
-    DibDC plain(unshifted);
-    plain.SetTextColor(kBlack);
-    plain.SetBkColor(kWhite);
-    CBrush* previous = plain.SelectObject(&brush);
-    plain.PatBlt(0, 0, 4, 1, PATCOPY);
-    plain.SelectObject(previous);
-    EXPECT_EQ(shifted, unshifted.Pixel(0, 0)) << "the origin moves the pattern by one pixel";
+    // Paints one row of the pattern with the brush origin at (originX, 0).
+    auto paint = [&brush](zotest::Dib& dib, int originX) {
+        DibDC dc(dib);
+        dc.SetTextColor(kBlack);
+        dc.SetBkColor(kWhite);
+        CBrush* old = dc.SelectObject(&brush);
+        EXPECT_EQ(CPoint(0, 0), dc.SetBrushOrg(originX, 0));
+        EXPECT_EQ(CPoint(originX, 0), dc.GetBrushOrg());
+        dc.PatBlt(0, 0, 4, 1, PATCOPY);
+        dc.SelectObject(old);
+    };
+    zotest::Dib shifted(4, 1, kWhite), unshifted(4, 1, kWhite);
+    paint(shifted, 1);
+    paint(unshifted, 0);
+    EXPECT_NE(shifted.Pixel(0, 0), shifted.Pixel(1, 0));
+    EXPECT_EQ(shifted.Pixel(1, 0), unshifted.Pixel(0, 0)) << "the origin moves the pattern by one pixel";
 }
 
 TEST(DCState, DeviceCapsReadAttributeDC)

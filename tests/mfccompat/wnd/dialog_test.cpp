@@ -102,27 +102,26 @@ std::wstring ItemText(CWnd& dialog, int id)
 
 // ---- modal loop ----
 
-TEST(DialogModal, DoModalReturnsTheCodeOfEndDialogCalledFromAPostedMessage)
+TEST(DialogModal, DoModalReturnsTheCodeEndDialogWasGiven)
 {
-    CTestDialog dialog;
-    dialog.onInit = [](CTestDialog& dlg) { dlg.PostMessage(WM_TEST_END, 1234); };
-    EXPECT_EQ(1234, dialog.DoModal());
-    EXPECT_EQ(NULL, dialog.m_hWnd);
-}
-
-TEST(DialogModal, DoModalReturnsTheCodeOfEndDialogCalledFromATimer)
-{
-    CTestDialog dialog;
-    dialog.onInit = [](CTestDialog& dlg) { dlg.SetTimer(321, 10, NULL); };
-    EXPECT_EQ(321, dialog.DoModal());
-    EXPECT_EQ(1, dialog.timerEnds);
-}
-
-TEST(DialogModal, EndDialogInsideOnInitDialogSkipsTheLoop)
-{
-    CTestDialog dialog;
-    dialog.onInit = [](CTestDialog& dlg) { dlg.EndDialog(55); };
-    EXPECT_EQ(55, dialog.DoModal());
+    const struct {
+        const char* from;
+        void (*start)(CTestDialog&);
+        int code;
+    } cases[] = {
+        { "a posted message", [](CTestDialog& dlg) { dlg.PostMessage(WM_TEST_END, 1234); }, 1234 },
+        { "a timer", [](CTestDialog& dlg) { dlg.SetTimer(321, 10, NULL); }, 321 },
+        { "OnInitDialog, skipping the loop", [](CTestDialog& dlg) { dlg.EndDialog(55); }, 55 },
+    };
+    for (const auto& c : cases)
+    {
+        SCOPED_TRACE(c.from);
+        CTestDialog dialog;
+        dialog.onInit = c.start;
+        EXPECT_EQ(c.code, dialog.DoModal());
+        EXPECT_EQ(NULL, dialog.m_hWnd);
+        EXPECT_EQ(c.code == 321 ? 1 : 0, dialog.timerEnds);
+    }
 }
 
 TEST(DialogModal, MissingTemplateMakesDoModalFail)

@@ -2,6 +2,7 @@
 // from wParam/lParam as documented, and the handler's return value becomes the result.
 #include "wnd_test_support.h"
 
+#include <initializer_list>
 #include <sstream>
 #include <vector>
 
@@ -293,28 +294,40 @@ protected:
     HWND other = NULL;
 };
 
-// ---- mouse and keyboard ----
-
-TEST_F(MessageMapTest, SizeAndMoveCrackTheirCoordinates)
+// One message sent to the recorder and the handler call it must produce.
+struct Cracked
 {
-    Send(WM_SIZE, SIZE_MAXIMIZED, MAKELPARAM(300, 200));
-    EXPECT_EQ("OnSize 2 300 200", wnd.Last());
-    Send(WM_MOVE, 0, MAKELPARAM(static_cast<WORD>(-5), 7));
-    EXPECT_EQ("OnMove -5 7", wnd.Last());
+    UINT message;
+    WPARAM wParam;
+    LPARAM lParam;
+    const char* call;
+};
+
+void ExpectCalls(CRecordWnd& wnd, std::initializer_list<Cracked> cases)
+{
+    for (const Cracked& c : cases)
+    {
+        SCOPED_TRACE(c.call);
+        ::SendMessageW(wnd.m_hWnd, c.message, c.wParam, c.lParam);
+        EXPECT_EQ(c.call, wnd.Last());
+    }
 }
 
-TEST_F(MessageMapTest, MouseButtonsGetFlagsAndSignedPoint)
+TEST_F(MessageMapTest, InputMessagesCrackSignedPointsFlagsAndRepeatCounts)
 {
-    Send(WM_LBUTTONDOWN, MK_LBUTTON | MK_SHIFT, MAKELPARAM(static_cast<WORD>(-3), 40));
-    EXPECT_EQ("OnLButtonDown 5 -3 40", wnd.Last());
-    Send(WM_RBUTTONDBLCLK, MK_RBUTTON, MAKELPARAM(11, 12));
-    EXPECT_EQ("OnRButtonDblClk 2 11 12", wnd.Last());
-    Send(WM_MOUSEMOVE, 0, MAKELPARAM(1, 2));
-    EXPECT_EQ("OnMouseMove 0 1 2", wnd.Last());
-    Send(WM_MOUSEHOVER, MK_CONTROL, MAKELPARAM(8, 9));
-    EXPECT_EQ("OnMouseHover 8 8 9", wnd.Last());
-    Send(WM_MOUSELEAVE, 0, 0);
-    EXPECT_EQ("OnMouseLeave", wnd.Last());
+    ExpectCalls(wnd, {
+        { WM_SIZE, SIZE_MAXIMIZED, MAKELPARAM(300, 200), "OnSize 2 300 200" },
+        { WM_MOVE, 0, MAKELPARAM(static_cast<WORD>(-5), 7), "OnMove -5 7" },
+        { WM_LBUTTONDOWN, MK_LBUTTON | MK_SHIFT, MAKELPARAM(static_cast<WORD>(-3), 40), "OnLButtonDown 5 -3 40" },
+        { WM_RBUTTONDBLCLK, MK_RBUTTON, MAKELPARAM(11, 12), "OnRButtonDblClk 2 11 12" },
+        { WM_MOUSEMOVE, 0, MAKELPARAM(1, 2), "OnMouseMove 0 1 2" },
+        { WM_MOUSEHOVER, MK_CONTROL, MAKELPARAM(8, 9), "OnMouseHover 8 8 9" },
+        { WM_MOUSELEAVE, 0, 0, "OnMouseLeave" },
+        { WM_KEYDOWN, 'A', 0x001E0003, "OnKeyDown 65 3 30" },
+        { WM_CHAR, 'a', static_cast<LPARAM>(0x801E0001u), "OnChar 97 1 32798" },
+        { WM_SYSKEYDOWN, VK_F10, 0x20440001, "OnSysKeyDown 121 1 8260" },
+        { WM_TIMER, 77, 0, "OnTimer 77" },
+    });
 }
 
 TEST_F(MessageMapTest, MouseWheelSplitsFlagsAndDeltaAndReturnsTheHandlersAnswer)
@@ -323,105 +336,70 @@ TEST_F(MessageMapTest, MouseWheelSplitsFlagsAndDeltaAndReturnsTheHandlersAnswer)
     EXPECT_EQ("OnMouseWheel 4 -120 10 20", wnd.Last());
 }
 
-TEST_F(MessageMapTest, KeyMessagesSplitRepeatCountAndFlags)
-{
-    Send(WM_KEYDOWN, 'A', 0x001E0003);
-    EXPECT_EQ("OnKeyDown 65 3 30", wnd.Last());
-    Send(WM_CHAR, 'a', 0x801E0001);
-    EXPECT_EQ("OnChar 97 1 32798", wnd.Last());
-    Send(WM_SYSKEYDOWN, VK_F10, 0x20440001);
-    EXPECT_EQ("OnSysKeyDown 121 1 8260", wnd.Last());
-}
-
-// ---- window state ----
-
 TEST_F(MessageMapTest, WindowArgumentsArriveAsCWndObjects)
 {
-    Send(WM_ACTIVATE, MAKEWPARAM(WA_CLICKACTIVE, 1), reinterpret_cast<LPARAM>(other));
-    EXPECT_EQ("OnActivate 2 other 1", wnd.Last());
-    Send(WM_SETFOCUS, reinterpret_cast<WPARAM>(other), 0);
-    EXPECT_EQ("OnSetFocus other", wnd.Last());
-    Send(WM_KILLFOCUS, 0, 0);
-    EXPECT_EQ("OnKillFocus null", wnd.Last());
-    Send(WM_CAPTURECHANGED, 0, reinterpret_cast<LPARAM>(other));
-    EXPECT_EQ("OnCaptureChanged other", wnd.Last());
-    EXPECT_EQ(TRUE, Send(WM_SETCURSOR, reinterpret_cast<WPARAM>(wnd.m_hWnd), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE)));
+    const LPARAM otherL = reinterpret_cast<LPARAM>(other);
+    const WPARAM self = reinterpret_cast<WPARAM>(wnd.m_hWnd);
+    ExpectCalls(wnd, {
+        { WM_ACTIVATE, MAKEWPARAM(WA_CLICKACTIVE, 1), otherL, "OnActivate 2 other 1" },
+        { WM_SETFOCUS, reinterpret_cast<WPARAM>(other), 0, "OnSetFocus other" },
+        { WM_KILLFOCUS, 0, 0, "OnKillFocus null" },
+        { WM_CAPTURECHANGED, 0, otherL, "OnCaptureChanged other" },
+        { WM_CONTEXTMENU, self, MAKELPARAM(0xFFFF, 0xFFFF), "OnContextMenu self -1 -1" },
+    });
+    EXPECT_EQ(TRUE, Send(WM_SETCURSOR, self, MAKELPARAM(HTCLIENT, WM_MOUSEMOVE)));
     EXPECT_EQ("OnSetCursor self 1 512", wnd.Last());
-    Send(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(wnd.m_hWnd), MAKELPARAM(0xFFFF, 0xFFFF));
-    EXPECT_EQ("OnContextMenu self -1 -1", wnd.Last());
 }
 
 TEST_F(MessageMapTest, StateMessagesPassTheirFlags)
 {
-    Send(WM_SHOWWINDOW, TRUE, SW_PARENTOPENING);
-    EXPECT_EQ("OnShowWindow 1 3", wnd.Last());
-    Send(WM_ENABLE, FALSE, 0);
-    EXPECT_EQ("OnEnable 0", wnd.Last());
-    Send(WM_SYSCOMMAND, SC_KEYMENU, 0x20);
-    EXPECT_EQ("OnSysCommand 61696 32", wnd.Last());
-    Send(WM_UPDATEUISTATE, MAKEWPARAM(UIS_SET, UISF_HIDEFOCUS), 0);
-    EXPECT_EQ("OnUpdateUIState 1 1", wnd.Last());
-    Send(WM_ACTIVATEAPP, TRUE, 1234);
-    EXPECT_EQ("OnActivateApp 1 1234", wnd.Last());
-    Send(WM_SETTINGCHANGE, SPI_SETWORKAREA, reinterpret_cast<LPARAM>(L"Policy"));
-    EXPECT_EQ("OnSettingChange 47 Policy", wnd.Last());
-    Send(WM_SYSCOLORCHANGE, 0, 0);
-    EXPECT_EQ("OnSysColorChange", wnd.Last());
-    Send(WM_DROPFILES, 0, 0);
-    EXPECT_EQ("OnDropFiles null", wnd.Last());
-    Send(WM_CLOSE, 0, 0);
-    EXPECT_EQ("OnClose", wnd.Last());
+    ExpectCalls(wnd, {
+        { WM_SHOWWINDOW, TRUE, SW_PARENTOPENING, "OnShowWindow 1 3" },
+        { WM_ENABLE, FALSE, 0, "OnEnable 0" },
+        { WM_SYSCOMMAND, SC_KEYMENU, 0x20, "OnSysCommand 61696 32" },
+        { WM_UPDATEUISTATE, MAKEWPARAM(UIS_SET, UISF_HIDEFOCUS), 0, "OnUpdateUIState 1 1" },
+        { WM_ACTIVATEAPP, TRUE, 1234, "OnActivateApp 1 1234" },
+        { WM_SETTINGCHANGE, SPI_SETWORKAREA, reinterpret_cast<LPARAM>(L"Policy"), "OnSettingChange 47 Policy" },
+        { WM_SYSCOLORCHANGE, 0, 0, "OnSysColorChange" },
+        { WM_DROPFILES, 0, 0, "OnDropFiles null" },
+        { WM_HSCROLL, MAKEWPARAM(SB_THUMBTRACK, 55), 0, "OnHScroll 5 55 null" }, // no control: null
+        { WM_MENUSELECT, MAKEWPARAM(12, MF_POPUP), 0, "OnMenuSelect 12 16 null" },
+        { WM_NCLBUTTONDOWN, HTCAPTION, MAKELPARAM(400, 300), "OnNcLButtonDown 2 400 300" },
+        { WM_NCMOUSEMOVE, HTBORDER, MAKELPARAM(1, 2), "OnNcMouseMove 18 1 2" },
+        { WM_NCMOUSELEAVE, 0, 0, "OnNcMouseLeave" },
+        { WM_CLOSE, 0, 0, "OnClose" },
+    });
     EXPECT_TRUE(::IsWindow(wnd.m_hWnd)) << "a handled WM_CLOSE does not reach DefWindowProc";
 }
 
-TEST_F(MessageMapTest, TimerAndDialogCodeHandlers)
+TEST_F(MessageMapTest, HandlerResultsBecomeTheMessageResult)
 {
-    Send(WM_TIMER, 77, 0);
-    EXPECT_EQ("OnTimer 77", wnd.Last());
     EXPECT_EQ(static_cast<LRESULT>(DLGC_WANTARROWS | DLGC_WANTCHARS), Send(WM_GETDLGCODE, 0, 0));
     EXPECT_EQ("OnGetDlgCode", wnd.Last());
-}
-
-TEST_F(MessageMapTest, PositionMessagesHandTheirStructures)
-{
-    MINMAXINFO info = {};
-    Send(WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&info));
-    EXPECT_EQ("OnGetMinMaxInfo", wnd.Last());
-    EXPECT_EQ(77, info.ptMinTrackSize.x);
-    RECT sizing = { 0, 0, 321, 10 };
-    Send(WM_SIZING, WMSZ_RIGHT, reinterpret_cast<LPARAM>(&sizing));
-    EXPECT_EQ("OnSizing 2 321", wnd.Last());
-    WINDOWPOS pos = {};
-    pos.cx = 55;
-    Send(WM_WINDOWPOSCHANGING, 0, reinterpret_cast<LPARAM>(&pos));
-    EXPECT_EQ("OnWindowPosChanging 55", wnd.Last());
-}
-
-// ---- non-client area ----
-
-TEST_F(MessageMapTest, NonClientMessages)
-{
     EXPECT_EQ(HTCAPTION, Send(WM_NCHITTEST, 0, MAKELPARAM(5, 6)));
     EXPECT_EQ("OnNcHitTest 5 6", wnd.Last());
     EXPECT_EQ(TRUE, Send(WM_NCACTIVATE, FALSE, 0));
     EXPECT_EQ("OnNcActivate 0", wnd.Last());
-    Send(WM_NCLBUTTONDOWN, HTCAPTION, MAKELPARAM(400, 300));
-    EXPECT_EQ("OnNcLButtonDown 2 400 300", wnd.Last());
-    Send(WM_NCMOUSEMOVE, HTBORDER, MAKELPARAM(1, 2));
-    EXPECT_EQ("OnNcMouseMove 18 1 2", wnd.Last());
-    Send(WM_NCMOUSELEAVE, 0, 0);
-    EXPECT_EQ("OnNcMouseLeave", wnd.Last());
-    NCCALCSIZE_PARAMS params = {};
-    params.rgrc[0].right = 640;
-    Send(WM_NCCALCSIZE, TRUE, reinterpret_cast<LPARAM>(&params));
-    EXPECT_EQ("OnNcCalcSize 1 640", wnd.Last());
 }
 
-// ---- painting ----
-
-TEST_F(MessageMapTest, EraseBackgroundGetsTheDeviceContextAsCDC)
+TEST_F(MessageMapTest, StructuresAndDeviceContextsArriveCracked)
 {
-    EXPECT_EQ(TRUE, Send(WM_ERASEBKGND, reinterpret_cast<WPARAM>(wnd.paintDC), 0));
+    MINMAXINFO info = {};
+    RECT sizing = { 0, 0, 321, 10 };
+    WINDOWPOS pos = {};
+    pos.cx = 55;
+    NCCALCSIZE_PARAMS params = {};
+    params.rgrc[0].right = 640;
+    const WPARAM dc = reinterpret_cast<WPARAM>(wnd.paintDC);
+    ExpectCalls(wnd, {
+        { WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&info), "OnGetMinMaxInfo" },
+        { WM_SIZING, WMSZ_RIGHT, reinterpret_cast<LPARAM>(&sizing), "OnSizing 2 321" },
+        { WM_WINDOWPOSCHANGING, 0, reinterpret_cast<LPARAM>(&pos), "OnWindowPosChanging 55" },
+        { WM_NCCALCSIZE, TRUE, reinterpret_cast<LPARAM>(&params), "OnNcCalcSize 1 640" },
+        { WM_PRINTCLIENT, dc, PRF_CLIENT, "OnPrintClient dc 4" },
+    });
+    EXPECT_EQ(77, info.ptMinTrackSize.x);
+    EXPECT_EQ(TRUE, Send(WM_ERASEBKGND, dc, 0));
     EXPECT_EQ("OnEraseBkgnd dc", wnd.Last());
 }
 
@@ -441,12 +419,6 @@ TEST_F(MessageMapTest, EveryControlColorMessageReachesOnCtlColorWithItsType)
     }
 }
 
-TEST_F(MessageMapTest, ScrollMessageWithoutControlPassesNull)
-{
-    Send(WM_HSCROLL, MAKEWPARAM(SB_THUMBTRACK, 55), 0);
-    EXPECT_EQ("OnHScroll 5 55 null", wnd.Last());
-}
-
 TEST_F(MessageMapTest, OwnerDrawMessagesForUnknownControlsReachTheParentHandlers)
 {
     DRAWITEMSTRUCT draw = {};
@@ -464,22 +436,12 @@ TEST_F(MessageMapTest, OwnerDrawMessagesForUnknownControlsReachTheParentHandlers
     EXPECT_EQ(19u, measure.itemHeight);
 }
 
-TEST_F(MessageMapTest, MenuSelectSplitsItemAndFlags)
-{
-    Send(WM_MENUSELECT, MAKEWPARAM(12, MF_POPUP), 0);
-    EXPECT_EQ("OnMenuSelect 12 16 null", wnd.Last());
-}
-
-// ---- user, registered and unhandled messages ----
-
 TEST_F(MessageMapTest, OnMessageAndRegisteredMessageReturnTheHandlersResult)
 {
     EXPECT_EQ(1234, Send(WM_TEST_APP, 5, 6));
     EXPECT_EQ("OnTestApp 5 6", wnd.Last());
     EXPECT_EQ(99, Send(g_registeredMessage, 7, 8));
     EXPECT_EQ("OnRegistered 7 8", wnd.Last());
-    Send(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(wnd.paintDC), PRF_CLIENT);
-    EXPECT_EQ("OnPrintClient dc 4", wnd.Last());
 }
 
 TEST_F(MessageMapTest, UnhandledMessagesGetTheDefaultProcessing)

@@ -68,25 +68,26 @@ protected:
     CFilterWnd outsider{ log, "outsider" };
 };
 
-TEST_F(PreTranslateTest, ControlThatFiltersAKeyKeepsItFromItsHandler)
+TEST_F(PreTranslateTest, KeysWalkUpFromTheControlUntilAWindowFiltersThem)
 {
-    PostKeyAndPump(child, 'C');
-    EXPECT_EQ((std::vector<std::string>{ "child saw 67" }), log);
-    EXPECT_EQ(0, child.keyDowns);
-}
-
-TEST_F(PreTranslateTest, KeyNotFilteredWalksUpToTheParentAndIsThenDispatched)
-{
-    PostKeyAndPump(child, 'X');
-    EXPECT_EQ((std::vector<std::string>{ "child saw 88", "parent saw 88" }), log);
-    EXPECT_EQ(1, child.keyDowns);
-}
-
-TEST_F(PreTranslateTest, ParentCanFilterKeysOfItsChildren)
-{
-    PostKeyAndPump(child, 'P');
-    EXPECT_EQ((std::vector<std::string>{ "child saw 80", "parent saw 80" }), log);
-    EXPECT_EQ(0, child.keyDowns);
+    const struct {
+        UINT key;
+        std::vector<std::string> seen;
+        int handled; // key-down handlers the child ran
+    } cases[] = {
+        { 'C', { "child saw 67" }, 0 },                  // the control filters it itself
+        { 'X', { "child saw 88", "parent saw 88" }, 1 }, // nobody filters: dispatched
+        { 'P', { "child saw 80", "parent saw 80" }, 0 }, // the parent filters its child's key
+    };
+    for (const auto& c : cases)
+    {
+        SCOPED_TRACE(static_cast<char>(c.key));
+        log.clear();
+        child.keyDowns = 0;
+        PostKeyAndPump(child, c.key);
+        EXPECT_EQ(c.seen, log);
+        EXPECT_EQ(c.handled, child.keyDowns);
+    }
 }
 
 TEST_F(PreTranslateTest, MainWindowSeesKeysOfWindowsOutsideItsTree)

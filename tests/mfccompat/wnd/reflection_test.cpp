@@ -147,19 +147,23 @@ protected:
     HDC dc = NULL;
 };
 
-TEST_F(ReflectionTest, ControlColorIsAnsweredByTheChild)
+// The child under a parent that handles nothing of its own.
+class ReflectionToPlainParent : public ReflectionTest
 {
+protected:
+    void SetUp() override { Build(parentWnd); }
     CParentWnd parentWnd;
-    Build(parentWnd);
+};
+
+TEST_F(ReflectionToPlainParent, ControlColorIsAnsweredByTheChild)
+{
     LRESULT result = Send(WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(child.m_hWnd));
     EXPECT_EQ(reinterpret_cast<LRESULT>(child.brush), result);
     EXPECT_EQ((std::vector<std::string>{ "CtlColor 3 dc" }), child.calls);
 }
 
-TEST_F(ReflectionTest, ControlColorWithNoBrushFromTheChildFallsBackToTheDefault)
+TEST_F(ReflectionToPlainParent, ControlColorWithNoBrushFromTheChildFallsBackToTheDefault)
 {
-    CParentWnd parentWnd;
-    Build(parentWnd);
     child.brush = NULL;
     LRESULT result = Send(WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(child.m_hWnd));
     EXPECT_EQ((std::vector<std::string>{ "CtlColor 6 dc" }), child.calls);
@@ -177,19 +181,15 @@ TEST_F(ReflectionTest, ParentThatHandlesControlColorItselfKeepsIt)
     EXPECT_EQ((std::vector<std::string>{ "Parent OnCtlColor" }), parentWnd.calls);
 }
 
-TEST_F(ReflectionTest, ReflectedCommandIsTakenByTheChildFirst)
+TEST_F(ReflectionToPlainParent, ReflectedCommandIsTakenByTheChildFirst)
 {
-    CParentWnd parentWnd;
-    Build(parentWnd);
     EXPECT_EQ(1, Command(BN_CLICKED));
     EXPECT_EQ((std::vector<std::string>{ "OnClickedReflect" }), child.calls);
     EXPECT_TRUE(parentWnd.calls.empty());
 }
 
-TEST_F(ReflectionTest, ReflectedCommandExDecidesWhetherTheParentSeesIt)
+TEST_F(ReflectionToPlainParent, ReflectedCommandExDecidesWhetherTheParentSeesIt)
 {
-    CParentWnd parentWnd;
-    Build(parentWnd);
     child.exResult = FALSE;
     Command(BN_DOUBLECLICKED);
     EXPECT_EQ((std::vector<std::string>{ "OnDoubleClickedReflect" }), child.calls);
@@ -203,18 +203,14 @@ TEST_F(ReflectionTest, ReflectedCommandExDecidesWhetherTheParentSeesIt)
     EXPECT_TRUE(parentWnd.calls.empty());
 }
 
-TEST_F(ReflectionTest, ReflectedNotifySetsTheParentsResult)
+TEST_F(ReflectionToPlainParent, ReflectedNotifySetsTheParentsResult)
 {
-    CParentWnd parentWnd;
-    Build(parentWnd);
     EXPECT_EQ(7, Notify(NM_CLICK));
     EXPECT_EQ((std::vector<std::string>{ "OnNotifyClick -2" }), child.calls);
 }
 
-TEST_F(ReflectionTest, ReflectedNotifyExDecidesWhetherTheParentSeesIt)
+TEST_F(ReflectionToPlainParent, ReflectedNotifyExDecidesWhetherTheParentSeesIt)
 {
-    CParentWnd parentWnd;
-    Build(parentWnd);
     child.exResult = FALSE;
     EXPECT_EQ(9, Notify(NM_DBLCLK));
     EXPECT_EQ((std::vector<std::string>{ "OnNotifyDblClk" }), child.calls);
@@ -227,10 +223,8 @@ TEST_F(ReflectionTest, ReflectedNotifyExDecidesWhetherTheParentSeesIt)
     EXPECT_TRUE(parentWnd.calls.empty());
 }
 
-TEST_F(ReflectionTest, ScrollDrawAndMeasureMessagesReachTheChild)
+TEST_F(ReflectionToPlainParent, ScrollDrawAndMeasureMessagesReachTheChild)
 {
-    CParentWnd parentWnd;
-    Build(parentWnd);
     Send(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 17), reinterpret_cast<LPARAM>(child.m_hWnd));
 
     DRAWITEMSTRUCT draw = {};
@@ -250,10 +244,8 @@ TEST_F(ReflectionTest, ScrollDrawAndMeasureMessagesReachTheChild)
     EXPECT_EQ((std::vector<std::string>{ "HScroll 4 17", "DrawItem 4", "MeasureItem", "ParentNotify 1" }), child.calls);
 }
 
-TEST_F(ReflectionTest, NotificationsFromControlsWithoutObjectsStayWithTheParent)
+TEST_F(ReflectionToPlainParent, NotificationsFromControlsWithoutObjectsStayWithTheParent)
 {
-    CParentWnd parentWnd;
-    Build(parentWnd);
     HWND plain = wndtest::CreatePlainWindow(L"BUTTON", WS_CHILD, parentWnd.m_hWnd, IDC_CHILD + 1);
     LRESULT result = Send(WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(plain));
     EXPECT_NE(reinterpret_cast<LRESULT>(child.brush), result);

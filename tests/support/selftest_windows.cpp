@@ -29,41 +29,6 @@ HWND CreateButton()
 
 } // namespace
 
-TEST(TestWindows, SolidWindowKeepsAndChangesItsColour)
-{
-    ScopedWindow window(CreateSolidWindow({0, 0, 30, 20}, RGB(10, 20, 30)));
-    EXPECT_EQ(SolidWindowColor(window), RGB(10, 20, 30));
-    SetSolidWindowColor(window, RGB(40, 50, 60));
-    ZOTEST_EXPECT_FILL(RenderClient(window), (RECT{0, 0, 30, 20}), RGB(40, 50, 60));
-    EXPECT_TRUE(GetWindowLongW(window, GWL_STYLE) & WS_VISIBLE);
-    SetSolidWindowColor(nullptr, 0); // no window, no effect
-}
-
-TEST(TestWindows, ScopedWindowDestroysOnceAndToleratesEarlyDestruction)
-{
-    HWND window = CreateSolidWindow({0, 0, 10, 10}, 0);
-    {
-        ScopedWindow owner(window);
-        ScopedWindow moved(std::move(owner));
-        EXPECT_EQ(owner.get(), nullptr);
-        EXPECT_EQ(moved.get(), window);
-    }
-    EXPECT_FALSE(IsWindow(window));
-    ScopedWindow early(CreateSolidWindow({0, 0, 10, 10}, 0));
-    DestroyWindow(early);
-    early.Reset(); // already gone: nothing happens
-    EXPECT_EQ(early.get(), nullptr);
-}
-
-TEST(TestWindows, WineIsDetectedThroughNtdll)
-{
-    const bool exported = GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
-    EXPECT_EQ(RunningUnderWine(), exported);
-    if (RunningUnderWine()) {
-        EXPECT_EQ(GdiCountSource(), CountSource::WineHandleTable) << "GetGuiResources reports 0 under Wine";
-    }
-}
-
 TEST(TestWindows, CommonControls6ContextGivesVersion6Buttons)
 {
     ScopedWindow classic(CreateButton());

@@ -74,7 +74,10 @@ BEGIN_MESSAGE_MAP(CZoProgressCtrl, CProgressCtrl)
     ON_WM_ERASEBKGND()
     ON_WM_PAINT()
     ON_MESSAGE(WM_PRINTCLIENT, &CZoProgressCtrl::OnPrintClient)
+    ZO_ON_MENUXP_MESSAGES()
 END_MESSAGE_MAP()
+
+ZO_IMPLEMENT_MENUXP_FORWARDING(CZoProgressCtrl, CProgressCtrl)
 
 CZoProgressCtrl::CZoProgressCtrl() : m_pSkin(NULL), m_eTheme(ZoTheme_Default), m_eMonitorSize(ZoMonitorSize_Unknown)
 {
@@ -98,6 +101,7 @@ int CZoProgressCtrl::OnCreate(LPCREATESTRUCT lpCreateStruct)
 
 void CZoProgressCtrl::_init()
 {
+    CMenuXP::SetXPLookNFeel(this, true);
     m_eTheme = ZoGetCurrentThemeIndex(this);
     m_eMonitorSize = ZoGetCurrentMonitorSize(this, false);
     // Creation through MFC runs both PreSubclassWindow and WM_CREATE: load once per style.

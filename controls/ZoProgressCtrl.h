@@ -7,6 +7,7 @@
 
 #include "core/ZoCtrlExport.h"
 #include "core/ZoThemeTypes.h"
+#include "frames/ZoMenuXP.h"
 
 namespace ZoControls {
 
@@ -47,6 +48,7 @@ protected:
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg void OnPaint();
     afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
+    ZO_DECLARE_MENUXP_FORWARDING()
     DECLARE_MESSAGE_MAP()
 
     CZoResourceBMPImage* m_pSkin;

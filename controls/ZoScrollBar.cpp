@@ -46,7 +46,10 @@ BEGIN_MESSAGE_MAP(CZoScrollBar, CScrollBar)
     ON_WM_TIMER()
     ON_WM_MOUSEMOVE()
     ON_WM_MOUSELEAVE()
+    ZO_ON_MENUXP_MESSAGES()
 END_MESSAGE_MAP()
+
+ZO_IMPLEMENT_MENUXP_FORWARDING(CZoScrollBar, CScrollBar)
 
 CZoScrollBar::CZoScrollBar(E_ScrollBarTheme theme)
     : m_eScrollBarTheme(theme), m_eTheme(ZoTheme_Default), m_eMonitorSize(ZoMonitorSize_Unknown),
@@ -150,6 +153,7 @@ void CZoScrollBar::_init()
         return;
     m_eTheme = ZoGetCurrentThemeIndex(this);
     m_eMonitorSize = ZoGetCurrentMonitorSize(this, false);
+    CMenuXP::SetXPLookNFeel(this, true);
 
     const bool vertical = _isVertical();
     delete m_pButtons;

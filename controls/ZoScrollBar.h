@@ -7,6 +7,7 @@
 #include "controls/ZoScrollBarMath.h"
 #include "core/ZoCtrlExport.h"
 #include "core/ZoThemeTypes.h"
+#include "frames/ZoMenuXP.h"
 
 namespace ZoControls {
 
@@ -111,6 +112,7 @@ protected:
     afx_msg void OnTimer(UINT_PTR nIDEvent);
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
     afx_msg void OnMouseLeave();
+    ZO_DECLARE_MENUXP_FORWARDING()
     DECLARE_MESSAGE_MAP()
 
     E_ScrollBarTheme m_eScrollBarTheme;

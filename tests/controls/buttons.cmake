@@ -7,4 +7,5 @@ list(APPEND ZO_CONTROL_TEST_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/button_paint_test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/button_behaviour_test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/button_variants_test.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/menu_forwarding_test.cpp
 )

@@ -41,25 +41,21 @@ TEST(MenuItemHeights, FollowTheFontHeight)
     EXPECT_EQ(SeparatorHeight(16), 10);
 }
 
-TEST(MenuMeasure, PopupItemsAddIconColumnAndAccelerator)
+TEST(MenuMeasure, PopupItemsAddIconColumnAndAcceleratorSeparatorsAre42MenuBarItemsTextPlusFour)
 {
-    const SIZE size = MeasuredItemSize(PackItemData(22, 40, 100));
-    EXPECT_EQ(size.cx, 100 + 42 + 40);
-    EXPECT_EQ(size.cy, 22);
-}
-
-TEST(MenuMeasure, SeparatorsAre42PixelsWide)
-{
-    const SIZE size = MeasuredItemSize(PackItemData(SeparatorHeight(16), 0, 0));
-    EXPECT_EQ(size.cx, 42);
-    EXPECT_EQ(size.cy, 10);
-}
-
-TEST(MenuMeasure, MenuBarItemsAreTheirTextPlusFour)
-{
-    const SIZE size = MeasuredItemSize(PackItemData(0, 0, 31));
-    EXPECT_EQ(size.cx, 35);
-    EXPECT_EQ(size.cy, 0);
+    const struct {
+        DWORD data;
+        LONG cx, cy;
+    } cases[] = {
+        {PackItemData(22, 40, 100), 100 + 42 + 40, 22},
+        {PackItemData(SeparatorHeight(16), 0, 0), 42, 10},
+        {PackItemData(0, 0, 31), 35, 0},
+    };
+    for (const auto& c : cases) {
+        const SIZE size = MeasuredItemSize(c.data);
+        EXPECT_EQ(size.cx, c.cx) << std::hex << c.data;
+        EXPECT_EQ(size.cy, c.cy) << std::hex << c.data;
+    }
 }
 
 TEST(MenuMeasure, OnlyMenuItemsAreMeasured)

@@ -4,14 +4,41 @@
 
 namespace {
 
+// Sends `message` with a scratch DC whose origin is the top-left corner of `area` (in `hdc`'s
+// coordinates) and copies the result into `hdc`. The scratch starts as a copy of what lies
+// there already, so windows that leave parts unpainted show their parent through. Each window
+// gets a DC of its own because native controls under Wine expect one: the static and the
+// button clip to their client rectangle read as device coordinates (so they vanish at any other
+// origin), and the edit leaves its clip rectangle selected (hiding whatever comes after it).
+void PrintThroughScratch(HWND hWnd, HDC hdc, const RECT& area, UINT message, LPARAM flags)
+{
+    const int width = area.right - area.left;
+    const int height = area.bottom - area.top;
+    if (width <= 0 || height <= 0)
+        return;
+    HDC hScratch = ::CreateCompatibleDC(hdc);
+    HBITMAP hBitmap = ::CreateCompatibleBitmap(hdc, width, height);
+    if (hScratch && hBitmap) {
+        HGDIOBJ hOld = ::SelectObject(hScratch, hBitmap);
+        ::BitBlt(hScratch, 0, 0, width, height, hdc, area.left, area.top, SRCCOPY);
+        ::SendMessage(hWnd, message, reinterpret_cast<WPARAM>(hScratch), flags);
+        ::BitBlt(hdc, area.left, area.top, width, height, hScratch, 0, 0, SRCCOPY);
+        ::SelectObject(hScratch, hOld);
+    }
+    if (hBitmap)
+        ::DeleteObject(hBitmap);
+    if (hScratch)
+        ::DeleteDC(hScratch);
+}
+
 // Paints `hWnd`'s client area at `origin` of `hdc`, then its visible children, bottom of the
 // z-order first, each with its frame.
 void RenderClientTree(HWND hWnd, HDC hdc, POINT origin)
 {
-    POINT previous;
-    ::SetViewportOrgEx(hdc, origin.x, origin.y, &previous);
-    ::SendMessage(hWnd, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(hdc), PRF_CLIENT | PRF_ERASEBKGND);
-    ::SetViewportOrgEx(hdc, previous.x, previous.y, NULL);
+    RECT client;
+    ::GetClientRect(hWnd, &client);
+    ::OffsetRect(&client, origin.x, origin.y);
+    PrintThroughScratch(hWnd, hdc, client, WM_PRINTCLIENT, PRF_CLIENT | PRF_ERASEBKGND);
 
     HWND hChild = ::GetWindow(hWnd, GW_CHILD);
     if (hChild)
@@ -20,16 +47,14 @@ void RenderClientTree(HWND hWnd, HDC hdc, POINT origin)
         // The style, not IsWindowVisible: the main window stays hidden while it is captured.
         if (!(::GetWindowLong(hChild, GWL_STYLE) & WS_VISIBLE))
             continue;
-        RECT frame, client;
+        RECT frame;
         ::GetWindowRect(hChild, &frame);
         ::MapWindowPoints(NULL, hWnd, reinterpret_cast<POINT*>(&frame), 2);
+        ::OffsetRect(&frame, origin.x, origin.y);
         POINT clientOrigin = {0, 0};
         ::ClientToScreen(hChild, &clientOrigin);
         ::ScreenToClient(hWnd, &clientOrigin);
-        ::GetClientRect(hChild, &client);
-        ::SetViewportOrgEx(hdc, origin.x + frame.left, origin.y + frame.top, &previous);
-        ::SendMessage(hChild, WM_PRINT, reinterpret_cast<WPARAM>(hdc), PRF_NONCLIENT);
-        ::SetViewportOrgEx(hdc, previous.x, previous.y, NULL);
+        PrintThroughScratch(hChild, hdc, frame, WM_PRINT, PRF_NONCLIENT);
         const POINT childOrigin = {origin.x + clientOrigin.x, origin.y + clientOrigin.y};
         RenderClientTree(hChild, hdc, childOrigin);
     }

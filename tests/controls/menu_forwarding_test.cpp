@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 
+#include "controls/SeparatorWnd.h"
 #include "controls/ZoButton.h"
 #include "controls/ZoProgressCtrl.h"
 #include "controls/ZoScrollBar.h"
@@ -53,6 +54,12 @@ const ForwardingCase kForwardingCases[] = {
          auto bar = std::make_unique<CZoProgressCtrl>();
          const BOOL ok = bar->Create(WS_CHILD | WS_VISIBLE, rect, parent, 603);
          return Created(std::move(bar), ok);
+     }},
+    {"Separator",
+     [](CWnd* parent, const RECT& rect) {
+         auto sep = std::make_unique<CSeparatorWnd>(604, CSeparatorWnd::SeparatorDirection_Vertical, parent, true);
+         const BOOL ok = sep->Create(AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, rect, parent, 604);
+         return Created(std::move(sep), ok);
      }},
 };
 

@@ -105,6 +105,26 @@ TEST_F(SeparatorTest, HorizontalBarDrawsItsLineAtTheMouseRow)
     Send(WM_LBUTTONUP, 10, 21);
 }
 
+TEST_F(SeparatorTest, HorizontalBarTogglesItsLineWhenTheMouseDoesNotMoveVertically)
+{
+    Create(CSeparatorWnd::SeparatorDirection_Horizontal);
+    Send(WM_LBUTTONDOWN, 10, 1);
+    Send(WM_MOUSEMOVE, 10, 21); // line at parent y 121
+    EXPECT_EQ(ParentPixel(150, 121), XorColor());
+    // The same row again: nothing is erased and the line drawn once more, so XOR takes it off.
+    Send(WM_MOUSEMOVE, 60, 21);
+    EXPECT_EQ(ParentPixel(150, 121), scrolltest::kParentColor);
+    Send(WM_MOUSEMOVE, 90, 21);
+    EXPECT_EQ(ParentPixel(150, 121), XorColor());
+    // A new row erases the old line.
+    Send(WM_MOUSEMOVE, 90, 41);
+    EXPECT_EQ(ParentPixel(150, 141), XorColor());
+    EXPECT_EQ(ParentPixel(150, 121), scrolltest::kParentColor);
+    // Released on the same row: the last step takes the line off too.
+    Send(WM_LBUTTONUP, 90, 41);
+    EXPECT_EQ(ParentPixel(150, 141), scrolltest::kParentColor);
+}
+
 TEST_F(SeparatorTest, VerticalBarKeepsItsLineWhenTheMouseDoesNotMoveSideways)
 {
     Create(CSeparatorWnd::SeparatorDirection_Vertical);

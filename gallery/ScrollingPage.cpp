@@ -1,20 +1,78 @@
 #include <afxwin.h>
 
 #include "ScrollingPage.h"
+#include "core/ZoMemDC.h"
 
 using namespace ZoControls;
 
 namespace {
 
 const UINT kProgressTimer = 1;
-const UINT kSeparatorId = 900;
-const int kLineHeight = 16;
-const int kLineCount = 60;
+const UINT kProgressInterval = 100;
+const UINT kFirstBarId = 100;
+const UINT kFirstShortBarId = 110;
+const UINT kViewId = 120;
+const UINT kViewBarId = 121;
+const UINT kFirstProgressId = 130;
+const UINT kFirstSpinId = 140;
+const UINT kSeparatorId = 150;
 const int kSeparatorWidth = 2;
+const int kMinPaneWidth = 120;
 
-void SetStandardRange(CZoScrollBar& bar, int pos)
+// Where everything sits, in page client coordinates.
+const CRect kScrollBarsCaption(12, 8, 560, 28);
+const CRect kVerticalBars[2] = {CRect(12, 32, 31, 232), CRect(40, 32, 59, 232)};
+const CRect kHorizontalBars[2] = {CRect(72, 32, 392, 51), CRect(72, 60, 392, 79)};
+const CRect kFirstReadout(408, 32, 640, 52);
+const int kReadoutPitch = 22;
+const CRect kShortBarsCaption(72, 96, 232, 116);
+// Two bars too short for a thumb (half-height buttons) and two whose channel is too short
+// for one (full buttons): all four draw the placeholder.
+const CRect kShortBars[4] = {CRect(72, 120, 91, 170), CRect(104, 120, 123, 184), CRect(140, 120, 190, 139),
+                             CRect(140, 152, 204, 171)};
+const CRect kViewCaption(240, 96, 440, 116);
+const CRect kView(240, 120, 400, 234);
+const int kViewBarWidth = 19;
+const CRect kProgressCaption(12, 252, 300, 272);
+const CRect kProgressBars[3] = {CRect(12, 280, 252, 298), CRect(264, 280, 292, 400), CRect(12, 308, 252, 326)};
+const int kProgressStart[3] = {35, 70, 50};
+const CRect kSpinCaption(320, 252, 560, 272);
+const CRect kSpinEdits[2] = {CRect(320, 280, 380, 302), CRect(320, 312, 380, 334)};
+const CRect kSpinLabels[2] = {CRect(400, 280, 560, 302), CRect(400, 312, 560, 334)};
+const CRect kPanesCaption(12, 424, 560, 444);
+const CRect kPanesArea(12, 448, 560, 568);
+
+const CZoThemeManager* Theme()
 {
-    SCROLLINFO info = {sizeof(SCROLLINFO), SIF_ALL, 0, 109, 10, pos, 0};
+    return CZoThemeManager::GetInstance();
+}
+
+COLORREF SlotColor(int slot, COLORREF fallback)
+{
+    return Theme() ? Theme()->GetGDIColor(static_cast<E_ZoThemeColors>(slot), ZoTheme_Default) : fallback;
+}
+
+CFont* SlotFont(E_ZoThemeFont role)
+{
+    return Theme() ? const_cast<CFont*>(Theme()->GetCacheGDIFont(role, ZoMonitorSize_Normal)) : NULL;
+}
+
+// Draws `text` in `rect` with the theme's caption font and colour.
+void DrawCaption(CDC& dc, const CRect& rect, const wchar_t* text, UINT format = DT_LEFT)
+{
+    CFont* pFont = SlotFont(ZoThemeFont_2);
+    CFont* pOld = pFont ? dc.SelectObject(pFont) : NULL;
+    dc.SetBkMode(TRANSPARENT);
+    dc.SetTextColor(SlotColor(2, RGB(255, 255, 255)));
+    CRect box(rect);
+    dc.DrawText(text, &box, format | DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
+    if (pOld)
+        dc.SelectObject(pOld);
+}
+
+void SetRange(CZoScrollBar& bar, int minimum, int maximum, int page, int pos)
+{
+    SCROLLINFO info = {sizeof(SCROLLINFO), SIF_ALL, minimum, maximum, static_cast<UINT>(page), pos, 0};
     bar.SetScrollInfo(&info, TRUE);
 }
 
@@ -22,31 +80,72 @@ void SetStandardRange(CZoScrollBar& bar, int pos)
 void ApplyScroll(CScrollBar* pBar, UINT nSBCode, UINT nPos)
 {
     if (nSBCode == SB_THUMBTRACK || nSBCode == SB_THUMBPOSITION)
-        pBar->SetScrollPos((int)nPos);
+        pBar->SetScrollPos(static_cast<int>(nPos));
 }
 
 } // namespace
 
+SplitPanesLayout LayoutSplitPanes(const CRect& area, int splitX, int minPane, int barWidth)
+{
+    SplitPanesLayout layout;
+    // An area too narrow for both minimums splits in the middle rather than inverting.
+    const int low = area.left + minPane;
+    const int high = area.right - minPane - barWidth;
+    const int x = low <= high ? ZoSeparatorClamp(splitX, low, high) : area.left + (area.Width() - barWidth) / 2;
+    layout.left = CRect(area.left, area.top, x, area.bottom);
+    layout.bar = CRect(x, area.top, x + barWidth, area.bottom);
+    layout.right = CRect(x + barWidth, area.top, area.right, area.bottom);
+    return layout;
+}
+
 BEGIN_MESSAGE_MAP(CScrolledLinesView, CWnd)
     ON_WM_PAINT()
+    ON_WM_ERASEBKGND()
+    ON_MESSAGE(WM_PRINTCLIENT, &CScrolledLinesView::OnPrintClient)
     ON_WM_VSCROLL()
 END_MESSAGE_MAP()
 
 CScrolledLinesView::CScrolledLinesView() : m_nTopLine(0) {}
 
+int CScrolledLinesView::GetVisibleLines() const
+{
+    CRect client;
+    GetClientRect(&client);
+    return client.Height() / LineHeight;
+}
+
+void CScrolledLinesView::_paintInto(CDC& dc)
+{
+    CRect client;
+    GetClientRect(&client);
+    CZoMemDC mem(&dc, client.Width(), client.Height());
+    mem.FillSolidRect(&client, SlotColor(38, RGB(255, 255, 255)));
+    CFont* pFont = SlotFont(ZoThemeFont_1);
+    CFont* pOld = pFont ? mem.SelectObject(pFont) : NULL;
+    mem.SetBkMode(TRANSPARENT);
+    mem.SetTextColor(SlotColor(42, RGB(0, 0, 0)));
+    for (int i = 0; i * LineHeight < client.Height() && m_nTopLine + i < LineCount; ++i)
+    {
+        CString text;
+        text.Format(L"Line %d of %d", m_nTopLine + i + 1, static_cast<int>(LineCount));
+        mem.TextOut(4, i * LineHeight, text);
+    }
+    if (pOld)
+        mem.SelectObject(pOld);
+    mem.CopyToTarget();
+}
+
 void CScrolledLinesView::OnPaint()
 {
     CPaintDC dc(this);
-    CRect client;
-    GetClientRect(&client);
-    dc.FillSolidRect(&client, RGB(255, 255, 255));
-    dc.SetBkMode(TRANSPARENT);
-    for (int i = 0; i * kLineHeight < client.Height(); ++i)
-    {
-        CString text;
-        text.Format(L"Line %d", m_nTopLine + i + 1);
-        dc.TextOut(4, i * kLineHeight, text);
-    }
+    _paintInto(dc);
+}
+
+BOOL CScrolledLinesView::OnEraseBkgnd(CDC*) { return TRUE; }
+
+LRESULT CScrolledLinesView::OnPrintClient(WPARAM wParam, LPARAM)
+{
+    return PaintForPrintClient(wParam, [this](CDC& dc) { _paintInto(dc); });
 }
 
 void CScrolledLinesView::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
@@ -54,6 +153,8 @@ void CScrolledLinesView::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollB
     if (!pScrollBar)
         return;
     ApplyScroll(pScrollBar, nSBCode, nPos);
+    if (m_nTopLine == pScrollBar->GetScrollPos())
+        return;
     m_nTopLine = pScrollBar->GetScrollPos();
     Invalidate(FALSE);
 }
@@ -82,81 +183,153 @@ CScrollingPage::~CScrollingPage()
 
 BOOL CScrollingPage::OnCreatePage()
 {
+    return _createScrollBars() && _createShortBars() && _createBuddyView() && _createProgressBars() &&
+           _createSpinButtons() && _createSeparator();
+}
+
+BOOL CScrollingPage::_createScrollBars()
+{
     const DWORD child = WS_CHILD | WS_VISIBLE;
     for (int i = 0; i < BarCount; ++i)
     {
         const bool vertical = i < 2;
-        const CRect rect = vertical ? CRect(10 + i * 30, 10, 29 + i * 30, 210)
-                                    : CRect(80, 10 + (i - 2) * 30, 380, 29 + (i - 2) * 30);
-        m_apBars[i]->Create(child | (vertical ? SBS_VERT : 0), rect, this, 100 + i);
-        SetStandardRange(*m_apBars[i], 20 * i);
-        m_aReadouts[i].Create(L"", child, CRect(390, 10 + i * 20, 520, 28 + i * 20), this);
+        const CRect& rect = vertical ? kVerticalBars[i] : kHorizontalBars[i - 2];
+        if (!m_apBars[i]->Create(child | (vertical ? SBS_VERT : SBS_HORZ), rect, this, kFirstBarId + i))
+            return FALSE;
+        SetRange(*m_apBars[i], 0, 100, 10, 15 * (i + 1));
+        CRect readout(kFirstReadout);
+        readout.OffsetRect(0, i * kReadoutPitch);
+        if (!m_aReadouts[i].Create(L"", child | SS_LEFT | SS_CENTERIMAGE, readout, this))
+            return FALSE;
         _showPosition(i);
     }
-    m_shortVertical.Create(child | SBS_VERT, CRect(80, 80, 99, 130), this, 110);
-    m_shortHorizontal.Create(child, CRect(110, 80, 160, 99), this, 111);
+    return TRUE;
+}
 
-    m_view.Create(NULL, L"", child | WS_BORDER, CRect(180, 80, 330, 210), this, 120);
-    m_viewBar.Create(child | SBS_VERT, CRect(330, 80, 349, 210), this, 121);
+BOOL CScrollingPage::_createShortBars()
+{
+    for (int i = 0; i < ShortBarCount; ++i)
+    {
+        const DWORD orientation = i < 2 ? SBS_VERT : SBS_HORZ;
+        if (!m_aShortBars[i].Create(WS_CHILD | WS_VISIBLE | orientation, kShortBars[i], this, kFirstShortBarId + i))
+            return FALSE;
+        SetRange(m_aShortBars[i], 0, 100, 10, 50);
+    }
+    return TRUE;
+}
+
+BOOL CScrollingPage::_createBuddyView()
+{
+    const CRect bar(kView.right, kView.top, kView.right + kViewBarWidth, kView.bottom);
+    if (!m_view.Create(NULL, L"", WS_CHILD | WS_VISIBLE | WS_BORDER, kView, this, kViewId) ||
+        !m_viewBar.Create(WS_CHILD | WS_VISIBLE | SBS_VERT, bar, this, kViewBarId))
+        return FALSE;
     m_viewBar.SetBuddy(&m_view);
-    SCROLLINFO info = {sizeof(SCROLLINFO), SIF_ALL, 0, kLineCount - 1, 130 / kLineHeight, 0, 0};
-    m_viewBar.SetScrollInfo(&info, TRUE);
+    SetRange(m_viewBar, 0, CScrolledLinesView::LineCount - 1, m_view.GetVisibleLines(), 0);
+    return TRUE;
+}
 
-    m_aProgress[0].Create(child, CRect(10, 230, 250, 248), this, 130);
-    m_aProgress[1].Create(child | PBS_VERTICAL, CRect(260, 230, 278, 350), this, 131);
-    m_aProgress[2].Create(child | WS_DISABLED, CRect(10, 258, 250, 276), this, 132);
+BOOL CScrollingPage::_createProgressBars()
+{
+    const DWORD styles[ProgressCount] = {0, PBS_VERTICAL, WS_DISABLED};
     for (int i = 0; i < ProgressCount; ++i)
+    {
+        if (!m_aProgress[i].Create(WS_CHILD | WS_VISIBLE | styles[i], kProgressBars[i], this, kFirstProgressId + i))
+            return FALSE;
         m_aProgress[i].SetRange32(0, 100);
-    SetTimer(kProgressTimer, 100, NULL);
+        m_aProgress[i].SetPos(kProgressStart[i]);
+    }
+    return SetTimer(kProgressTimer, kProgressInterval, NULL) != 0;
+}
 
-    // Buddy edits at the range ends: the lower one shows the first half disabled, the upper the second.
-    m_editVertical.Create(child | WS_BORDER | ES_NUMBER, CRect(300, 230, 360, 252), this, 140);
-    m_spinVertical.Create(child | UDS_SETBUDDYINT | UDS_ALIGNRIGHT | UDS_ARROWKEYS, CRect(0, 0, 0, 0), this, 141);
+BOOL CScrollingPage::_createSpinButtons()
+{
+    // Each starts at one end of its range, so that half shows its disabled look.
+    const DWORD child = WS_CHILD | WS_VISIBLE;
+    const DWORD spin = child | UDS_SETBUDDYINT | UDS_ALIGNRIGHT | UDS_ARROWKEYS;
+    const DWORD edit = child | WS_BORDER | ES_NUMBER;
+    if (!m_editVertical.Create(edit, kSpinEdits[0], this, kFirstSpinId) ||
+        !m_spinVertical.Create(spin, CRect(0, 0, 0, 0), this, kFirstSpinId + 1) ||
+        !m_editHorizontal.Create(edit, kSpinEdits[1], this, kFirstSpinId + 2) ||
+        !m_spinHorizontal.Create(spin | UDS_HORZ, CRect(0, 0, 0, 0), this, kFirstSpinId + 3))
+        return FALSE;
     m_spinVertical.SetBuddy(&m_editVertical);
     m_spinVertical.SetRange32(0, 10);
     m_spinVertical.SetPos32(0);
-    m_editHorizontal.Create(child | WS_BORDER | ES_NUMBER, CRect(300, 262, 360, 284), this, 142);
-    m_spinHorizontal.Create(child | UDS_HORZ | UDS_SETBUDDYINT | UDS_ALIGNRIGHT | UDS_ARROWKEYS, CRect(0, 0, 0, 0),
-                            this, 143);
     m_spinHorizontal.SetBuddy(&m_editHorizontal);
     m_spinHorizontal.SetRange32(0, 10);
     m_spinHorizontal.SetPos32(10);
+    return TRUE;
+}
 
-    m_rcPanes = CRect(10, 360, 520, 460);
-    m_leftPane.Create(L"Left pane", child | WS_BORDER | SS_CENTER, CRect(0, 0, 0, 0), this);
-    m_rightPane.Create(L"Right pane", child | WS_BORDER | SS_CENTER, CRect(0, 0, 0, 0), this);
+BOOL CScrollingPage::_createSeparator()
+{
     m_pSeparator = new CSeparatorWnd(kSeparatorId, CSeparatorWnd::SeparatorDirection_Vertical, this, true);
-    m_pSeparator->Create(AfxRegisterWndClass(0), L"", child, CRect(0, 0, 0, 0), this, kSeparatorId);
-    _layoutPanes(m_rcPanes.CenterPoint().x);
+    if (!m_pSeparator->Create(AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), this, kSeparatorId))
+        return FALSE;
+    _layoutPanes(kPanesArea.CenterPoint().x);
     return TRUE;
 }
 
 void CScrollingPage::_layoutPanes(int splitX)
 {
-    const int x = ZoSeparatorClamp(splitX, m_rcPanes.left + 40, m_rcPanes.right - 40);
-    m_leftPane.MoveWindow(m_rcPanes.left, m_rcPanes.top, x - m_rcPanes.left, m_rcPanes.Height());
-    m_pSeparator->MoveWindow(x, m_rcPanes.top, kSeparatorWidth, m_rcPanes.Height());
-    m_rightPane.MoveWindow(x + kSeparatorWidth, m_rcPanes.top, m_rcPanes.right - x - kSeparatorWidth,
-                           m_rcPanes.Height());
-    CRect limit(m_rcPanes.left + 40, m_rcPanes.top, m_rcPanes.right - 40, m_rcPanes.bottom);
+    m_panes = LayoutSplitPanes(kPanesArea, splitX, kMinPaneWidth, kSeparatorWidth);
+    m_pSeparator->MoveWindow(&m_panes.bar);
+    CRect limit(kPanesArea.left + kMinPaneWidth, kPanesArea.top, kPanesArea.right - kMinPaneWidth - kSeparatorWidth,
+                kPanesArea.bottom);
     ClientToScreen(&limit);
     m_pSeparator->SetBoundaryOnScreen(&limit);
-    // The rubber band was drawn on the page: repaint under it.
-    InvalidateRect(&m_rcPanes, FALSE);
+    // Also clears what is left of the rubber band.
+    InvalidateRect(&kPanesArea, FALSE);
 }
 
-LRESULT CScrollingPage::OnSeparatorMoved(WPARAM, LPARAM lParam)
+LRESULT CScrollingPage::OnSeparatorMoved(WPARAM wParam, LPARAM lParam)
 {
-    CPoint point((short)LOWORD(lParam), (short)HIWORD(lParam));
+    if (LOWORD(wParam) != kSeparatorId)
+        return 0;
+    CPoint point(static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam)));
     ScreenToClient(&point);
     _layoutPanes(point.x);
     return 0;
 }
 
+void CScrollingPage::DrawPage(CDC& dc, const CRect& client)
+{
+    CGalleryPage::DrawPage(dc, client);
+    DrawCaption(dc, kScrollBarsCaption, L"Scroll bars in skin variants 0 and 1 (vertical, horizontal)");
+    DrawCaption(dc, kShortBarsCaption, L"Too short for a thumb");
+    DrawCaption(dc, kViewCaption, L"Buddy of a scrolled view");
+    DrawCaption(dc, kProgressCaption, L"Progress bars on a timer (the lower one disabled)");
+    DrawCaption(dc, kSpinCaption, L"Spin buttons with buddy edits");
+    DrawCaption(dc, kSpinLabels[0], L"starts at its minimum");
+    DrawCaption(dc, kSpinLabels[1], L"starts at its maximum");
+    DrawCaption(dc, kPanesCaption, L"Two panes split by a movable separator: drag it");
+    _drawPanes(dc);
+}
+
+void CScrollingPage::_drawPanes(CDC& dc)
+{
+    const COLORREF back = SlotColor(38, RGB(255, 255, 255));
+    const COLORREF frame = SlotColor(49, RGB(0, 0, 0));
+    const CRect* panes[2] = {&m_panes.left, &m_panes.right};
+    const wchar_t* names[2] = {L"Left pane", L"Right pane"};
+    for (int i = 0; i < 2; ++i)
+    {
+        if (panes[i]->IsRectEmpty())
+            continue;
+        dc.FillSolidRect(panes[i], back);
+        dc.Draw3dRect(panes[i], frame, frame);
+        CString text;
+        text.Format(L"%s: %d px", names[i], panes[i]->Width());
+        DrawCaption(dc, *panes[i], text, DT_CENTER);
+    }
+}
+
 void CScrollingPage::_showPosition(int index)
 {
     CString text;
-    text.Format(L"%s %d: %d", index < 2 ? L"Vertical" : L"Horizontal", index % 2, m_apBars[index]->GetScrollPos());
+    text.Format(L"%s, skin %d: position %d", index < 2 ? L"Vertical" : L"Horizontal", index % 2,
+                m_apBars[index]->GetScrollPos());
     m_aReadouts[index].SetWindowText(text);
 }
 
@@ -168,8 +341,12 @@ void CScrollingPage::_onScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
         {
             ApplyScroll(m_apBars[i], nSBCode, nPos);
             _showPosition(i);
+            return;
         }
     }
+    // The short bars move too, without a read-out.
+    if (pScrollBar)
+        ApplyScroll(pScrollBar, nSBCode, nPos);
 }
 
 void CScrollingPage::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
@@ -189,8 +366,9 @@ void CScrollingPage::OnTimer(UINT_PTR nIDEvent)
         CGalleryPage::OnTimer(nIDEvent);
         return;
     }
+    // Different steps keep the bars out of step with each other.
     for (int i = 0; i < ProgressCount; ++i)
-        m_aProgress[i].SetPos((m_aProgress[i].GetPos() + 2 + i) % 101);
+        m_aProgress[i].SetPos((m_aProgress[i].GetPos() + 1 + i) % 101);
 }
 
 void CScrollingPage::OnDestroy()

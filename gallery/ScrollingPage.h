@@ -10,17 +10,35 @@
 class CScrolledLinesView : public CWnd
 {
 public:
+    enum { LineCount = 60, LineHeight = 16 };
+
     CScrolledLinesView();
     int GetTopLine() const { return m_nTopLine; }
+    // How many whole lines the client area shows: the scroll bar's page.
+    int GetVisibleLines() const;
 
 protected:
     afx_msg void OnPaint();
+    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
     afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
     DECLARE_MESSAGE_MAP()
 
 private:
+    void _paintInto(CDC& dc);
+
     int m_nTopLine;
 };
+
+// Where two side-by-side panes and the bar between them go in `area` when the bar is asked
+// to sit at `splitX`: the bar keeps `minPane` pixels from either side.
+struct SplitPanesLayout
+{
+    CRect left;
+    CRect bar;
+    CRect right;
+};
+SplitPanesLayout LayoutSplitPanes(const CRect& area, int splitX, int minPane, int barWidth);
 
 class CScrollingPage : public CGalleryPage
 {
@@ -30,6 +48,7 @@ public:
 
 protected:
     virtual BOOL OnCreatePage();
+    virtual void DrawPage(CDC& dc, const CRect& client);
 
     afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
     afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
@@ -39,15 +58,22 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    enum { BarCount = 4, ProgressCount = 3 };
+    enum { BarCount = 4, ShortBarCount = 4, ProgressCount = 3 };
+
+    BOOL _createScrollBars();
+    BOOL _createShortBars();
+    BOOL _createBuddyView();
+    BOOL _createProgressBars();
+    BOOL _createSpinButtons();
+    BOOL _createSeparator();
     void _onScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
     void _showPosition(int index);
     void _layoutPanes(int splitX);
+    void _drawPanes(CDC& dc);
 
     ZoControls::CZoScrollBar* m_apBars[BarCount]; // vertical 0, vertical 1, horizontal 0, horizontal 1
-    CStatic m_aReadouts[BarCount];
-    ZoControls::CZoScrollBar m_shortVertical;
-    ZoControls::CZoScrollBar m_shortHorizontal;
+    ZoControls::CZoStatic m_aReadouts[BarCount];
+    ZoControls::CZoScrollBar m_aShortBars[ShortBarCount];
     ZoControls::CZoScrollBar m_viewBar;
     CScrolledLinesView m_view;
     ZoControls::CZoProgressCtrl m_aProgress[ProgressCount];
@@ -55,8 +81,6 @@ private:
     ZoControls::CZoSpinButtonCtrl m_spinHorizontal;
     CEdit m_editVertical;
     CEdit m_editHorizontal;
-    CStatic m_leftPane;
-    CStatic m_rightPane;
     ZoControls::CSeparatorWnd* m_pSeparator;
-    CRect m_rcPanes;
+    SplitPanesLayout m_panes;
 };

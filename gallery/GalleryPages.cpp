@@ -1,10 +1,12 @@
 // The gallery's pages, in the order they are listed. One line per page.
 #include <afxwin.h>
 
+#include "ButtonsPage.h"
 #include "GalleryPage.h"
 #include "MenusPage.h"
 #include "ScrollingPage.h"
 #include "SkinsPage.h"
+#include "StaticsPage.h"
 #include "ThemePage.h"
 
 namespace {
@@ -15,6 +17,8 @@ const GalleryPageEntry kPages[] = {
     {L"Skins 5M", &CreateGalleryPage<CSkins5MPage>},
     {L"Menus", &CreateGalleryPage<CMenusPage>},
     {L"Scrolling", &CreateGalleryPage<CScrollingPage>},
+    {L"Buttons", &CreateGalleryPage<CButtonsPage>},
+    {L"Statics", &CreateGalleryPage<CStaticsPage>},
 };
 } // namespace
 

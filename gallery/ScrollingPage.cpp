@@ -85,13 +85,18 @@ void ApplyScroll(CScrollBar* pBar, UINT nSBCode, UINT nPos)
 
 } // namespace
 
+CRect SplitBarRange(const CRect& area, int minPane, int barWidth)
+{
+    return CRect(area.left + minPane, area.top, area.right - minPane - barWidth, area.bottom);
+}
+
 SplitPanesLayout LayoutSplitPanes(const CRect& area, int splitX, int minPane, int barWidth)
 {
     SplitPanesLayout layout;
+    const CRect range = SplitBarRange(area, minPane, barWidth);
     // An area too narrow for both minimums splits in the middle rather than inverting.
-    const int low = area.left + minPane;
-    const int high = area.right - minPane - barWidth;
-    const int x = low <= high ? ZoSeparatorClamp(splitX, low, high) : area.left + (area.Width() - barWidth) / 2;
+    const int x = range.left <= range.right ? ZoSeparatorClamp(splitX, range.left, range.right)
+                                            : area.left + (area.Width() - barWidth) / 2;
     layout.left = CRect(area.left, area.top, x, area.bottom);
     layout.bar = CRect(x, area.top, x + barWidth, area.bottom);
     layout.right = CRect(x + barWidth, area.top, area.right, area.bottom);
@@ -275,8 +280,7 @@ void CScrollingPage::_layoutPanes(int splitX)
 {
     m_panes = LayoutSplitPanes(kPanesArea, splitX, kMinPaneWidth, kSeparatorWidth);
     m_pSeparator->MoveWindow(&m_panes.bar);
-    CRect limit(kPanesArea.left + kMinPaneWidth, kPanesArea.top, kPanesArea.right - kMinPaneWidth - kSeparatorWidth,
-                kPanesArea.bottom);
+    CRect limit = SplitBarRange(kPanesArea, kMinPaneWidth, kSeparatorWidth);
     ClientToScreen(&limit);
     m_pSeparator->SetBoundaryOnScreen(&limit);
     // Also clears what is left of the rubber band.

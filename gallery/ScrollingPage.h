@@ -30,6 +30,10 @@ private:
     int m_nTopLine;
 };
 
+// Where the bar between two side-by-side panes in `area` may sit (its left edge, from left to
+// right) when each pane keeps `minPane` pixels.
+CRect SplitBarRange(const CRect& area, int minPane, int barWidth);
+
 // Where two side-by-side panes and the bar between them go in `area` when the bar is asked
 // to sit at `splitX`: the bar keeps `minPane` pixels from either side.
 struct SplitPanesLayout

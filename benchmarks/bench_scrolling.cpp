@@ -14,9 +14,11 @@
 
 #include <vector>
 
+#include "BenchTiming.h"
 #include "core/ZoCtrl.h"
 
 using namespace ZoControls;
+using zobench::Pair;
 
 namespace {
 
@@ -31,27 +33,6 @@ const int kPaintsPerRun = 60;
 const int kDragSteps = 100;
 // Two rows of the vertical bar far enough apart that every step changes the position.
 const int kDragRows[2] = {60, 140};
-
-double Now()
-{
-    static LARGE_INTEGER frequency = {};
-    if (!frequency.QuadPart)
-        ::QueryPerformanceFrequency(&frequency);
-    LARGE_INTEGER counter;
-    ::QueryPerformanceCounter(&counter);
-    return static_cast<double>(counter.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
-
-// Average seconds per call of `work`, over `rounds` calls after one warm-up call.
-template <class Work>
-double TimePerCall(int rounds, Work work)
-{
-    work();
-    const double start = Now();
-    for (int i = 0; i < rounds; ++i)
-        work();
-    return (Now() - start) / rounds;
-}
 
 void Report(const char* what, double seconds, double native)
 {
@@ -74,7 +55,7 @@ LRESULT CALLBACK HostProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message == WM_VSCROLL && LOWORD(wParam) == SB_THUMBTRACK && reinterpret_cast<HWND>(lParam) == g_trackLog.bar)
     {
-        g_trackLog.times.push_back(Now());
+        g_trackLog.times.push_back(zobench::Now());
         return 0;
     }
     return ::DefWindowProcW(hWnd, message, wParam, lParam);
@@ -92,12 +73,6 @@ HWND CreateHost()
                              800, 600, NULL, NULL, wc.hInstance, NULL);
 }
 
-HWND CreateNative(HWND host, const wchar_t* className, DWORD style, const CRect& rect)
-{
-    return ::CreateWindowExW(0, className, L"", WS_CHILD | WS_VISIBLE | style, rect.left, rect.top, rect.Width(),
-                             rect.Height(), host, NULL, ::GetModuleHandleW(NULL), NULL);
-}
-
 // Range 0..109, a page of 10, at 50: the thumb sits across the bar's middle.
 void SetScrollState(HWND bar)
 {
@@ -113,42 +88,14 @@ void SetProgressState(HWND progress)
 
 double RepaintTime(HWND hWnd)
 {
-    return TimePerCall(kPaintsPerRun,
-                       [hWnd] { ::RedrawWindow(hWnd, NULL, NULL, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW); });
+    return zobench::TimePerCall(
+        kPaintsPerRun, [hWnd] { ::RedrawWindow(hWnd, NULL, NULL, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW); });
 }
-
-// The smaller of `best` and `sample`, where 0 means "none yet" in `best` and "failed" in `sample`.
-double Best(double best, double sample)
-{
-    return sample > 0 && (best <= 0 || sample < best) ? sample : best;
-}
-
-struct Pair
-{
-    double zo;
-    double native;
-};
 
 // Best repaint times of `zo` and `native`, measured in turns.
 Pair CompareRepaints(HWND zo, HWND native)
 {
-    Pair best = {0, 0};
-    for (int run = 0; run < kRuns; ++run)
-    {
-        best.native = Best(best.native, RepaintTime(native));
-        best.zo = Best(best.zo, RepaintTime(zo));
-    }
-    return best;
-}
-
-void PumpPending()
-{
-    MSG msg;
-    while (::PeekMessageW(&msg, NULL, 0, 0, PM_REMOVE))
-    {
-        ::TranslateMessage(&msg);
-        ::DispatchMessageW(&msg);
-    }
+    return zobench::CompareInTurns(kRuns, [zo] { return RepaintTime(zo); }, [native] { return RepaintTime(native); });
 }
 
 // Seconds per drag step of a vertical bar: the moves and the release are queued before the press
@@ -160,7 +107,7 @@ double DragStepTime(HWND bar, size_t& notifications)
 {
     // The host does not write the dragged position back: start each drag from the same state.
     SetScrollState(bar);
-    PumpPending();
+    zobench::PumpPending();
     const int x = kBarThickness / 2;
     for (int i = 0; i < kDragSteps; ++i)
         ::PostMessageW(bar, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(x, kDragRows[i % 2]));
@@ -168,7 +115,7 @@ double DragStepTime(HWND bar, size_t& notifications)
     g_trackLog.bar = bar;
     g_trackLog.times.clear();
     ::SendMessageW(bar, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, kBarLength / 2));
-    PumpPending();
+    zobench::PumpPending();
     g_trackLog.bar = NULL;
     // The first notification may come from the press itself: count the spacing after it.
     const std::vector<double>& times = g_trackLog.times;
@@ -178,74 +125,82 @@ double DragStepTime(HWND bar, size_t& notifications)
     return (times.back() - times.front()) / static_cast<double>(times.size() - 1);
 }
 
+// A skinned control and the native one it stands in for, side by side on the host.
+template <class TControl>
+class Twins
+{
+public:
+    Twins(HWND host, const wchar_t* nativeClass, DWORD style, const CRect& rect, UINT id)
+    {
+        const DWORD child = WS_CHILD | WS_VISIBLE | style;
+        m_zo.Create(child, rect, CWnd::FromHandle(host), id);
+        const CRect beside = rect + CPoint(300, 0);
+        m_hNative = ::CreateWindowExW(0, nativeClass, L"", child, beside.left, beside.top, beside.Width(),
+                                      beside.Height(), host, NULL, ::GetModuleHandleW(NULL), NULL);
+    }
+    ~Twins()
+    {
+        m_zo.DestroyWindow();
+        if (m_hNative)
+            ::DestroyWindow(m_hNative);
+    }
+    HWND Zo() const { return m_zo.GetSafeHwnd(); }
+    HWND Native() const { return m_hNative; }
+    Pair BestRepaints() const { return CompareRepaints(Zo(), m_hNative); }
+
+private:
+    Twins(const Twins&);
+    Twins& operator=(const Twins&);
+
+    TControl m_zo;
+    HWND m_hNative;
+};
+
 void RunScrollBars(HWND host)
 {
-    CWnd* pHost = CWnd::FromHandle(host);
-    CZoScrollBar zoVertical;
-    CZoScrollBar zoHorizontal;
-    const CRect verticalRect(10, 10, 10 + kBarThickness, 10 + kBarLength);
-    const CRect horizontalRect(40, 10, 40 + kBarLength, 10 + kBarThickness);
-    zoVertical.Create(WS_CHILD | WS_VISIBLE | SBS_VERT, verticalRect, pHost, 1);
-    zoHorizontal.Create(WS_CHILD | WS_VISIBLE | SBS_HORZ, horizontalRect, pHost, 2);
-    const HWND nativeVertical = CreateNative(host, L"SCROLLBAR", SBS_VERT, verticalRect + CPoint(300, 0));
-    const HWND nativeHorizontal = CreateNative(host, L"SCROLLBAR", SBS_HORZ, horizontalRect + CPoint(300, 0));
-    const HWND bars[4] = {zoVertical.GetSafeHwnd(), zoHorizontal.GetSafeHwnd(), nativeVertical, nativeHorizontal};
+    const Twins<CZoScrollBar> vertical(host, L"SCROLLBAR", SBS_VERT,
+                                       CRect(10, 10, 10 + kBarThickness, 10 + kBarLength), 1);
+    const Twins<CZoScrollBar> horizontal(host, L"SCROLLBAR", SBS_HORZ,
+                                         CRect(40, 10, 40 + kBarLength, 10 + kBarThickness), 2);
+    const HWND bars[4] = {vertical.Zo(), vertical.Native(), horizontal.Zo(), horizontal.Native()};
     for (int i = 0; i < 4; ++i)
         SetScrollState(bars[i]);
-    PumpPending();
+    zobench::PumpPending();
 
-    const Pair vertical = CompareRepaints(zoVertical.GetSafeHwnd(), nativeVertical);
-    const Pair horizontal = CompareRepaints(zoHorizontal.GetSafeHwnd(), nativeHorizontal);
-    Pair step = {0, 0};
+    const Pair verticalPaint = vertical.BestRepaints();
+    const Pair horizontalPaint = horizontal.BestRepaints();
     size_t nativeSteps = 0;
     size_t zoSteps = 0;
-    for (int run = 0; run < kRuns; ++run)
-    {
-        step.native = Best(step.native, DragStepTime(nativeVertical, nativeSteps));
-        step.zo = Best(step.zo, DragStepTime(zoVertical.GetSafeHwnd(), zoSteps));
-    }
+    const Pair step = zobench::CompareInTurns(
+        kRuns, [&] { return DragStepTime(vertical.Zo(), zoSteps); },
+        [&] { return DragStepTime(vertical.Native(), nativeSteps); });
 
     printf("Scroll bars, %dx%d and %dx%d:\n", kBarThickness, kBarLength, kBarLength, kBarThickness);
-    Report("CZoScrollBar vertical repaint", vertical.zo, vertical.native);
-    Report("CZoScrollBar horizontal repaint", horizontal.zo, horizontal.native);
+    Report("CZoScrollBar vertical repaint", verticalPaint.zo, verticalPaint.native);
+    Report("CZoScrollBar horizontal repaint", horizontalPaint.zo, horizontalPaint.native);
     Report("CZoScrollBar thumb-drag step", step.zo, step.native);
     printf("  (last run, %d moves: %u SB_THUMBTRACK from CZoScrollBar, %u from the native bar)\n", kDragSteps,
            static_cast<unsigned>(zoSteps), static_cast<unsigned>(nativeSteps));
-
-    zoVertical.DestroyWindow();
-    zoHorizontal.DestroyWindow();
-    ::DestroyWindow(nativeVertical);
-    ::DestroyWindow(nativeHorizontal);
 }
 
 void RunProgressBars(HWND host)
 {
-    CWnd* pHost = CWnd::FromHandle(host);
-    CZoProgressCtrl zoHorizontal;
-    CZoProgressCtrl zoVertical;
-    const CRect horizontalRect(10, 250, 10 + kProgressLength, 250 + kProgressThickness);
-    const CRect verticalRect(10, 280, 10 + kProgressThickness, 280 + kProgressLength);
-    zoHorizontal.Create(WS_CHILD | WS_VISIBLE, horizontalRect, pHost, 3);
-    zoVertical.Create(WS_CHILD | WS_VISIBLE | PBS_VERTICAL, verticalRect, pHost, 4);
-    const HWND nativeHorizontal = CreateNative(host, PROGRESS_CLASSW, 0, horizontalRect + CPoint(300, 0));
-    const HWND nativeVertical = CreateNative(host, PROGRESS_CLASSW, PBS_VERTICAL, verticalRect + CPoint(300, 0));
-    const HWND bars[4] = {zoHorizontal.GetSafeHwnd(), zoVertical.GetSafeHwnd(), nativeHorizontal, nativeVertical};
+    const Twins<CZoProgressCtrl> horizontal(host, PROGRESS_CLASSW, 0,
+                                            CRect(10, 250, 10 + kProgressLength, 250 + kProgressThickness), 3);
+    const Twins<CZoProgressCtrl> vertical(host, PROGRESS_CLASSW, PBS_VERTICAL,
+                                          CRect(10, 280, 10 + kProgressThickness, 280 + kProgressLength), 4);
+    const HWND bars[4] = {horizontal.Zo(), horizontal.Native(), vertical.Zo(), vertical.Native()};
     for (int i = 0; i < 4; ++i)
         SetProgressState(bars[i]);
-    PumpPending();
+    zobench::PumpPending();
 
-    const Pair horizontal = CompareRepaints(zoHorizontal.GetSafeHwnd(), nativeHorizontal);
-    const Pair vertical = CompareRepaints(zoVertical.GetSafeHwnd(), nativeVertical);
+    const Pair horizontalPaint = horizontal.BestRepaints();
+    const Pair verticalPaint = vertical.BestRepaints();
 
     printf("Progress bars at 50%%, %dx%d and %dx%d:\n", kProgressLength, kProgressThickness, kProgressThickness,
            kProgressLength);
-    Report("CZoProgressCtrl horizontal repaint", horizontal.zo, horizontal.native);
-    Report("CZoProgressCtrl vertical repaint", vertical.zo, vertical.native);
-
-    zoHorizontal.DestroyWindow();
-    zoVertical.DestroyWindow();
-    ::DestroyWindow(nativeHorizontal);
-    ::DestroyWindow(nativeVertical);
+    Report("CZoProgressCtrl horizontal repaint", horizontalPaint.zo, horizontalPaint.native);
+    Report("CZoProgressCtrl vertical repaint", verticalPaint.zo, verticalPaint.native);
 }
 
 } // namespace

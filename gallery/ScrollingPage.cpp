@@ -270,7 +270,8 @@ BOOL CScrollingPage::_createSpinButtons()
 BOOL CScrollingPage::_createSeparator()
 {
     m_pSeparator = new CSeparatorWnd(kSeparatorId, CSeparatorWnd::SeparatorDirection_Vertical, this, true);
-    if (!m_pSeparator->Create(AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), this, kSeparatorId))
+    const LPCTSTR className = AfxRegisterWndClass(0, ::LoadCursor(NULL, IDC_ARROW));
+    if (!m_pSeparator->Create(className, L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), this, kSeparatorId))
         return FALSE;
     _layoutPanes(kPanesArea.CenterPoint().x);
     return TRUE;

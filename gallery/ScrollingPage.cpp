@@ -20,26 +20,26 @@ const int kSeparatorWidth = 2;
 const int kMinPaneWidth = 120;
 
 // Where everything sits, in page client coordinates.
-const CRect kScrollBarsCaption(12, 8, 560, 28);
+const CPoint kScrollBarsHeading(12, 8);
 const CRect kVerticalBars[2] = {CRect(12, 32, 31, 232), CRect(40, 32, 59, 232)};
 const CRect kHorizontalBars[2] = {CRect(72, 32, 392, 51), CRect(72, 60, 392, 79)};
 const CRect kFirstReadout(408, 32, 640, 52);
 const int kReadoutPitch = 22;
-const CRect kShortBarsCaption(72, 96, 232, 116);
+const CPoint kShortBarsHeading(72, 96);
 // Two bars too short for a thumb (half-height buttons) and two whose channel is too short
 // for one (full buttons): all four draw the placeholder.
 const CRect kShortBars[4] = {CRect(72, 120, 91, 170), CRect(104, 120, 123, 184), CRect(140, 120, 190, 139),
                              CRect(140, 152, 204, 171)};
-const CRect kViewCaption(240, 96, 440, 116);
+const CPoint kViewHeading(240, 96);
 const CRect kView(240, 120, 400, 234);
 const int kViewBarWidth = 19;
-const CRect kProgressCaption(12, 252, 300, 272);
+const CPoint kProgressHeading(12, 252);
 const CRect kProgressBars[3] = {CRect(12, 280, 252, 298), CRect(264, 280, 292, 400), CRect(12, 308, 252, 326)};
 const int kProgressStart[3] = {35, 70, 50};
-const CRect kSpinCaption(320, 252, 560, 272);
+const CPoint kSpinHeading(320, 252);
 const CRect kSpinEdits[2] = {CRect(320, 280, 380, 302), CRect(320, 312, 380, 334)};
-const CRect kSpinLabels[2] = {CRect(400, 280, 560, 302), CRect(400, 312, 560, 334)};
-const CRect kPanesCaption(12, 424, 560, 444);
+const CRect kSpinLabels[2] = {CRect(392, 280, 560, 302), CRect(392, 312, 560, 334)};
+const CPoint kPanesHeading(12, 424);
 const CRect kPanesArea(12, 448, 560, 568);
 
 const CZoThemeManager* Theme()
@@ -55,19 +55,6 @@ COLORREF SlotColor(int slot, COLORREF fallback)
 CFont* SlotFont(E_ZoThemeFont role)
 {
     return Theme() ? const_cast<CFont*>(Theme()->GetCacheGDIFont(role, ZoMonitorSize_Normal)) : NULL;
-}
-
-// Draws `text` in `rect` with the theme's caption font and colour.
-void DrawCaption(CDC& dc, const CRect& rect, const wchar_t* text, UINT format = DT_LEFT)
-{
-    CFont* pFont = SlotFont(ZoThemeFont_2);
-    CFont* pOld = pFont ? dc.SelectObject(pFont) : NULL;
-    dc.SetBkMode(TRANSPARENT);
-    dc.SetTextColor(SlotColor(2, RGB(255, 255, 255)));
-    CRect box(rect);
-    dc.DrawText(text, &box, format | DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
-    if (pOld)
-        dc.SelectObject(pOld);
 }
 
 void SetRange(CZoScrollBar& bar, int minimum, int maximum, int page, int pos)
@@ -188,6 +175,7 @@ CScrollingPage::~CScrollingPage()
 
 BOOL CScrollingPage::OnCreatePage()
 {
+    _addLabels();
     return _createScrollBars() && _createShortBars() && _createBuddyView() && _createProgressBars() &&
            _createSpinButtons() && _createSeparator();
 }
@@ -298,17 +286,23 @@ LRESULT CScrollingPage::OnSeparatorMoved(WPARAM wParam, LPARAM lParam)
     return 0;
 }
 
+void CScrollingPage::_addLabels()
+{
+    m_labels.AddHeading(kScrollBarsHeading.x, kScrollBarsHeading.y,
+                        L"Scroll bars in skin variants 0 and 1, vertical and horizontal");
+    m_labels.AddHeading(kShortBarsHeading.x, kShortBarsHeading.y, L"Too short for a thumb");
+    m_labels.AddHeading(kViewHeading.x, kViewHeading.y, L"Buddy of a scrolled view");
+    m_labels.AddHeading(kProgressHeading.x, kProgressHeading.y, L"Progress bars on a timer, the lower one disabled");
+    m_labels.AddHeading(kSpinHeading.x, kSpinHeading.y, L"Spin buttons with buddy edits");
+    m_labels.AddLabel(kSpinLabels[0], L"starts at its minimum");
+    m_labels.AddLabel(kSpinLabels[1], L"starts at its maximum");
+    m_labels.AddHeading(kPanesHeading.x, kPanesHeading.y, L"Two panes split by a movable separator: drag it");
+}
+
 void CScrollingPage::DrawPage(CDC& dc, const CRect& client)
 {
     CGalleryPage::DrawPage(dc, client);
-    DrawCaption(dc, kScrollBarsCaption, L"Scroll bars in skin variants 0 and 1 (vertical, horizontal)");
-    DrawCaption(dc, kShortBarsCaption, L"Too short for a thumb");
-    DrawCaption(dc, kViewCaption, L"Buddy of a scrolled view");
-    DrawCaption(dc, kProgressCaption, L"Progress bars on a timer (the lower one disabled)");
-    DrawCaption(dc, kSpinCaption, L"Spin buttons with buddy edits");
-    DrawCaption(dc, kSpinLabels[0], L"starts at its minimum");
-    DrawCaption(dc, kSpinLabels[1], L"starts at its maximum");
-    DrawCaption(dc, kPanesCaption, L"Two panes split by a movable separator: drag it");
+    m_labels.Draw(dc);
     _drawPanes(dc);
 }
 
@@ -318,6 +312,7 @@ void CScrollingPage::_drawPanes(CDC& dc)
     const COLORREF frame = SlotColor(49, RGB(0, 0, 0));
     const CRect* panes[2] = {&m_panes.left, &m_panes.right};
     const wchar_t* names[2] = {L"Left pane", L"Right pane"};
+    CPageLabels widths;
     for (int i = 0; i < 2; ++i)
     {
         if (panes[i]->IsRectEmpty())
@@ -326,8 +321,11 @@ void CScrollingPage::_drawPanes(CDC& dc)
         dc.Draw3dRect(panes[i], frame, frame);
         CString text;
         text.Format(L"%s: %d px", names[i], panes[i]->Width());
-        DrawCaption(dc, *panes[i], text, DT_CENTER);
+        CRect inside(*panes[i]);
+        inside.DeflateRect(8, 8);
+        widths.AddLabel(inside, text);
     }
+    widths.Draw(dc);
 }
 
 void CScrollingPage::_showPosition(int index)

@@ -3,6 +3,7 @@
 // spin buttons with buddy edits at their range ends and two panes split by a movable separator.
 #pragma once
 #include "GalleryPage.h"
+#include "PageParts.h"
 
 #include <afxcmn.h>
 
@@ -64,6 +65,7 @@ protected:
 private:
     enum { BarCount = 4, ShortBarCount = 4, ProgressCount = 3 };
 
+    void _addLabels();
     BOOL _createScrollBars();
     BOOL _createShortBars();
     BOOL _createBuddyView();
@@ -87,4 +89,5 @@ private:
     CEdit m_editHorizontal;
     ZoControls::CSeparatorWnd* m_pSeparator;
     SplitPanesLayout m_panes;
+    CPageLabels m_labels;
 };

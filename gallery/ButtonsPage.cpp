@@ -161,6 +161,9 @@ CZoButton* CButtonsPage::_add(CZoButton* pButton, const wchar_t* caption, DWORD 
 
 BOOL CButtonsPage::OnCreatePage()
 {
+    // Frames, group boxes and thick edges leave pixels unpainted: the page paints beneath its
+    // children so that nothing from an earlier page shows there.
+    ModifyStyle(WS_CLIPCHILDREN, 0);
     _createStateGrid();
     _createLiveButtons();
     _createGroupBoxes();

@@ -147,6 +147,9 @@ HBITMAP CStaticsPage::_loadLibraryBitmap(LPCWSTR name)
 
 BOOL CStaticsPage::OnCreatePage()
 {
+    // Frames, group boxes and thick edges leave pixels unpainted: the page paints beneath its
+    // children so that nothing from an earlier page shows there.
+    ModifyStyle(WS_CLIPCHILDREN, 0);
     _createTexts();
     _createLive();
     _createPictures();

@@ -2,24 +2,10 @@
 #include <afxtempl.h>
 #include <gtest/gtest.h>
 #include <zotest/resource_counter.h>
+#include "throws.h"
 #include <vector>
 
 namespace {
-
-template <class F>
-bool ThrowsInvalidArg(F f)
-{
-    try
-    {
-        f();
-    }
-    catch (CInvalidArgException* e)
-    {
-        e->Delete();
-        return true;
-    }
-    return false;
-}
 
 std::vector<int> ListContents(const CList<int, int>& list)
 {
@@ -82,11 +68,11 @@ TEST(Array, BadIndexesThrowInvalidArg)
 {
     CArray<int> values;
     values.Add(1);
-    EXPECT_TRUE(ThrowsInvalidArg([&] { (void)values.GetAt(1); }));
-    EXPECT_TRUE(ThrowsInvalidArg([&] { values.SetAt(-1, 0); }));
-    EXPECT_TRUE(ThrowsInvalidArg([&] { values.RemoveAt(0, 2); }));
-    EXPECT_TRUE(ThrowsInvalidArg([&] { values.SetSize(-1); }));
-    EXPECT_TRUE(ThrowsInvalidArg([&] { values.InsertAt(-1, 0); }));
+    EXPECT_TRUE(Throws<CInvalidArgException>([&] { (void)values.GetAt(1); }));
+    EXPECT_TRUE(Throws<CInvalidArgException>([&] { values.SetAt(-1, 0); }));
+    EXPECT_TRUE(Throws<CInvalidArgException>([&] { values.RemoveAt(0, 2); }));
+    EXPECT_TRUE(Throws<CInvalidArgException>([&] { values.SetSize(-1); }));
+    EXPECT_TRUE(Throws<CInvalidArgException>([&] { values.InsertAt(-1, 0); }));
     EXPECT_EQ(values.GetSize(), 1);
 }
 
@@ -187,8 +173,8 @@ TEST(List, RemoveWhileIteratingAndBackwards)
     EXPECT_EQ(list.GetCount(), 12);
     list.RemoveAll();
     EXPECT_TRUE(list.IsEmpty());
-    EXPECT_TRUE(ThrowsInvalidArg([&] { (void)list.RemoveHead(); }));
-    EXPECT_TRUE(ThrowsInvalidArg([&] { POSITION none = NULL; (void)list.GetNext(none); }));
+    EXPECT_TRUE(Throws<CInvalidArgException>([&] { (void)list.RemoveHead(); }));
+    EXPECT_TRUE(Throws<CInvalidArgException>([&] { POSITION none = NULL; (void)list.GetNext(none); }));
 }
 
 TEST(List, NonTemplateAndTypedLists)
@@ -315,7 +301,7 @@ TEST(Map, NonTemplateAndTypedMaps)
     EXPECT_TRUE(typed.Lookup(L"array", pFound));
     EXPECT_EQ(pFound, &array);
     EXPECT_FALSE(typed.Lookup(L"missing", pFound));
-    EXPECT_TRUE(ThrowsInvalidArg([&] { POSITION none = NULL; typed.GetNextAssoc(none, key, pFound); }));
+    EXPECT_TRUE(Throws<CInvalidArgException>([&] { POSITION none = NULL; typed.GetNextAssoc(none, key, pFound); }));
 }
 
 TEST(CollectionMemory, NoHeapGrowthAcrossCycles)

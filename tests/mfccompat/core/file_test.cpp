@@ -45,6 +45,25 @@ protected:
     CString m_dir;
 };
 
+// The cause of the CFileException `operation` throws (its file name in `fileName`), or -1.
+template <class F>
+int FileExceptionCause(F operation, CString* fileName = NULL)
+{
+    try
+    {
+        operation();
+    }
+    catch (CFileException* e)
+    {
+        const int cause = e->m_cause;
+        if (fileName != NULL)
+            *fileName = e->m_strFileName;
+        e->Delete();
+        return cause;
+    }
+    return -1;
+}
+
 } // namespace
 
 TEST_F(FileTest, OpenMissingFileReportsFileNotFound)
@@ -74,18 +93,10 @@ TEST_F(FileTest, OpenInMissingFolderReportsBadPath)
 
 TEST_F(FileTest, ConstructorThrowsWithCauseAndName)
 {
-    CString path = PathOf(L"absent.txt");
-    try
-    {
-        CFile file(path, CFile::modeRead | CFile::shareDenyNone);
-        FAIL() << "opened a missing file";
-    }
-    catch (CFileException* e)
-    {
-        EXPECT_EQ(e->m_cause, CFileException::fileNotFound);
-        EXPECT_STREQ(e->m_strFileName, path);
-        e->Delete();
-    }
+    CString path = PathOf(L"absent.txt"), named;
+    EXPECT_EQ(FileExceptionCause([&] { CFile file(path, CFile::modeRead | CFile::shareDenyNone); }, &named),
+              CFileException::fileNotFound);
+    EXPECT_STREQ(named, path);
 }
 
 TEST_F(FileTest, WriteSeekReadAndShortRead)
@@ -117,17 +128,9 @@ TEST_F(FileTest, SeekBeforeTheStartThrows)
 {
     CFile file(PathOf(L"seek.bin"), CFile::modeCreate | CFile::modeReadWrite);
     file.Write("abc", 3);
-    try
-    {
-        file.Seek(-10, CFile::begin);
-        FAIL() << "seek before the start accepted";
-    }
-    catch (CFileException* e)
-    {
-        EXPECT_EQ(e->m_cause, CFileException::badSeek);
-        EXPECT_STREQ(e->m_strFileName, file.GetFilePath());
-        e->Delete();
-    }
+    CString named;
+    EXPECT_EQ(FileExceptionCause([&] { file.Seek(-10, CFile::begin); }, &named), CFileException::badSeek);
+    EXPECT_STREQ(named, file.GetFilePath());
     EXPECT_EQ(file.GetPosition(), 3u);
 }
 
@@ -135,26 +138,8 @@ TEST_F(FileTest, OperationsOnAClosedFileThrowInvalidFile)
 {
     CFile file;
     char buffer[4];
-    try
-    {
-        file.Read(buffer, sizeof(buffer));
-        FAIL() << "read from a closed file";
-    }
-    catch (CFileException* e)
-    {
-        EXPECT_EQ(e->m_cause, CFileException::invalidFile);
-        e->Delete();
-    }
-    try
-    {
-        file.Write("x", 1);
-        FAIL() << "write to a closed file";
-    }
-    catch (CFileException* e)
-    {
-        EXPECT_EQ(e->m_cause, CFileException::invalidFile);
-        e->Delete();
-    }
+    EXPECT_EQ(FileExceptionCause([&] { file.Read(buffer, sizeof(buffer)); }), CFileException::invalidFile);
+    EXPECT_EQ(FileExceptionCause([&] { file.Write("x", 1); }), CFileException::invalidFile);
     file.Close(); // closing twice is harmless
     file.Flush();
 }
@@ -165,16 +150,7 @@ TEST_F(FileTest, ReadingAWriteOnlyFileIsAccessDenied)
     file.Write("abc", 3);
     file.SeekToBegin();
     char buffer[4];
-    try
-    {
-        file.Read(buffer, 3);
-        FAIL() << "read from a write-only file";
-    }
-    catch (CFileException* e)
-    {
-        EXPECT_EQ(e->m_cause, CFileException::accessDenied);
-        e->Delete();
-    }
+    EXPECT_EQ(FileExceptionCause([&] { file.Read(buffer, 3); }), CFileException::accessDenied);
 }
 
 TEST_F(FileTest, ShareDenyWriteBlocksASecondWriter)
@@ -232,17 +208,9 @@ TEST_F(FileTest, RenameAndRemove)
     EXPECT_TRUE(finder.FindFile(PathOf(L"new.txt")));
     finder.Close();
     CFile::Remove(PathOf(L"new.txt"));
-    try
-    {
-        CFile::Remove(PathOf(L"new.txt"));
-        FAIL() << "removed a missing file";
-    }
-    catch (CFileException* e)
-    {
-        EXPECT_EQ(e->m_cause, CFileException::fileNotFound);
-        EXPECT_STREQ(e->m_strFileName, PathOf(L"new.txt"));
-        e->Delete();
-    }
+    CString named;
+    EXPECT_EQ(FileExceptionCause([&] { CFile::Remove(PathOf(L"new.txt")); }, &named), CFileException::fileNotFound);
+    EXPECT_STREQ(named, PathOf(L"new.txt"));
 }
 
 TEST_F(FileTest, FindFilesByPattern)

@@ -2,6 +2,7 @@
 #include <afx.h>
 #include <gtest/gtest.h>
 #include <zotest/resource_counter.h>
+#include "throws.h"
 
 TEST(StringConstruction, FromWideNarrowCharAndCount)
 {
@@ -234,24 +235,8 @@ TEST(StringAccess, GetAtSetAtAndBadIndexes)
     EXPECT_EQ(s[2], L'c');
     s.SetAt(0, L'A');
     EXPECT_STREQ(s, L"Abc");
-    try
-    {
-        s.SetAt(3, L'x');
-        FAIL() << "out-of-range SetAt accepted";
-    }
-    catch (CInvalidArgException* e)
-    {
-        e->Delete();
-    }
-    try
-    {
-        (void)s.GetAt(-1);
-        FAIL() << "negative GetAt accepted";
-    }
-    catch (CInvalidArgException* e)
-    {
-        e->Delete();
-    }
+    EXPECT_TRUE(Throws<CInvalidArgException>([&] { s.SetAt(3, L'x'); })) << "out-of-range SetAt accepted";
+    EXPECT_TRUE(Throws<CInvalidArgException>([&] { (void)s.GetAt(-1); })) << "negative GetAt accepted";
 }
 
 TEST(StringBuffer, GetBufferReleaseBufferMinusOne)

@@ -1,10 +1,12 @@
 // Scrolling timings, each as a ratio against the native control of the same size measured in
 // the same run:
-//   repaint of CZoScrollBar (vertical, horizontal)   vs  "SCROLLBAR"
-//   repaint of CZoProgressCtrl (horizontal, vertical) vs  "msctls_progress32"
+//   paint and repaint of CZoScrollBar (vertical, horizontal)   vs  "SCROLLBAR"
+//   paint and repaint of CZoProgressCtrl (horizontal, vertical) vs  "msctls_progress32"
 //   one thumb-drag step (mouse move -> repaint -> WM_VSCROLL at the parent) vs the native bar
-// A repaint is RedrawWindow with invalidate + erase + update-now: all the work the window does
-// for one exposure, both windows visible on the same host.
+// Paint is WM_PRINTCLIENT into a memory DC of the control's size (the drawing alone; left out
+// for a native control that draws nothing on it); repaint is RedrawWindow with invalidate +
+// erase + update-now on the visible window (all the work of one exposure).
+#include "core/ZoMemDC.h"
 #include <afxwin.h>
 #include <afxcmn.h>
 #include <commctrl.h>
@@ -33,14 +35,17 @@ const int kPaintsPerRun = 60;
 const int kDragSteps = 100;
 // Two rows of the vertical bar far enough apart that every step changes the position.
 const int kDragRows[2] = {60, 140};
+const char* const kNoNativePaint = "the native control draws nothing on WM_PRINTCLIENT";
+const char* const kNoNativeTime = "the native control was not measured";
 
-void Report(const char* what, double seconds, double native)
+// `missing` says why there is no native figure when `native` is 0.
+void Report(const char* what, double seconds, double native, const char* missing)
 {
     if (native > 0)
         printf("%-46s %10.3f us   ratio %8.2f x native (%.3f us)\n", what, seconds * 1e6, seconds / native,
                native * 1e6);
     else
-        printf("%-46s %10.3f us   (native not measured)\n", what, seconds * 1e6);
+        printf("%-46s %10.3f us   (%s)\n", what, seconds * 1e6, missing);
 }
 
 // The host: a plain window that timestamps the thumb-tracking notifications of one bar.
@@ -90,6 +95,42 @@ double RepaintTime(HWND hWnd)
 {
     return zobench::TimePerCall(
         kPaintsPerRun, [hWnd] { ::RedrawWindow(hWnd, NULL, NULL, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW); });
+}
+
+double PaintTime(HWND hWnd, CDC& dc)
+{
+    return zobench::TimePerCall(kPaintsPerRun, [hWnd, &dc] {
+        ::SendMessageW(hWnd, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.GetSafeHdc()), PRF_CLIENT | PRF_ERASEBKGND);
+    });
+}
+
+// Whether `hWnd` draws anything on WM_PRINTCLIENT into `dc` of `size`.
+bool DrawsOnPrintClient(HWND hWnd, CDC& dc, const CSize& size)
+{
+    const COLORREF unpainted = RGB(255, 0, 255);
+    dc.FillSolidRect(0, 0, size.cx, size.cy, unpainted);
+    ::SendMessageW(hWnd, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.GetSafeHdc()), PRF_CLIENT | PRF_ERASEBKGND);
+    for (int y = 0; y < size.cy; ++y)
+        for (int x = 0; x < size.cx; ++x)
+            if (dc.GetPixel(x, y) != unpainted)
+                return true;
+    return false;
+}
+
+// Best paint times of `zo` and `native`, measured in turns; the native time stays 0 when that
+// control draws nothing on WM_PRINTCLIENT.
+Pair ComparePaints(HWND zo, HWND native)
+{
+    CRect client;
+    ::GetClientRect(zo, &client);
+    CClientDC screen(NULL);
+    CZoMemDC target(&screen, client.Width(), client.Height());
+    if (!target.GetSafeHdc())
+        return Pair();
+    if (!DrawsOnPrintClient(native, target, client.Size()))
+        return zobench::CompareInTurns(kRuns, [zo, &target] { return PaintTime(zo, target); }, [] { return 0.0; });
+    return zobench::CompareInTurns(kRuns, [zo, &target] { return PaintTime(zo, target); },
+                                   [native, &target] { return PaintTime(native, target); });
 }
 
 // Best repaint times of `zo` and `native`, measured in turns.
@@ -146,6 +187,7 @@ public:
     }
     HWND Zo() const { return m_zo.GetSafeHwnd(); }
     HWND Native() const { return m_hNative; }
+    Pair BestPaints() const { return ComparePaints(Zo(), m_hNative); }
     Pair BestRepaints() const { return CompareRepaints(Zo(), m_hNative); }
 
 private:
@@ -167,8 +209,10 @@ void RunScrollBars(HWND host)
         SetScrollState(bars[i]);
     zobench::PumpPending();
 
-    const Pair verticalPaint = vertical.BestRepaints();
-    const Pair horizontalPaint = horizontal.BestRepaints();
+    const Pair verticalPaint = vertical.BestPaints();
+    const Pair horizontalPaint = horizontal.BestPaints();
+    const Pair verticalRepaint = vertical.BestRepaints();
+    const Pair horizontalRepaint = horizontal.BestRepaints();
     size_t nativeSteps = 0;
     size_t zoSteps = 0;
     const Pair step = zobench::CompareInTurns(
@@ -176,9 +220,11 @@ void RunScrollBars(HWND host)
         [&] { return DragStepTime(vertical.Native(), nativeSteps); });
 
     printf("Scroll bars, %dx%d and %dx%d:\n", kBarThickness, kBarLength, kBarLength, kBarThickness);
-    Report("CZoScrollBar vertical repaint", verticalPaint.zo, verticalPaint.native);
-    Report("CZoScrollBar horizontal repaint", horizontalPaint.zo, horizontalPaint.native);
-    Report("CZoScrollBar thumb-drag step", step.zo, step.native);
+    Report("CZoScrollBar vertical paint", verticalPaint.zo, verticalPaint.native, kNoNativePaint);
+    Report("CZoScrollBar vertical repaint", verticalRepaint.zo, verticalRepaint.native, kNoNativeTime);
+    Report("CZoScrollBar horizontal paint", horizontalPaint.zo, horizontalPaint.native, kNoNativePaint);
+    Report("CZoScrollBar horizontal repaint", horizontalRepaint.zo, horizontalRepaint.native, kNoNativeTime);
+    Report("CZoScrollBar thumb-drag step", step.zo, step.native, "the native bar sent no tracking notifications");
     printf("  (last run, %d moves: %u SB_THUMBTRACK from CZoScrollBar, %u from the native bar)\n", kDragSteps,
            static_cast<unsigned>(zoSteps), static_cast<unsigned>(nativeSteps));
 }
@@ -194,13 +240,17 @@ void RunProgressBars(HWND host)
         SetProgressState(bars[i]);
     zobench::PumpPending();
 
-    const Pair horizontalPaint = horizontal.BestRepaints();
-    const Pair verticalPaint = vertical.BestRepaints();
+    const Pair horizontalPaint = horizontal.BestPaints();
+    const Pair verticalPaint = vertical.BestPaints();
+    const Pair horizontalRepaint = horizontal.BestRepaints();
+    const Pair verticalRepaint = vertical.BestRepaints();
 
     printf("Progress bars at 50%%, %dx%d and %dx%d:\n", kProgressLength, kProgressThickness, kProgressThickness,
            kProgressLength);
-    Report("CZoProgressCtrl horizontal repaint", horizontalPaint.zo, horizontalPaint.native);
-    Report("CZoProgressCtrl vertical repaint", verticalPaint.zo, verticalPaint.native);
+    Report("CZoProgressCtrl horizontal paint", horizontalPaint.zo, horizontalPaint.native, kNoNativePaint);
+    Report("CZoProgressCtrl horizontal repaint", horizontalRepaint.zo, horizontalRepaint.native, kNoNativeTime);
+    Report("CZoProgressCtrl vertical paint", verticalPaint.zo, verticalPaint.native, kNoNativePaint);
+    Report("CZoProgressCtrl vertical repaint", verticalRepaint.zo, verticalRepaint.native, kNoNativeTime);
 }
 
 } // namespace

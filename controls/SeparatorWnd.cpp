@@ -1,6 +1,8 @@
 #include "controls/SeparatorWnd.h"
 
+#include "controls/ZoControlTheme.h"
 #include "controls/ZoPrintClientDC.h"
+#include "controls/ZoWindowHelpers.h"
 #include "core/ZoThemeMath.h"
 
 namespace ZoControls {
@@ -75,10 +77,8 @@ COLORREF CSeparatorWnd::_lineColor() const
 {
     if (m_bCustomColor)
         return (COLORREF)ZoArgbToColorRef(m_color);
-    const CZoThemeManager* pManager = CZoThemeManager::GetInstance();
-    const COLORREF slotColor = pManager ? pManager->GetGDIColor((E_ZoThemeColors)kLineSlot, ZoTheme_Default) : 0;
     // Converted once more than anywhere else: red and blue come out exchanged, as intended.
-    return swapRedBlue(slotColor);
+    return swapRedBlue(ZoSlotColor(kLineSlot, ZoTheme_Default));
 }
 
 void CSeparatorWnd::OnPaint()
@@ -195,8 +195,7 @@ void CSeparatorWnd::OnMouseMove(UINT nFlags, CPoint point)
             DrawXORLineToParentDC(point);
         else
             _setSizingCursor();
-        TRACKMOUSEEVENT tme = {sizeof(TRACKMOUSEEVENT), TME_LEAVE, m_hWnd, HOVER_DEFAULT};
-        ::_TrackMouseEvent(&tme);
+        ZoTrackMouseLeave(m_hWnd);
     }
     CZoWnd::OnMouseMove(nFlags, point);
 }

@@ -4,6 +4,8 @@
 
 #include "ZoButton.h"
 #include "ZoControlTheme.h"
+#include "ZoPrintClientDC.h"
+#include "ZoWindowHelpers.h"
 #include "core/ZoMemDC.h"
 #include "core/ZoThemeManager.h"
 #include "images/ZoResourceImage.h"
@@ -814,12 +816,7 @@ void CZoButton::OnMouseMove(UINT /*nFlags*/, CPoint /*point*/)
         m_bHovering = true;
         if (!wasHovering)
             _refreshNow();
-        TRACKMOUSEEVENT tme;
-        tme.cbSize = sizeof(tme);
-        tme.dwFlags = TME_LEAVE;
-        tme.hwndTrack = m_hWnd;
-        tme.dwHoverTime = HOVER_DEFAULT;
-        ::_TrackMouseEvent(&tme);
+        ZoTrackMouseLeave(m_hWnd);
     }
     Default();
 }
@@ -883,10 +880,7 @@ void CZoButton::OnPaint()
 
 LRESULT CZoButton::OnPrintClient(WPARAM wParam, LPARAM /*lParam*/)
 {
-    CDC* pDC = CDC::FromHandle(reinterpret_cast<HDC>(wParam));
-    if (!pDC || !PaintInto(*pDC))
-        return Default();
-    return 0;
+    return ZoPaintPrintClient(wParam, [this](CDC& dc) { return PaintInto(dc); }) ? 0 : Default();
 }
 
 CRect CZoButton::_textMarginRect(const CRect& rect)

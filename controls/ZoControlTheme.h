@@ -1,4 +1,4 @@
-// Theme look-ups shared by the button and static controls. They tolerate a theme manager
+// Theme look-ups shared by the controls. They tolerate a theme manager
 // that is not running (before InitializeZoCtrl or after UninitializeZoCtrl), so a control
 // painted then draws in black with the DC's font instead of crashing.
 #pragma once

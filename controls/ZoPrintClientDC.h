@@ -20,4 +20,13 @@ private:
     CZoPrintClientDC& operator=(const CZoPrintClientDC&);
 };
 
+// Runs `paint(CDC&)` on the DC of a WM_PRINTCLIENT. False without a DC or when `paint` declines,
+// so that the caller can leave the message to the platform.
+template <class TPaint>
+bool ZoPaintPrintClient(WPARAM wParam, TPaint paint)
+{
+    CZoPrintClientDC dc(wParam);
+    return dc.GetSafeHdc() != NULL && paint(dc);
+}
+
 } // namespace ZoControls

@@ -1,5 +1,6 @@
 #include "controls/ZoProgressCtrl.h"
 
+#include "controls/ZoControlTheme.h"
 #include "controls/ZoPrintClientDC.h"
 #include "core/ZoMemDC.h"
 #include "core/ZoThemeManager.h"
@@ -14,12 +15,6 @@ const int kBackgroundSlot = 66;
 const int kTextSlot = 67;
 const int kEnabledColumn = 0;
 const int kDisabledColumn = 3;
-
-COLORREF themeColor(int slot, E_ZoTheme theme)
-{
-    const CZoThemeManager* pManager = CZoThemeManager::GetInstance();
-    return pManager ? pManager->GetGDIColor((E_ZoThemeColors)slot, theme) : ::GetSysColor(COLOR_BTNFACE);
-}
 
 int clampTo(int value, int low, int high) { return value < low ? low : (value > high ? high : value); }
 
@@ -151,7 +146,7 @@ void CZoProgressCtrl::DrawBar(CDC& dc, const CRect& rect)
     GetRange(lo, hi);
     if (lo >= hi)
         return;
-    const COLORREF background = themeColor(kBackgroundSlot, m_eTheme);
+    const COLORREF background = ZoSlotColor(kBackgroundSlot, m_eTheme);
     const float fraction = ZoProgressFraction(lo, hi, GetPos());
     const int column = IsWindowEnabled() ? kEnabledColumn : kDisabledColumn;
     const bool loaded = m_pSkin && m_pSkin->IsLoaded();
@@ -189,7 +184,7 @@ void CZoProgressCtrl::DrawPercentage(CDC& dc, const CRect& rect)
     CString text;
     text.Format(L"%d%%", ZoProgressPercent(lo, hi, GetPos()));
     const int oldMode = dc.SetBkMode(TRANSPARENT);
-    const COLORREF oldColor = dc.SetTextColor(themeColor(kTextSlot, m_eTheme));
+    const COLORREF oldColor = dc.SetTextColor(ZoSlotColor(kTextSlot, m_eTheme));
     CRect area = rect;
     dc.DrawText(text, &area, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
     dc.SetTextColor(oldColor);

@@ -1,6 +1,7 @@
 #include "controls/ZoScrollBar.h"
 
 #include "controls/ZoPrintClientDC.h"
+#include "controls/ZoWindowHelpers.h"
 #include "core/ZoMemDC.h"
 #include "core/ZoThemeManager.h"
 #include "core/ZoThemeMath.h"
@@ -13,8 +14,6 @@ namespace {
 const COLORREF kTransparent = RGB(255, 0, 255);
 const UINT kFirstDelayMs = 300;
 const UINT kRepeatMs = 50;
-// A paint handler that never validates must not hang the pump.
-const int kMaxPumpedPaints = 64;
 
 // Theme 0's colour slot 0, for a library that was never initialised.
 const COLORREF kFallbackBackground = RGB(0x47, 0x47, 0x47);
@@ -99,9 +98,11 @@ void CZoScrollBar::PreSubclassWindow()
 
 LRESULT CZoScrollBar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    // The platform must never show its own drawing of a scroll-state change.
-    const bool hideNativeDrawing = (message == SBM_SETSCROLLINFO && wParam != 0) || message == SBM_SETPOS ||
-                                   message == SBM_SETRANGEREDRAW || message == SBM_ENABLE_ARROWS;
+    // The platform must never show its own drawing of a scroll-state change. Only a visible bar
+    // is switched: WM_SETREDRAW TRUE would make a hidden one visible.
+    const bool redrawingMessage = (message == SBM_SETSCROLLINFO && wParam != 0) || message == SBM_SETPOS ||
+                                  message == SBM_SETRANGEREDRAW || message == SBM_ENABLE_ARROWS;
+    const bool hideNativeDrawing = redrawingMessage && (GetStyle() & WS_VISIBLE) != 0;
     if (hideNativeDrawing)
         SendMessage(WM_SETREDRAW, FALSE);
     const LRESULT result = CScrollBar::WindowProc(message, wParam, lParam);
@@ -140,12 +141,7 @@ void CZoScrollBar::InvalidateRect(const RECT* lpRect, BOOL bErase)
     _pumpPaint();
 }
 
-void CZoScrollBar::_pumpPaint()
-{
-    MSG msg;
-    for (int i = 0; i < kMaxPumpedPaints && ::PeekMessageW(&msg, m_hWnd, WM_PAINT, WM_PAINT, PM_REMOVE); ++i)
-        ::DispatchMessageW(&msg);
-}
+void CZoScrollBar::_pumpPaint() { ZoPaintPendingNow(m_hWnd); }
 
 void CZoScrollBar::_init()
 {
@@ -541,8 +537,7 @@ void CZoScrollBar::OnMouseMove(UINT, CPoint point)
         m_eHover = hover;
         Invalidate(FALSE);
     }
-    TRACKMOUSEEVENT tme = {sizeof(TRACKMOUSEEVENT), TME_LEAVE, m_hWnd, HOVER_DEFAULT};
-    ::_TrackMouseEvent(&tme);
+    ZoTrackMouseLeave(m_hWnd);
 }
 
 void CZoScrollBar::OnMouseLeave()

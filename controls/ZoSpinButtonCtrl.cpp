@@ -1,7 +1,8 @@
 #include "controls/ZoSpinButtonCtrl.h"
 
+#include "controls/ZoControlTheme.h"
 #include "controls/ZoPrintClientDC.h"
-#include "core/ZoThemeManager.h"
+#include "controls/ZoWindowHelpers.h"
 
 namespace ZoControls {
 
@@ -11,13 +12,8 @@ const int kBackSlot = 92;
 const int kArrowSlot = 93;
 const int kBorderSlot = 94;
 const COLORREF kPressedBack = RGB(255, 255, 255);
-const int kMaxPumpedPaints = 64;
 
-COLORREF themeColor(int slot)
-{
-    const CZoThemeManager* pManager = CZoThemeManager::GetInstance();
-    return pManager ? pManager->GetGDIColor((E_ZoThemeColors)slot, ZoTheme_Default) : ::GetSysColor(COLOR_BTNFACE);
-}
+COLORREF themeColor(int slot) { return ZoSlotColor(slot, ZoTheme_Default); }
 
 } // namespace
 
@@ -92,9 +88,7 @@ CZoSpinButtonCtrl::~CZoSpinButtonCtrl() {}
 void CZoSpinButtonCtrl::Invalidate(BOOL bErase)
 {
     CSpinButtonCtrl::Invalidate(bErase);
-    MSG msg;
-    for (int i = 0; i < kMaxPumpedPaints && ::PeekMessageW(&msg, m_hWnd, WM_PAINT, WM_PAINT, PM_REMOVE); ++i)
-        ::DispatchMessageW(&msg);
+    ZoPaintPendingNow(m_hWnd);
 }
 
 bool CZoSpinButtonCtrl::_isHorizontal() const { return (GetStyle() & UDS_HORZ) != 0; }
@@ -202,8 +196,7 @@ void CZoSpinButtonCtrl::OnMouseMove(UINT nFlags, CPoint point)
 {
     const bool pressed = m_eFirstState == BtnState_Pressed || m_eSecondState == BtnState_Pressed;
     _setStates(HitTest(point), pressed ? BtnState_Pressed : BtnState_Hot);
-    TRACKMOUSEEVENT tme = {sizeof(TRACKMOUSEEVENT), TME_LEAVE, m_hWnd, HOVER_DEFAULT};
-    ::_TrackMouseEvent(&tme);
+    ZoTrackMouseLeave(m_hWnd);
     Invalidate(FALSE);
     CSpinButtonCtrl::OnMouseMove(nFlags, point);
 }

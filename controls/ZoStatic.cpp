@@ -3,6 +3,8 @@
 
 #include "ZoStatic.h"
 #include "ZoControlTheme.h"
+#include "ZoPrintClientDC.h"
+#include "ZoWindowHelpers.h"
 #include "core/ZoMemDC.h"
 #include "core/ZoThemeManager.h"
 #include "images/ZoResourceImage.h"
@@ -242,24 +244,15 @@ void CZoStatic::OnPaint()
 
 LRESULT CZoStatic::OnPrintClient(WPARAM wParam, LPARAM /*lParam*/)
 {
-    CDC* pDC = CDC::FromHandle(reinterpret_cast<HDC>(wParam));
-    if (!pDC || !PaintInto(*pDC))
-        return Default();
-    return 0;
+    return ZoPaintPrintClient(wParam, [this](CDC& dc) { return PaintInto(dc); }) ? 0 : Default();
 }
 
 void CZoStatic::OnMouseMove(UINT /*nFlags*/, CPoint /*point*/)
 {
     const DWORD style = GetStyle();
     const DWORD type = style & SS_TYPEMASK;
-    if ((style & SS_NOTIFY) && type != SS_BITMAP && type != SS_ICON) {
-        TRACKMOUSEEVENT tme;
-        tme.cbSize = sizeof(tme);
-        tme.dwFlags = TME_LEAVE;
-        tme.hwndTrack = m_hWnd;
-        tme.dwHoverTime = HOVER_DEFAULT;
-        ::_TrackMouseEvent(&tme);
-    }
+    if ((style & SS_NOTIFY) && type != SS_BITMAP && type != SS_ICON)
+        ZoTrackMouseLeave(m_hWnd);
     Default();
 }
 
@@ -531,9 +524,10 @@ void CStaticLine::OnPaint()
 
 LRESULT CStaticLine::OnPrintClient(WPARAM wParam, LPARAM /*lParam*/)
 {
-    CDC* pDC = CDC::FromHandle(reinterpret_cast<HDC>(wParam));
-    if (pDC)
-        PaintInto(*pDC);
+    ZoPaintPrintClient(wParam, [this](CDC& dc) {
+        PaintInto(dc);
+        return true;
+    });
     return 0;
 }
 

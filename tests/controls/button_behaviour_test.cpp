@@ -1,17 +1,17 @@
 // CZoButton behaviour: repainting on hover, text and enable changes, the system's check state
 // and notifications, colour setters, tooltips, attaching, and resources over many cycles.
-#include "button_test_support.h"
+#include "controls_test_support.h"
 
 #include <afxcmn.h>
 
 #include "controls/ZoButton.h"
 
 using namespace ZoControls;
-using buttontest::Slot;
+using controltest::Slot;
 
 namespace {
 
-class ButtonTest : public buttontest::ControlTest
+class ButtonTest : public controltest::ControlTest
 {
 protected:
     void Make(CZoButton& button, const wchar_t* text, DWORD style, const RECT& rect = RECT{10, 10, 90, 34})
@@ -205,15 +205,6 @@ TEST_F(ButtonTest, SubclassedDialogButtonPaintsTheSkin)
     button.DestroyWindow();
 }
 
-TEST_F(ButtonTest, EraseBackgroundPaintsNothing)
-{
-    CZoButton button;
-    Make(button, L"", BS_PUSHBUTTON);
-    zotest::Dib dib(80, 24, RGB(9, 9, 9));
-    EXPECT_EQ(SendMessage(button.m_hWnd, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dib.dc()), 0), TRUE);
-    ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 80, 24}), RGB(9, 9, 9));
-}
-
 TEST_F(ButtonTest, RecreatedWindowReloadsItsStrip)
 {
     CZoButton box;
@@ -224,24 +215,8 @@ TEST_F(ButtonTest, RecreatedWindowReloadsItsStrip)
     const zotest::Dib second = zotest::RenderClient(box.m_hWnd);
     const RECT all = {0, 0, 100, 25};
     EXPECT_TRUE(zotest::MatchesCell(second, POINT{0, 0}, first, all));
-    EXPECT_GT(buttontest::CountPixels(second, Slot(0)), 0);
-    EXPECT_LT(buttontest::CountPixels(second, Slot(0)), 100 * 25);
-}
-
-TEST_F(ButtonTest, NoGdiGrowthOverCreatePaintDestroyCycles)
-{
-    CWnd* host = parentWnd();
-    const DWORD kinds[] = {BS_PUSHBUTTON, BS_DEFPUSHBUTTON, BS_AUTOCHECKBOX, BS_AUTORADIOBUTTON,
-                           BS_AUTOCHECKBOX | BS_PUSHLIKE, BS_GROUPBOX};
-    ZOTEST_EXPECT_NO_LEAKS(1000, [host, &kinds]() {
-        for (DWORD kind : kinds) {
-            CZoButton button;
-            button.Create(L"Cycle", WS_CHILD | WS_VISIBLE | kind, CRect(5, 5, 105, 30), host, 402);
-            button.SetToolTipText(L"Tip");
-            zotest::RenderClient(button.m_hWnd);
-            button.DestroyWindow();
-        }
-    }, zotest::count_gdi);
+    EXPECT_GT(controltest::CountPixels(second, Slot(0)), 0);
+    EXPECT_LT(controltest::CountPixels(second, Slot(0)), 100 * 25);
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 // CZoButton pixels: face and border lines per state, check and radio cells from the strip,
 // text and image placement, group boxes, focus cues.
-#include "button_test_support.h"
+#include "controls_test_support.h"
 
 #include <cstdlib>
 
@@ -9,13 +9,13 @@
 #include "images/ZoResourcePNG.h"
 
 using namespace ZoControls;
-using buttontest::Slot;
+using controltest::Slot;
 
 namespace {
 
 const UINT kCheckStrip = 808;
 
-class ButtonPaintTest : public buttontest::ControlTest
+class ButtonPaintTest : public controltest::ControlTest
 {
 protected:
     void Make(CZoButton& button, const wchar_t* text, DWORD style, const RECT& rect = RECT{10, 10, 90, 34})
@@ -32,7 +32,7 @@ protected:
         zotest::Dib cell(15, 15, RGB(9, 9, 9));
         CDC dc;
         dc.Attach(cell.dc());
-        strip.DrawUnitImage(dc, 0, 0, column, row, buttontest::kMagenta);
+        strip.DrawUnitImage(dc, 0, 0, column, row, controltest::kMagenta);
         dc.Detach();
         return cell;
     }
@@ -139,9 +139,9 @@ TEST_F(ButtonPaintTest, CaptionInStateTextColour)
     CZoButton button;
     Make(button, L"MMMM", BS_PUSHBUTTON);
     const zotest::Dib dib = zotest::RenderClient(button.m_hWnd);
-    EXPECT_GT(buttontest::CountPixels(dib, Slot(34)), 0);
+    EXPECT_GT(controltest::CountPixels(dib, Slot(34)), 0);
     button.EnableWindow(FALSE);
-    EXPECT_GT(buttontest::CountPixels(zotest::RenderClient(button.m_hWnd), Slot(37)), 0);
+    EXPECT_GT(controltest::CountPixels(zotest::RenderClient(button.m_hWnd), Slot(37)), 0);
 }
 
 TEST_F(ButtonPaintTest, CaptionAlignmentBits)
@@ -171,7 +171,7 @@ TEST_F(ButtonPaintTest, SystemImageLeftOfTextMovesWhenPressed)
 {
     CZoButton button;
     Make(button, L"Ab", BS_PUSHBUTTON | BS_BITMAP, RECT{10, 10, 110, 50});
-    HBITMAP bitmap = buttontest::MakeBitmap(10, 10, RGB(0, 180, 0), RGB(0, 180, 0));
+    HBITMAP bitmap = controltest::MakeBitmap(10, 10, RGB(0, 180, 0), RGB(0, 180, 0));
     button.SetBitmap(bitmap);
     // d = (40 - hy - 10) / 3 shrinks the text rectangle symmetrically: the image stays centred.
     zotest::Dib up = zotest::RenderClient(button.m_hWnd);
@@ -188,7 +188,7 @@ TEST_F(ButtonPaintTest, LoneImageCentredAndStillWhenPressed)
 {
     CZoButton button;
     Make(button, L"", BS_PUSHBUTTON | BS_BITMAP, RECT{10, 10, 110, 50});
-    HBITMAP bitmap = buttontest::MakeBitmap(10, 10, RGB(0, 180, 0), RGB(0, 180, 0));
+    HBITMAP bitmap = controltest::MakeBitmap(10, 10, RGB(0, 180, 0), RGB(0, 180, 0));
     button.SetBitmap(bitmap);
     ZOTEST_EXPECT_FILL(zotest::RenderClient(button.m_hWnd), (RECT{45, 15, 55, 25}), RGB(0, 180, 0));
     button.SetState(TRUE);
@@ -202,13 +202,13 @@ TEST_F(ButtonPaintTest, ImageBelowAndAboveText)
     CZoButton below, above;
     Make(below, L"Ab", BS_PUSHBUTTON | BS_BITMAP | BS_TOP, RECT{10, 10, 110, 70});
     Make(above, L"Ab", BS_PUSHBUTTON | BS_BITMAP | BS_BOTTOM, RECT{10, 80, 110, 140});
-    HBITMAP bitmap = buttontest::MakeBitmap(10, 10, RGB(0, 180, 0), RGB(0, 180, 0));
+    HBITMAP bitmap = controltest::MakeBitmap(10, 10, RGB(0, 180, 0), RGB(0, 180, 0));
     below.SetBitmap(bitmap);
     above.SetBitmap(bitmap);
     const zotest::Dib b = zotest::RenderClient(below.m_hWnd);
     const zotest::Dib a = zotest::RenderClient(above.m_hWnd);
-    EXPECT_EQ(buttontest::CountPixels(b, RGB(0, 180, 0)), 100);
-    EXPECT_EQ(buttontest::CountPixels(a, RGB(0, 180, 0)), 100);
+    EXPECT_EQ(controltest::CountPixels(b, RGB(0, 180, 0)), 100);
+    EXPECT_EQ(controltest::CountPixels(a, RGB(0, 180, 0)), 100);
     // Image at the bottom of the shrunk rectangle with the text above it, and the other way round.
     const int imageBelow = FirstRowWith(b, RGB(0, 180, 0));
     const int imageAbove = FirstRowWith(a, RGB(0, 180, 0));
@@ -278,9 +278,9 @@ TEST_F(ButtonPaintTest, CheckTextBesideTheBoxInStateSlot)
     const RECT text = zotest::BoundsOfDifferences(dib.Crop(RECT{15, 0, 150, 25}), Slot(0));
     EXPECT_GE(text.left, 3);
     EXPECT_LT(text.left, 8);
-    EXPECT_GT(buttontest::CountPixels(dib, Slot(9)), 0);
+    EXPECT_GT(controltest::CountPixels(dib, Slot(9)), 0);
     box.EnableWindow(FALSE);
-    EXPECT_GT(buttontest::CountPixels(zotest::RenderClient(box.m_hWnd), Slot(12)), 0);
+    EXPECT_GT(controltest::CountPixels(zotest::RenderClient(box.m_hWnd), Slot(12)), 0);
 }
 
 TEST_F(ButtonPaintTest, FocusRectangleOnCheckBoxNotOnPushButton)

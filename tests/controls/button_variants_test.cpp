@@ -1,15 +1,15 @@
 // CZoFlatButton, CZoToggleButton, CZoButton4MsgBox: margins, focus cues, the toggle's face
 // behind its box, and the message-box button's kind.
-#include "button_test_support.h"
+#include "controls_test_support.h"
 
 #include "controls/ZoButtonVariants.h"
 
 using namespace ZoControls;
-using buttontest::Slot;
+using controltest::Slot;
 
 namespace {
 
-class VariantTest : public buttontest::ControlTest
+class VariantTest : public controltest::ControlTest
 {
 protected:
     void Make(CZoButton& button, const wchar_t* text, DWORD style, const RECT& rect = RECT{10, 10, 110, 35})
@@ -22,15 +22,6 @@ protected:
         RECT margin = {-1, -1, -1, -1};
         button.SendMessage(BCM_GETTEXTMARGIN, 0, reinterpret_cast<LPARAM>(&margin));
         return margin;
-    }
-
-    static int Differences(const zotest::Dib& a, const zotest::Dib& b)
-    {
-        int count = 0;
-        for (int y = 0; y < a.height(); ++y)
-            for (int x = 0; x < a.width(); ++x)
-                count += a.Pixel(x, y) != b.Pixel(x, y);
-        return count;
     }
 };
 
@@ -77,10 +68,10 @@ TEST_F(VariantTest, FlatAndToggleNeverShowFocus)
     SetForegroundWindow(parent());
     flat.SetFocus();
     ASSERT_TRUE(flat.GetState() & BST_FOCUS);
-    EXPECT_EQ(Differences(flatBefore, zotest::RenderClient(flat.m_hWnd)), 0);
+    EXPECT_EQ(controltest::Differences(flatBefore, zotest::RenderClient(flat.m_hWnd)), 0);
     toggle.SetFocus();
     ASSERT_TRUE(toggle.GetState() & BST_FOCUS);
-    EXPECT_EQ(Differences(toggleBefore, zotest::RenderClient(toggle.m_hWnd)), 0);
+    EXPECT_EQ(controltest::Differences(toggleBefore, zotest::RenderClient(toggle.m_hWnd)), 0);
 }
 
 TEST_F(VariantTest, ToggleFaceFollowsCheckHoverAndEnable)
@@ -153,26 +144,6 @@ TEST(VariantClasses, RunTimeClasses)
     EXPECT_TRUE(flat.IsKindOf(RUNTIME_CLASS(CZoButton)));
     CZoButton4MsgBox box;
     EXPECT_STREQ(box.GetRuntimeClass()->m_lpszClassName, "CZoButton");
-}
-
-TEST_F(VariantTest, NoGdiGrowthOverCreatePaintDestroyCycles)
-{
-    CWnd* host = parentWnd();
-    ZOTEST_EXPECT_NO_LEAKS(1000, [host]() {
-        CZoFlatButton flat;
-        flat.Create(L"Flat", WS_CHILD | WS_VISIBLE | BS_PUSHBUTTON, CRect(5, 5, 105, 30), host, 501);
-        zotest::RenderClient(flat.m_hWnd);
-        flat.DestroyWindow();
-        CZoToggleButton toggle;
-        toggle.Create(L"Toggle", WS_CHILD | WS_VISIBLE | BS_AUTOCHECKBOX, CRect(5, 5, 105, 30), host, 502);
-        zotest::RenderClient(toggle.m_hWnd);
-        toggle.DestroyWindow();
-        CZoButton4MsgBox box;
-        box.SetAsDefault(true);
-        box.Create(L"OK", WS_CHILD | WS_VISIBLE | BS_PUSHBUTTON, CRect(5, 5, 105, 30), host, 503);
-        zotest::RenderClient(box.m_hWnd);
-        box.DestroyWindow();
-    }, zotest::count_gdi);
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 // CStaticLine: line and dotted geometry, the three layers and their colours, styles that draw
 // no line, and no border.
-#include "button_test_support.h"
+#include "controls_test_support.h"
 
 #include "controls/ZoStatic.h"
 
@@ -12,7 +12,7 @@ const COLORREF kLine = RGB(66, 68, 81);
 const COLORREF kShadow = RGB(161, 165, 185);
 const COLORREF kBack = RGB(132, 137, 163);
 
-class StaticLineTest : public buttontest::ControlTest
+class StaticLineTest : public controltest::ControlTest
 {
 protected:
     zotest::Dib Render(CStaticLine& line, int width, int height)
@@ -86,8 +86,8 @@ TEST_F(StaticLineTest, DottedHorizontalLineAtTheTopRows)
     }
     // Nothing at mid-height.
     ZOTEST_EXPECT_FILL(dib, (RECT{0, 3, 100, 10}), kBack);
-    EXPECT_EQ(buttontest::CountPixels(dib, kLine), 25 * 4);
-    EXPECT_EQ(buttontest::CountPixels(dib, kShadow), 25 * 3);
+    EXPECT_EQ(controltest::CountPixels(dib, kLine), 25 * 4);
+    EXPECT_EQ(controltest::CountPixels(dib, kShadow), 25 * 3);
 }
 
 TEST_F(StaticLineTest, DottedVerticalLine)
@@ -169,21 +169,9 @@ TEST_F(StaticLineTest, BorderStylesPaintNoFrame)
     const zotest::Dib screen = zotest::RenderWindow(line.m_hWnd, zotest::RenderPath::Screen);
     // No outline in any colour the library would use; what shows there instead is the platform's.
     EXPECT_NE(screen.Pixel(0, 0), kBack);
-    EXPECT_NE(screen.Pixel(0, 0), buttontest::Slot(28));
-    EXPECT_NE(screen.Pixel(0, 0), buttontest::Slot(49));
+    EXPECT_NE(screen.Pixel(0, 0), controltest::Slot(28));
+    EXPECT_NE(screen.Pixel(0, 0), controltest::Slot(49));
     EXPECT_NE(screen.Pixel(0, 0), kLine);
-}
-
-TEST_F(StaticLineTest, NoGdiGrowthOverCreatePaintDestroyCycles)
-{
-    CWnd* host = parentWnd();
-    ZOTEST_EXPECT_NO_LEAKS(1000, [host]() {
-        CStaticLine line;
-        line.SetLineStyle(CStaticLine::StaticLine_Single);
-        line.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 6), host, 202);
-        zotest::RenderClient(line.m_hWnd);
-        line.DestroyWindow();
-    }, zotest::count_gdi);
 }
 
 } // namespace

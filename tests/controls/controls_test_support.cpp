@@ -1,13 +1,13 @@
-#include "scroll_test_support.h"
+#include "controls_test_support.h"
 
 #include <gdiplus.h>
+
+#include <sstream>
 
 #include "core/ZoLibrary.h"
 #include "core/ZoThemeManager.h"
 
-#include <sstream>
-
-namespace scrolltest {
+namespace controltest {
 
 namespace {
 
@@ -30,25 +30,70 @@ HMODULE LibraryModule()
 
 } // namespace
 
-void LibraryTest::SetUp()
+void ControlTest::SetUp()
 {
     StartGdiplusOnce();
     initialized_ = InitializeZoCtrl();
     ASSERT_TRUE(initialized_);
+    const RECT area = {40, 40, 440, 340};
+    parent_.Reset(zotest::CreateSolidWindow(area, kParentColor));
+    ASSERT_NE(parent_.get(), nullptr);
 }
 
-void LibraryTest::TearDown()
+void ControlTest::TearDown()
 {
     parent_.Reset();
+    zotest::PumpUntilIdle(200);
     if (initialized_)
         UninitializeZoCtrl();
 }
 
-HWND LibraryTest::MakeParent(int w, int h, int x, int y)
+COLORREF Slot(int slot)
 {
-    const RECT rect = {x, y, x + w, y + h};
-    parent_.Reset(zotest::CreateSolidWindow(rect, kParentColor));
-    return parent_.get();
+    const ZoControls::CZoThemeManager* manager = ZoControls::CZoThemeManager::GetInstance();
+    return manager ? manager->GetGDIColor(static_cast<ZoControls::E_ZoThemeColors>(slot), ZoControls::ZoTheme_Default)
+                   : CLR_INVALID;
+}
+
+int CountPixels(const zotest::Dib& dib, const RECT& area, COLORREF color)
+{
+    int count = 0;
+    for (int y = area.top; y < area.bottom; ++y)
+        for (int x = area.left; x < area.right; ++x)
+            if (x >= 0 && y >= 0 && x < dib.width() && y < dib.height() && dib.Pixel(x, y) == color)
+                ++count;
+    return count;
+}
+
+int CountPixels(const zotest::Dib& dib, COLORREF color)
+{
+    const RECT all = {0, 0, dib.width(), dib.height()};
+    return CountPixels(dib, all, color);
+}
+
+int Differences(const zotest::Dib& a, const zotest::Dib& b)
+{
+    int count = 0;
+    for (int y = 0; y < a.height(); ++y)
+        for (int x = 0; x < a.width(); ++x)
+            count += a.Pixel(x, y) != b.Pixel(x, y);
+    return count;
+}
+
+HBITMAP MakeBitmap(int width, int height, COLORREF fill, COLORREF corner)
+{
+    zotest::Dib dib(width, height, fill);
+    dib.SetPixel(0, 0, corner);
+    // A copy the caller owns: the Dib's own bitmap ends with it.
+    HDC screen = GetDC(nullptr);
+    HBITMAP copy = CreateCompatibleBitmap(screen, width, height);
+    HDC dc = CreateCompatibleDC(screen);
+    HGDIOBJ old = SelectObject(dc, copy);
+    BitBlt(dc, 0, 0, width, height, dib.dc(), 0, 0, SRCCOPY);
+    SelectObject(dc, old);
+    DeleteDC(dc);
+    ReleaseDC(nullptr, screen);
+    return copy;
 }
 
 HBITMAP LoadLibraryBitmap(const wchar_t* name)
@@ -73,10 +118,8 @@ testing::AssertionResult AreaMatches(const zotest::Dib& dib, const RECT& area, c
 {
     int wrong = 0;
     std::ostringstream first;
-    for (int y = area.top; y < area.bottom; ++y)
-    {
-        for (int x = area.left; x < area.right; ++x)
-        {
+    for (int y = area.top; y < area.bottom; ++y) {
+        for (int x = area.left; x < area.right; ++x) {
             const COLORREF want = expected.Pixel(x - area.left, y - area.top);
             const COLORREF got = dib.Pixel(x, y);
             if (want != got && wrong++ == 0)
@@ -89,10 +132,4 @@ testing::AssertionResult AreaMatches(const zotest::Dib& dib, const RECT& area, c
     return testing::AssertionFailure() << wrong << " pixels differ, first " << first.str();
 }
 
-COLORREF SlotColor(int slot)
-{
-    return ZoControls::CZoThemeManager::GetInstance()->GetGDIColor((ZoControls::E_ZoThemeColors)slot,
-                                                                   ZoControls::ZoTheme_Default);
-}
-
-} // namespace scrolltest
+} // namespace controltest

@@ -1,0 +1,310 @@
+// What every control shares, run over a table of the controls: no erasing, the menu messages
+// handed to the owner-drawn menu, and no resources left behind by create/paint/destroy cycles.
+#include "controls_test_support.h"
+
+#include <afxcmn.h>
+
+#include <memory>
+#include <string>
+
+#include "controls/SeparatorWnd.h"
+#include "controls/ZoButtonVariants.h"
+#include "controls/ZoProgressCtrl.h"
+#include "controls/ZoScrollBar.h"
+#include "controls/ZoSpinButtonCtrl.h"
+#include "controls/ZoStatic.h"
+
+using namespace ZoControls;
+using controltest::Slot;
+
+namespace {
+
+const UINT kId = 600;
+const RECT kRect = {5, 5, 125, 45};
+
+// The controls are made hidden: nothing paints to the screen behind a test's back, and painting
+// is asked for through WM_PRINTCLIENT.
+using Factory = std::unique_ptr<CWnd> (*)(CWnd* parent);
+
+template <class T>
+std::unique_ptr<CWnd> Keep(std::unique_ptr<T> wnd, BOOL created)
+{
+    return created ? std::unique_ptr<CWnd>(std::move(wnd)) : nullptr;
+}
+
+template <class TButton, DWORD kind>
+std::unique_ptr<CWnd> MakeButton(CWnd* parent)
+{
+    auto button = std::make_unique<TButton>();
+    const BOOL created = button->Create(L"Cycle", WS_CHILD | kind, kRect, parent, kId);
+    return Keep(std::move(button), created);
+}
+
+// The tooltip is the same for every kind of button; one kind carries it.
+std::unique_ptr<CWnd> MakeButtonWithToolTip(CWnd* parent)
+{
+    auto button = std::make_unique<CZoButton>();
+    const BOOL created = button->Create(L"Cycle", WS_CHILD | BS_PUSHBUTTON, kRect, parent, kId);
+    button->SetToolTipText(L"Tip");
+    return Keep(std::move(button), created);
+}
+
+std::unique_ptr<CWnd> MakeMsgBoxButton(CWnd* parent)
+{
+    auto button = std::make_unique<CZoButton4MsgBox>();
+    button->SetAsDefault(true);
+    const BOOL created = button->Create(L"OK", WS_CHILD | BS_PUSHBUTTON, kRect, parent, kId);
+    return Keep(std::move(button), created);
+}
+
+template <class TStatic, DWORD style>
+std::unique_ptr<CWnd> MakeStatic(CWnd* parent)
+{
+    auto stat = std::make_unique<TStatic>();
+    const BOOL created = stat->Create(L"Label", WS_CHILD | style, kRect, parent, kId);
+    return Keep(std::move(stat), created);
+}
+
+std::unique_ptr<CWnd> MakeStaticLine(CWnd* parent)
+{
+    auto line = std::make_unique<CStaticLine>();
+    line->SetLineStyle(CStaticLine::StaticLine_Single);
+    const BOOL created = line->Create(L"", WS_CHILD, kRect, parent, kId);
+    return Keep(std::move(line), created);
+}
+
+std::unique_ptr<CWnd> MakeScrollBar(CWnd* parent)
+{
+    auto bar = std::make_unique<CZoScrollBar>();
+    const BOOL created = bar->Create(WS_CHILD | SBS_VERT, CRect(5, 5, 24, 205), parent, kId);
+    SCROLLINFO info = {sizeof(SCROLLINFO), SIF_ALL, 0, 100, 10, 30, 0};
+    if (created)
+        bar->SetScrollInfo(&info, TRUE);
+    return Keep(std::move(bar), created);
+}
+
+std::unique_ptr<CWnd> MakeProgress(CWnd* parent)
+{
+    auto bar = std::make_unique<CZoProgressCtrl>();
+    const BOOL created = bar->Create(WS_CHILD, kRect, parent, kId);
+    if (created)
+        bar->SetPos(50);
+    return Keep(std::move(bar), created);
+}
+
+std::unique_ptr<CWnd> MakeSpin(CWnd* parent)
+{
+    auto spin = std::make_unique<CZoSpinButtonCtrl>();
+    const BOOL created = spin->Create(WS_CHILD, CRect(5, 5, 25, 35), parent, kId);
+    if (created)
+        spin->SetRange32(0, 10);
+    return Keep(std::move(spin), created);
+}
+
+// A movable separator, dragged once: the rubber band draws on the parent.
+std::unique_ptr<CWnd> MakeSeparator(CWnd* parent)
+{
+    auto sep = std::make_unique<CSeparatorWnd>(kId, CSeparatorWnd::SeparatorDirection_Vertical, parent, true);
+    const BOOL created = sep->Create(AfxRegisterWndClass(0), L"", WS_CHILD, CRect(10, 10, 12, 200),
+                                     parent, kId);
+    if (created) {
+        sep->SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(1, 5));
+        sep->SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(20, 5));
+        sep->SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(20, 5));
+    }
+    return Keep(std::move(sep), created);
+}
+
+struct ControlCase
+{
+    const char* name;
+    Factory make;
+};
+
+std::string CaseName(const testing::TestParamInfo<ControlCase>& info) { return info.param.name; }
+
+class ControlCaseTest : public controltest::ControlTest, public testing::WithParamInterface<ControlCase>
+{
+};
+
+// --- Background --------------------------------------------------------------------------------
+
+const ControlCase kPaintingControls[] = {
+    {"Button", MakeButton<CZoButton, BS_PUSHBUTTON>},
+    {"CheckBox", MakeButton<CZoButton, BS_AUTOCHECKBOX>},
+    {"Static", MakeStatic<CZoStatic, SS_LEFT>},
+    {"ScrollBar", MakeScrollBar},
+    {"Progress", MakeProgress},
+    {"Spin", MakeSpin},
+};
+
+using EraseTest = ControlCaseTest;
+
+TEST_P(EraseTest, EraseBackgroundPaintsNothing)
+{
+    const std::unique_ptr<CWnd> wnd = GetParam().make(parentWnd());
+    ASSERT_TRUE(wnd);
+    zotest::Dib dib(120, 40, RGB(9, 9, 9));
+    EXPECT_EQ(wnd->SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dib.dc())), TRUE);
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 120, 40}), RGB(9, 9, 9));
+    wnd->DestroyWindow();
+}
+
+INSTANTIATE_TEST_SUITE_P(Controls, EraseTest, testing::ValuesIn(kPaintingControls), CaseName);
+
+// --- Menus -------------------------------------------------------------------------------------
+
+const ControlCase kMenuForwarders[] = {
+    {"Button", MakeButton<CZoButton, BS_PUSHBUTTON>},
+    {"Static", MakeStatic<CZoStatic, SS_LEFT>},
+    {"ScrollBar", MakeScrollBar},
+    {"Progress", MakeProgress},
+    {"Separator", MakeSeparator},
+};
+
+class MenuForwardingTest : public ControlCaseTest
+{
+protected:
+    void SetUp() override
+    {
+        ControlCaseTest::SetUp();
+        control_ = GetParam().make(parentWnd());
+        ASSERT_TRUE(control_);
+        menu_ = ::CreatePopupMenu();
+        ::AppendMenuW(menu_, MF_STRING, 1, L"&Open\tCtrl+O");
+        ::AppendMenuW(menu_, MF_STRING, 2, L"E&xit");
+    }
+    void TearDown() override
+    {
+        ::DestroyMenu(menu_);
+        if (control_)
+            control_->DestroyWindow();
+        control_.reset();
+        ControlCaseTest::TearDown();
+    }
+
+    LRESULT Send(UINT message, WPARAM wParam, LPARAM lParam) { return control_->SendMessage(message, wParam, lParam); }
+    // WM_INITMENUPOPUP for a pop-up that is not the system menu.
+    void InitPopup() { Send(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu_), MAKELPARAM(0, FALSE)); }
+
+    MENUITEMINFOW Item(UINT position) const
+    {
+        MENUITEMINFOW info = {};
+        info.cbSize = sizeof(info);
+        info.fMask = MIIM_DATA | MIIM_FTYPE;
+        ::GetMenuItemInfoW(menu_, position, TRUE, &info);
+        return info;
+    }
+    bool OwnerDrawn(UINT position) const { return (Item(position).fType & MFT_OWNERDRAW) != 0; }
+
+    std::unique_ptr<CWnd> control_;
+    HMENU menu_ = nullptr;
+};
+
+TEST_P(MenuForwardingTest, OptsInAtCreation)
+{
+    EXPECT_TRUE(CMenuXP::GetXPLookNFeel(control_.get()));
+}
+
+TEST_P(MenuForwardingTest, InitMenuPopupMakesTheItemsOwnerDrawnButNotTheSystemMenu)
+{
+    Send(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu_), MAKELPARAM(0, TRUE));
+    EXPECT_FALSE(OwnerDrawn(0));
+    InitPopup();
+    EXPECT_TRUE(OwnerDrawn(0));
+    EXPECT_TRUE(OwnerDrawn(1));
+    EXPECT_NE(Item(1).dwItemData, 0u);
+}
+
+TEST_P(MenuForwardingTest, MeasureItemFillsInTheItemSize)
+{
+    InitPopup();
+    const ULONG_PTR data = Item(1).dwItemData;
+    MEASUREITEMSTRUCT measure = {};
+    measure.CtlType = ODT_MENU;
+    measure.itemID = 2;
+    measure.itemData = data;
+    Send(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&measure));
+    // Height in bits 0-7; width = widest text + 42 + widest accelerator.
+    EXPECT_EQ(measure.itemHeight, static_cast<UINT>(data & 0xFF));
+    EXPECT_EQ(measure.itemWidth, static_cast<UINT>(((data >> 16) & 0xFFFF) + 42 + ((data >> 8) & 0xFF)));
+    EXPECT_GT(measure.itemHeight, 0u);
+}
+
+TEST_P(MenuForwardingTest, DrawItemPaintsTheMenuItem)
+{
+    InitPopup();
+    zotest::Dib dib(120, 24, RGB(9, 9, 9));
+    DRAWITEMSTRUCT draw = {};
+    draw.CtlType = ODT_MENU;
+    draw.itemID = 2;
+    draw.itemAction = ODA_DRAWENTIRE;
+    draw.hwndItem = reinterpret_cast<HWND>(menu_);
+    draw.hDC = dib.dc();
+    draw.rcItem = RECT{0, 0, 120, 24};
+    draw.itemData = Item(1).dwItemData;
+    const int drawnBefore = CMenuXP::GetDrawCount();
+    Send(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&draw));
+    EXPECT_EQ(CMenuXP::GetDrawCount(), drawnBefore + 1);
+    // Menu background in the icon column, the column's divider at x = 21.
+    ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 21, 24}), Slot(68));
+    ZOTEST_EXPECT_FILL(dib, (RECT{21, 0, 22, 24}), Slot(70));
+}
+
+TEST_P(MenuForwardingTest, MenuCharPicksTheMnemonicOfAnOwnerDrawnMenu)
+{
+    InitPopup();
+    EXPECT_EQ(Send(WM_MENUCHAR, MAKEWPARAM(L'x', MF_POPUP), reinterpret_cast<LPARAM>(menu_)),
+              MAKELRESULT(1, MNC_EXECUTE));
+}
+
+INSTANTIATE_TEST_SUITE_P(Controls, MenuForwardingTest, testing::ValuesIn(kMenuForwarders), CaseName);
+
+// --- Resources ---------------------------------------------------------------------------------
+
+// Every class, and the button kinds that load or paint differently (a radio button loads and
+// paints as a check box does).
+const ControlCase kEveryControl[] = {
+    {"PushButtonWithToolTip", MakeButtonWithToolTip},
+    {"DefaultPushButton", MakeButton<CZoButton, BS_DEFPUSHBUTTON>},
+    {"CheckBox", MakeButton<CZoButton, BS_AUTOCHECKBOX>},
+    {"PushLikeCheckBox", MakeButton<CZoButton, BS_AUTOCHECKBOX | BS_PUSHLIKE>},
+    {"GroupBox", MakeButton<CZoButton, BS_GROUPBOX>},
+    {"FlatButton", MakeButton<CZoFlatButton, BS_PUSHBUTTON>},
+    {"ToggleButton", MakeButton<CZoToggleButton, BS_AUTOCHECKBOX>},
+    {"MsgBoxButton", MakeMsgBoxButton},
+    {"TextStatic", MakeStatic<CZoStatic, SS_LEFT | SS_CENTERIMAGE>},
+    {"BigStatic", MakeStatic<CZoStaticBig, SS_CENTER>},
+    {"HugeFrameStatic", MakeStatic<CZoStaticHuge, SS_BLACKFRAME>},
+    {"StaticLine", MakeStaticLine},
+    {"ScrollBar", MakeScrollBar},
+    {"Progress", MakeProgress},
+    {"Spin", MakeSpin},
+    {"Separator", MakeSeparator},
+};
+
+using LeakTest = ControlCaseTest;
+
+// Painted through WM_PRINTCLIENT into one memory DC; resources are counted only before and after.
+TEST_P(LeakTest, NoGrowthOverCreatePaintDestroyCycles)
+{
+    CWnd* parent = parentWnd();
+    const Factory make = GetParam().make;
+    zotest::Dib canvas(240, 240);
+    ZOTEST_EXPECT_NO_LEAKS(1000, [parent, make, &canvas]() {
+        const std::unique_ptr<CWnd> wnd = make(parent);
+        if (!wnd) {
+            ADD_FAILURE() << "not created";
+            return;
+        }
+        wnd->SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(canvas.dc()), PRF_CLIENT);
+        wnd->DestroyWindow();
+    });
+    // The cycles did paint.
+    const RECT painted = zotest::BoundsOfDifferences(canvas, zotest::kUnpainted);
+    EXPECT_FALSE(::IsRectEmpty(&painted));
+}
+
+INSTANTIATE_TEST_SUITE_P(Controls, LeakTest, testing::ValuesIn(kEveryControl), CaseName);
+
+} // namespace

@@ -1,0 +1,54 @@
+// Shared pieces of the control tests: GDI+ and the library around each test with a visible
+// parent window, theme colours by slot, pixel counting and comparison, and skin cells of
+// ZoCtrl.dll drawn the way a control draws them.
+#pragma once
+#include <afxwin.h>
+
+#include <gtest/gtest.h>
+#include <zotest/zotest.h>
+
+namespace controltest {
+
+const COLORREF kParentColor = RGB(10, 200, 30);
+const COLORREF kMagenta = RGB(255, 0, 255);
+
+// GDI+ (started once for the program) and InitializeZoCtrl for the life of a test, and a
+// visible top-level parent 400 x 300 at (40, 40) of the screen that paints itself in kParentColor.
+class ControlTest : public testing::Test
+{
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    HWND parent() const { return parent_.get(); }
+    CWnd* parentWnd() const { return CWnd::FromHandle(parent_.get()); }
+
+private:
+    bool initialized_ = false;
+    zotest::ScopedWindow parent_;
+};
+
+// Theme 0's colour of `slot`, as the controls read it.
+COLORREF Slot(int slot);
+
+// How many pixels of `dib` (inside `area`) have exactly `color`.
+int CountPixels(const zotest::Dib& dib, const RECT& area, COLORREF color);
+int CountPixels(const zotest::Dib& dib, COLORREF color);
+// How many pixels differ between two images of the same size.
+int Differences(const zotest::Dib& a, const zotest::Dib& b);
+
+// A 24-bit bitmap of width x height filled with `fill`, pixel (0, 0) set to `corner`; the caller
+// deletes it.
+HBITMAP MakeBitmap(int width, int height, COLORREF fill, COLORREF corner);
+
+// Bitmap resource `name` of ZoCtrl.dll, or null; the caller deletes it.
+HBITMAP LoadLibraryBitmap(const wchar_t* name);
+
+// `w` x `h` of `fill` with cell (column, row) of a columns x rows strip stretched over it,
+// magenta left out: what a control draws for that cell at that size.
+zotest::Dib StretchedCell(HBITMAP strip, int columns, int rows, int column, int row, int w, int h, COLORREF fill);
+
+// The pixels of `area` of `dib` equal those of `expected` from (0, 0).
+testing::AssertionResult AreaMatches(const zotest::Dib& dib, const RECT& area, const zotest::Dib& expected);
+
+} // namespace controltest

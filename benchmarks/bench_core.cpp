@@ -8,32 +8,14 @@
 
 #include "core/ZoCtrl.h"
 #include "core/ZoMemDC.h"
+#include "BenchTiming.h"
 
 namespace {
 
+using zobench::TimePerCall;
+
 const int kClientWidth = 800;
 const int kClientHeight = 600;
-
-double Now()
-{
-    static LARGE_INTEGER frequency = {};
-    if (!frequency.QuadPart)
-        ::QueryPerformanceFrequency(&frequency);
-    LARGE_INTEGER counter;
-    ::QueryPerformanceCounter(&counter);
-    return static_cast<double>(counter.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
-
-// Average seconds per call of `work`, over `rounds` calls after one warm-up call.
-template <class Work>
-double TimePerCall(int rounds, Work work)
-{
-    work();
-    const double start = Now();
-    for (int i = 0; i < rounds; ++i)
-        work();
-    return (Now() - start) / rounds;
-}
 
 // The plain pair every double-buffered paint needs: DC, bitmap, fill, copy, clean up.
 void PlainPair(HDC target)

@@ -18,11 +18,6 @@ const UINT kCheckStrip = 808;
 class ButtonPaintTest : public controltest::ControlTest
 {
 protected:
-    void Make(CZoButton& button, const wchar_t* text, DWORD style, const RECT& rect = RECT{10, 10, 90, 34})
-    {
-        ASSERT_TRUE(button.Create(text, WS_CHILD | WS_VISIBLE | style, rect, parentWnd(), 300));
-    }
-
     // The strip's cell (column, row) composed over `backs` (one colour per row), drawn alone.
     zotest::Dib StripCell(int column, int row, const COLORREF* backs, int count)
     {
@@ -87,7 +82,7 @@ void ExpectFaceAndLines(const zotest::Dib& dib, COLORREF face, COLORREF line)
 TEST_F(ButtonPaintTest, PushFaceAndLinesPerState)
 {
     CZoButton button;
-    Make(button, L"", BS_PUSHBUTTON);
+    MakeButton(button, L"", BS_PUSHBUTTON);
     ExpectFaceAndLines(zotest::RenderClient(button.m_hWnd), Slot(13), Slot(18));
 
     SendMessage(button.m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
@@ -107,15 +102,15 @@ TEST_F(ButtonPaintTest, PushFaceAndLinesPerState)
 TEST_F(ButtonPaintTest, DefaultPushLooksLikePush)
 {
     CZoButton plain, def;
-    Make(plain, L"", BS_PUSHBUTTON);
-    Make(def, L"", BS_DEFPUSHBUTTON, RECT{100, 10, 180, 34});
+    MakeButton(plain, L"", BS_PUSHBUTTON);
+    MakeButton(def, L"", BS_DEFPUSHBUTTON, RECT{100, 10, 180, 34});
     ExpectFaceAndLines(zotest::RenderClient(def.m_hWnd), Slot(13), Slot(18));
 }
 
 TEST_F(ButtonPaintTest, LinesInMagentaAreNotDrawn)
 {
     CZoButton button;
-    Make(button, L"", BS_PUSHBUTTON);
+    MakeButton(button, L"", BS_PUSHBUTTON);
     button.SetLineColor(LINE_TOP, ZO_LINE_NOT_DRAWN);
     button.SetLineColor(LINE_RIGHT, RGB(0, 0, 200));
     const zotest::Dib dib = zotest::RenderClient(button.m_hWnd);
@@ -129,7 +124,7 @@ TEST_F(ButtonPaintTest, LinesInMagentaAreNotDrawn)
 TEST_F(ButtonPaintTest, CheckedPushLikeBoxDrawsPressed)
 {
     CZoButton button;
-    Make(button, L"", BS_AUTOCHECKBOX | BS_PUSHLIKE);
+    MakeButton(button, L"", BS_AUTOCHECKBOX | BS_PUSHLIKE);
     button.SetCheck(BST_CHECKED);
     ExpectFaceAndLines(zotest::RenderClient(button.m_hWnd), Slot(15), Slot(20));
 }
@@ -137,7 +132,7 @@ TEST_F(ButtonPaintTest, CheckedPushLikeBoxDrawsPressed)
 TEST_F(ButtonPaintTest, CaptionInStateTextColour)
 {
     CZoButton button;
-    Make(button, L"MMMM", BS_PUSHBUTTON);
+    MakeButton(button, L"MMMM", BS_PUSHBUTTON);
     const zotest::Dib dib = zotest::RenderClient(button.m_hWnd);
     EXPECT_GT(controltest::CountPixels(dib, Slot(34)), 0);
     button.EnableWindow(FALSE);
@@ -148,11 +143,11 @@ TEST_F(ButtonPaintTest, CaptionAlignmentBits)
 {
     CZoButton centred, bsCenter, right, bsVCenter, bottom;
     const RECT wide = {10, 10, 210, 50};
-    Make(centred, L"Ab", BS_PUSHBUTTON, wide);
-    Make(bsCenter, L"Ab", BS_PUSHBUTTON | BS_CENTER, wide);
-    Make(right, L"Ab", BS_PUSHBUTTON | BS_RIGHT, wide);
-    Make(bsVCenter, L"Ab", BS_PUSHBUTTON | BS_VCENTER, wide);
-    Make(bottom, L"Ab", BS_PUSHBUTTON | BS_BOTTOM, wide);
+    MakeButton(centred, L"Ab", BS_PUSHBUTTON, wide);
+    MakeButton(bsCenter, L"Ab", BS_PUSHBUTTON | BS_CENTER, wide);
+    MakeButton(right, L"Ab", BS_PUSHBUTTON | BS_RIGHT, wide);
+    MakeButton(bsVCenter, L"Ab", BS_PUSHBUTTON | BS_VCENTER, wide);
+    MakeButton(bottom, L"Ab", BS_PUSHBUTTON | BS_BOTTOM, wide);
     const RECT c = CaptionBounds(zotest::RenderClient(centred.m_hWnd), Slot(13));
     const RECT l = CaptionBounds(zotest::RenderClient(bsCenter.m_hWnd), Slot(13));
     const RECT r = CaptionBounds(zotest::RenderClient(right.m_hWnd), Slot(13));
@@ -170,7 +165,7 @@ TEST_F(ButtonPaintTest, CaptionAlignmentBits)
 TEST_F(ButtonPaintTest, SystemImageLeftOfTextMovesWhenPressed)
 {
     CZoButton button;
-    Make(button, L"Ab", BS_PUSHBUTTON | BS_BITMAP, RECT{10, 10, 110, 50});
+    MakeButton(button, L"Ab", BS_PUSHBUTTON | BS_BITMAP, RECT{10, 10, 110, 50});
     HBITMAP bitmap = controltest::MakeBitmap(10, 10, RGB(0, 180, 0), RGB(0, 180, 0));
     button.SetBitmap(bitmap);
     // d = (40 - hy - 10) / 3 shrinks the text rectangle symmetrically: the image stays centred.
@@ -187,7 +182,7 @@ TEST_F(ButtonPaintTest, SystemImageLeftOfTextMovesWhenPressed)
 TEST_F(ButtonPaintTest, LoneImageCentredAndStillWhenPressed)
 {
     CZoButton button;
-    Make(button, L"", BS_PUSHBUTTON | BS_BITMAP, RECT{10, 10, 110, 50});
+    MakeButton(button, L"", BS_PUSHBUTTON | BS_BITMAP, RECT{10, 10, 110, 50});
     HBITMAP bitmap = controltest::MakeBitmap(10, 10, RGB(0, 180, 0), RGB(0, 180, 0));
     button.SetBitmap(bitmap);
     ZOTEST_EXPECT_FILL(zotest::RenderClient(button.m_hWnd), (RECT{45, 15, 55, 25}), RGB(0, 180, 0));
@@ -200,8 +195,8 @@ TEST_F(ButtonPaintTest, LoneImageCentredAndStillWhenPressed)
 TEST_F(ButtonPaintTest, ImageBelowAndAboveText)
 {
     CZoButton below, above;
-    Make(below, L"Ab", BS_PUSHBUTTON | BS_BITMAP | BS_TOP, RECT{10, 10, 110, 70});
-    Make(above, L"Ab", BS_PUSHBUTTON | BS_BITMAP | BS_BOTTOM, RECT{10, 80, 110, 140});
+    MakeButton(below, L"Ab", BS_PUSHBUTTON | BS_BITMAP | BS_TOP, RECT{10, 10, 110, 70});
+    MakeButton(above, L"Ab", BS_PUSHBUTTON | BS_BITMAP | BS_BOTTOM, RECT{10, 80, 110, 140});
     HBITMAP bitmap = controltest::MakeBitmap(10, 10, RGB(0, 180, 0), RGB(0, 180, 0));
     below.SetBitmap(bitmap);
     above.SetBitmap(bitmap);
@@ -228,7 +223,7 @@ TEST_F(ButtonPaintTest, ImageBelowAndAboveText)
 TEST_F(ButtonPaintTest, DisabledStateFollowingRowDrawsRowFour)
 {
     CZoButton button;
-    Make(button, L"", BS_PUSHBUTTON, RECT{10, 10, 55, 45});
+    MakeButton(button, L"", BS_PUSHBUTTON, RECT{10, 10, 55, 45});
     button.SetZoPNGImages(kCheckStrip, false, true, false, 4, 5, 1);
     button.EnableWindow(FALSE);
     const zotest::Dib dib = zotest::RenderClient(button.m_hWnd);
@@ -245,7 +240,7 @@ TEST_F(ButtonPaintTest, DisabledStateFollowingRowDrawsRowFour)
 TEST_F(ButtonPaintTest, CheckBoxCellsFromTheStrip)
 {
     CZoButton box;
-    Make(box, L"", BS_AUTO3STATE, RECT{10, 10, 110, 35});
+    MakeButton(box, L"", BS_AUTO3STATE, RECT{10, 10, 110, 35});
     const POINT at = {0, 5};
     EXPECT_TRUE(SameArea(zotest::RenderClient(box.m_hWnd), at, StripCell(0, 0, Slot(0))));
     box.SetCheck(BST_CHECKED);
@@ -264,7 +259,7 @@ TEST_F(ButtonPaintTest, CheckBoxCellsFromTheStrip)
 TEST_F(ButtonPaintTest, RadioCellsAndBoxOnTheRight)
 {
     CZoButton radio;
-    Make(radio, L"", BS_AUTORADIOBUTTON | BS_LEFTTEXT | BS_TOP, RECT{10, 10, 110, 35});
+    MakeButton(radio, L"", BS_AUTORADIOBUTTON | BS_LEFTTEXT | BS_TOP, RECT{10, 10, 110, 35});
     EXPECT_TRUE(SameArea(zotest::RenderClient(radio.m_hWnd), POINT{85, 0}, StripCell(0, 3, Slot(0))));
     radio.SetCheck(BST_CHECKED);
     EXPECT_TRUE(SameArea(zotest::RenderClient(radio.m_hWnd), POINT{85, 0}, StripCell(0, 4, Slot(0))));
@@ -273,7 +268,7 @@ TEST_F(ButtonPaintTest, RadioCellsAndBoxOnTheRight)
 TEST_F(ButtonPaintTest, CheckTextBesideTheBoxInStateSlot)
 {
     CZoButton box;
-    Make(box, L"MMMM", BS_AUTOCHECKBOX, RECT{10, 10, 160, 35});
+    MakeButton(box, L"MMMM", BS_AUTOCHECKBOX, RECT{10, 10, 160, 35});
     const zotest::Dib dib = zotest::RenderClient(box.m_hWnd);
     const RECT text = zotest::BoundsOfDifferences(dib.Crop(RECT{15, 0, 150, 25}), Slot(0));
     EXPECT_GE(text.left, 3);
@@ -286,8 +281,8 @@ TEST_F(ButtonPaintTest, CheckTextBesideTheBoxInStateSlot)
 TEST_F(ButtonPaintTest, FocusRectangleOnCheckBoxNotOnPushButton)
 {
     CZoButton box, push;
-    Make(box, L"Focus", BS_AUTOCHECKBOX, RECT{10, 10, 160, 35});
-    Make(push, L"Focus", BS_PUSHBUTTON, RECT{10, 50, 160, 75});
+    MakeButton(box, L"Focus", BS_AUTOCHECKBOX, RECT{10, 10, 160, 35});
+    MakeButton(push, L"Focus", BS_PUSHBUTTON, RECT{10, 50, 160, 75});
     const zotest::Dib boxBefore = zotest::RenderClient(box.m_hWnd);
     const zotest::Dib pushBefore = zotest::RenderClient(push.m_hWnd);
     box.SendMessage(BM_SETSTATE, FALSE, 0);
@@ -325,7 +320,7 @@ int GroupLineHeight()
 TEST_F(ButtonPaintTest, GroupBoxFrameAndCaptionCut)
 {
     CZoButton group;
-    Make(group, L"Group", BS_GROUPBOX, RECT{10, 10, 170, 90});
+    MakeButton(group, L"Group", BS_GROUPBOX, RECT{10, 10, 170, 90});
     const zotest::Dib dib = zotest::RenderClient(group.m_hWnd);
     const int top = GroupLineHeight() / 2 + 2;
     // Outline (client less one pixel right and bottom) and the inner second line.
@@ -342,9 +337,9 @@ TEST_F(ButtonPaintTest, GroupBoxFrameAndCaptionCut)
 TEST_F(ButtonPaintTest, GroupBoxCaptionPositions)
 {
     CZoButton left, centred, right;
-    Make(left, L"Cap", BS_GROUPBOX, RECT{10, 10, 170, 60});
-    Make(centred, L"Cap", BS_GROUPBOX | BS_CENTER, RECT{10, 70, 170, 120});
-    Make(right, L"Cap", BS_GROUPBOX | BS_RIGHT, RECT{10, 130, 170, 180});
+    MakeButton(left, L"Cap", BS_GROUPBOX, RECT{10, 10, 170, 60});
+    MakeButton(centred, L"Cap", BS_GROUPBOX | BS_CENTER, RECT{10, 70, 170, 120});
+    MakeButton(right, L"Cap", BS_GROUPBOX | BS_RIGHT, RECT{10, 130, 170, 180});
     // The top line shows wherever the caption is not.
     const zotest::Dib cd = zotest::RenderClient(centred.m_hWnd);
     EXPECT_NE(cd.Pixel(80, GroupLineHeight() / 2 + 2), Slot(49));
@@ -361,7 +356,7 @@ TEST_F(ButtonPaintTest, GroupBoxCaptionPositions)
 TEST_F(ButtonPaintTest, UnknownKindsAreLeftToTheSystem)
 {
     CZoButton owner;
-    Make(owner, L"", BS_OWNERDRAW);
+    MakeButton(owner, L"", BS_OWNERDRAW);
     zotest::MessageRecorder recorder;
     ASSERT_TRUE(recorder.Watch(parent(), zotest::WindowRole::Parent));
     zotest::RenderClient(owner.m_hWnd);

@@ -86,14 +86,6 @@ TEST(ButtonRules, ImageCells)
     EXPECT_EQ(ZoImageCellRow(1, BS_ZO_DISABLED, false), 1);
 }
 
-TEST(ButtonRules, LoneImageIsCentredAndDoesNotMoveWhenPressed)
-{
-    const CRect t(0, 0, 100, 40);
-    const ZoImageTextLayout up = ZoLayoutImageAndText(t, CSize(16, 10), false, 0, 14, 0, false, 0, false);
-    const ZoImageTextLayout down = ZoLayoutImageAndText(t, CSize(16, 10), false, 0, 14, 0, false, 0, true);
-    EXPECT_EQ(up.image, CPoint(42, 15));
-    EXPECT_EQ(down.image, CPoint(42, 15));
-}
 
 TEST(ButtonRules, ImageLeftOfText)
 {

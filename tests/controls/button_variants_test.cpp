@@ -12,11 +12,6 @@ namespace {
 class VariantTest : public controltest::ControlTest
 {
 protected:
-    void Make(CZoButton& button, const wchar_t* text, DWORD style, const RECT& rect = RECT{10, 10, 110, 35})
-    {
-        ASSERT_TRUE(button.Create(text, WS_CHILD | WS_VISIBLE | style, rect, parentWnd(), 500));
-    }
-
     static RECT Margins(const CButton& button)
     {
         RECT margin = {-1, -1, -1, -1};
@@ -44,14 +39,14 @@ TEST_F(VariantTest, FlatPushTextInsetByThreePixels)
     if (!v6.active())
         GTEST_SKIP() << "no comctl32 version 6";
     CZoFlatButton flat;
-    Make(flat, L"MM", BS_PUSHBUTTON | BS_LEFT | BS_TOP);
+    MakeButton(flat, L"MM", BS_PUSHBUTTON | BS_LEFT | BS_TOP);
     const RECT m = Margins(flat);
     EXPECT_EQ(m.left, 3);
     EXPECT_EQ(m.top, 3);
     EXPECT_EQ(m.right, 3);
     EXPECT_EQ(m.bottom, 3);
     const zotest::Dib dib = zotest::RenderClient(flat.m_hWnd);
-    const RECT ink = zotest::BoundsOfDifferences(dib.Crop(RECT{1, 1, 99, 24}), Slot(13));
+    const RECT ink = zotest::BoundsOfDifferences(dib.Crop(RECT{1, 1, 79, 23}), Slot(13));
     EXPECT_GE(ink.left + 1, 3);
     EXPECT_LE(ink.left + 1, 5);
     EXPECT_GE(ink.top + 1, 3);
@@ -61,8 +56,8 @@ TEST_F(VariantTest, FlatAndToggleNeverShowFocus)
 {
     CZoFlatButton flat;
     CZoToggleButton toggle;
-    Make(flat, L"Flat", BS_PUSHBUTTON);
-    Make(toggle, L"Toggle", BS_AUTOCHECKBOX, RECT{10, 50, 110, 75});
+    MakeButton(flat, L"Flat", BS_PUSHBUTTON);
+    MakeButton(toggle, L"Toggle", BS_AUTOCHECKBOX, RECT{10, 50, 110, 75});
     const zotest::Dib flatBefore = zotest::RenderClient(flat.m_hWnd);
     const zotest::Dib toggleBefore = zotest::RenderClient(toggle.m_hWnd);
     SetForegroundWindow(parent());
@@ -77,19 +72,19 @@ TEST_F(VariantTest, FlatAndToggleNeverShowFocus)
 TEST_F(VariantTest, ToggleFaceFollowsCheckHoverAndEnable)
 {
     CZoToggleButton toggle;
-    Make(toggle, L"", BS_AUTOCHECKBOX);
+    MakeButton(toggle, L"", BS_AUTOCHECKBOX);
     // Corner pixels inside the face, away from the box on the left.
-    EXPECT_EQ(zotest::RenderClient(toggle.m_hWnd).Pixel(90, 3), Slot(13));
+    EXPECT_EQ(zotest::RenderClient(toggle.m_hWnd).Pixel(70, 3), Slot(13));
     EXPECT_EQ(zotest::RenderClient(toggle.m_hWnd).Pixel(0, 0), Slot(18));
     toggle.SetCheck(BST_CHECKED);
-    EXPECT_EQ(zotest::RenderClient(toggle.m_hWnd).Pixel(90, 3), Slot(15));
-    EXPECT_EQ(zotest::RenderClient(toggle.m_hWnd).Pixel(99, 24), Slot(20));
+    EXPECT_EQ(zotest::RenderClient(toggle.m_hWnd).Pixel(70, 3), Slot(15));
+    EXPECT_EQ(zotest::RenderClient(toggle.m_hWnd).Pixel(79, 23), Slot(20));
     toggle.SetCheck(BST_UNCHECKED);
     SendMessage(toggle.m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(3, 3));
-    EXPECT_EQ(zotest::RenderClient(toggle.m_hWnd).Pixel(90, 3), Slot(14));
+    EXPECT_EQ(zotest::RenderClient(toggle.m_hWnd).Pixel(70, 3), Slot(14));
     toggle.SetCheck(BST_CHECKED);
     toggle.EnableWindow(FALSE);
-    EXPECT_EQ(zotest::RenderClient(toggle.m_hWnd).Pixel(90, 3), Slot(17));
+    EXPECT_EQ(zotest::RenderClient(toggle.m_hWnd).Pixel(70, 3), Slot(17));
 }
 
 TEST_F(VariantTest, ToggleKeepsTheSystemMargins)
@@ -97,8 +92,8 @@ TEST_F(VariantTest, ToggleKeepsTheSystemMargins)
     zotest::ScopedCommonControls6 v6;
     CZoButton plain;
     CZoToggleButton toggle;
-    Make(plain, L"", BS_AUTOCHECKBOX);
-    Make(toggle, L"", BS_AUTOCHECKBOX, RECT{10, 50, 110, 75});
+    MakeButton(plain, L"", BS_AUTOCHECKBOX);
+    MakeButton(toggle, L"", BS_AUTOCHECKBOX, RECT{10, 50, 110, 75});
     const RECT a = Margins(plain);
     const RECT b = Margins(toggle);
     EXPECT_TRUE(EqualRect(&a, &b));
@@ -109,8 +104,8 @@ TEST_F(VariantTest, MsgBoxButtonKindSetBeforeCreation)
     CZoButton4MsgBox def, plain;
     EXPECT_TRUE(def.SetAsDefault(true));
     EXPECT_TRUE(plain.SetAsDefault(false));
-    Make(def, L"OK", BS_AUTOCHECKBOX | BS_LEFTTEXT);
-    Make(plain, L"Cancel", BS_DEFPUSHBUTTON, RECT{120, 10, 200, 35});
+    MakeButton(def, L"OK", BS_AUTOCHECKBOX | BS_LEFTTEXT);
+    MakeButton(plain, L"Cancel", BS_DEFPUSHBUTTON, RECT{120, 10, 200, 35});
     EXPECT_EQ(def.GetStyle() & BS_TYPEMASK, static_cast<DWORD>(BS_DEFPUSHBUTTON));
     EXPECT_EQ(plain.GetStyle() & BS_TYPEMASK, static_cast<DWORD>(BS_PUSHBUTTON));
     // Painted as push buttons.
@@ -120,10 +115,10 @@ TEST_F(VariantTest, MsgBoxButtonKindSetBeforeCreation)
 TEST_F(VariantTest, MsgBoxButtonKindAfterCreationIsRefused)
 {
     CZoButton4MsgBox button;
-    Make(button, L"Yes", BS_PUSHBUTTON);
+    MakeButton(button, L"Yes", BS_PUSHBUTTON);
     EXPECT_FALSE(button.SetAsDefault(true));
     button.DestroyWindow();
-    Make(button, L"Yes", BS_PUSHBUTTON);
+    MakeButton(button, L"Yes", BS_PUSHBUTTON);
     EXPECT_EQ(button.GetStyle() & BS_TYPEMASK, static_cast<DWORD>(BS_PUSHBUTTON));
 }
 

@@ -1,5 +1,6 @@
-// What every control shares, run over a table of the controls: no erasing, the menu messages
-// handed to the owner-drawn menu, and no resources left behind by create/paint/destroy cycles.
+// What the controls share, run over tables of the controls: no erasing, repainting at once on
+// text and enable changes, the menu messages handed to the owner-drawn menu, and no resources
+// left behind by create/paint/destroy cycles.
 #include "controls_test_support.h"
 
 #include <afxcmn.h>
@@ -151,6 +152,34 @@ TEST_P(EraseTest, EraseBackgroundPaintsNothing)
 }
 
 INSTANTIATE_TEST_SUITE_P(Controls, EraseTest, testing::ValuesIn(kPaintingControls), CaseName);
+
+// --- Repainting --------------------------------------------------------------------------------
+
+const ControlCase kTextControls[] = {
+    {"Button", MakeButton<CZoButton, BS_PUSHBUTTON>},
+    {"Static", MakeStatic<CZoStatic, SS_LEFT>},
+};
+
+using RepaintTest = ControlCaseTest;
+
+TEST_P(RepaintTest, SettingTextOrEnablingRepaintsAtOnce)
+{
+    const std::unique_ptr<CWnd> wnd = GetParam().make(parentWnd());
+    ASSERT_TRUE(wnd);
+    wnd->ShowWindow(SW_SHOWNA);
+    zotest::PumpUntilIdle(500);
+    zotest::MessageRecorder recorder;
+    ASSERT_TRUE(recorder.Watch(wnd->m_hWnd));
+    wnd->SetWindowText(L"Two");
+    EXPECT_GE(recorder.Count(WM_PAINT), 1u);
+    recorder.Clear();
+    wnd->EnableWindow(FALSE);
+    EXPECT_GE(recorder.Count(WM_PAINT), 1u);
+    recorder.UnwatchAll();
+    wnd->DestroyWindow();
+}
+
+INSTANTIATE_TEST_SUITE_P(Controls, RepaintTest, testing::ValuesIn(kTextControls), CaseName);
 
 // --- Menus -------------------------------------------------------------------------------------
 

@@ -48,6 +48,11 @@ void ControlTest::TearDown()
         UninitializeZoCtrl();
 }
 
+void ControlTest::MakeButton(CButton& button, const wchar_t* text, DWORD style, const RECT& rect)
+{
+    ASSERT_TRUE(button.Create(text, WS_CHILD | WS_VISIBLE | style, rect, parentWnd(), 300));
+}
+
 COLORREF Slot(int slot)
 {
     const ZoControls::CZoThemeManager* manager = ZoControls::CZoThemeManager::GetInstance();

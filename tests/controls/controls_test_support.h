@@ -22,6 +22,8 @@ protected:
 
     HWND parent() const { return parent_.get(); }
     CWnd* parentWnd() const { return CWnd::FromHandle(parent_.get()); }
+    // A visible button of any CButton class in the parent, 80 x 24 at (10, 10) unless told.
+    void MakeButton(CButton& button, const wchar_t* text, DWORD style, const RECT& rect = RECT{10, 10, 90, 34});
 
 private:
     bool initialized_ = false;

@@ -79,15 +79,6 @@ TEST_F(ScrollBarTest, HiddenBarStaysHiddenThroughScrollStateChanges)
     EXPECT_EQ(bar_.GetThumbPos(), 28);
 }
 
-TEST_F(ScrollBarTest, ShortBarHasHalfButtonsAndNoThumb)
-{
-    Create(SBS_VERT, CRect(10, 10, 10 + kWidth, 10 + 50));
-    EXPECT_TRUE(Same(bar_.GetPartRect(CZoScrollBar::SBHit_PrevButton), 0, 0, kWidth, 25));
-    EXPECT_TRUE(Same(bar_.GetPartRect(CZoScrollBar::SBHit_NextButton), 0, 25, kWidth, 50));
-    EXPECT_TRUE(bar_.GetPartRect(CZoScrollBar::SBHit_Thumb).IsRectEmpty());
-    EXPECT_EQ(bar_.HitTest(CPoint(5, 10)), CZoScrollBar::SBHit_PrevButton);
-    EXPECT_EQ(bar_.HitTest(CPoint(5, 40)), CZoScrollBar::SBHit_NextButton);
-}
 
 TEST_F(ScrollBarTest, ScrollInfoSetsThumbLengthAndPosition)
 {
@@ -123,45 +114,31 @@ TEST_F(ScrollBarTest, ResizeResetsThumbLengthAndKeepsPosition)
     EXPECT_TRUE(Same(bar_.GetPartRect(CZoScrollBar::SBHit_Thumb), 0, 92, kWidth, 92 + 82));
 }
 
-TEST_F(ScrollBarTest, ClickingEachPartSendsItsCodeToTheParent)
+TEST_F(ScrollBarTest, EachClickWritesItsStepThenNotifiesTheParent)
 {
     Create();
     SetStandardState();
     WatchParent();
-    Press(9, 5);
-    Release(9, 5);
-    Press(9, 190);
-    Release(9, 190);
-    Press(9, 50);
-    Release(9, 50);
-    Press(9, 150);
-    Release(9, 150);
-    const LPARAM self = Self();
-    const zotest::ExpectedMessage expected[] = {
-        {WM_VSCROLL, zotest::sent | zotest::parent | zotest::wparam | zotest::lparam, Code(SB_LINEUP), self},
-        {WM_VSCROLL, zotest::sent | zotest::parent | zotest::wparam | zotest::lparam, Code(SB_LINEDOWN), self},
-        {WM_VSCROLL, zotest::sent | zotest::parent | zotest::wparam | zotest::lparam, Code(SB_PAGEUP), self},
-        {WM_VSCROLL, zotest::sent | zotest::parent | zotest::wparam | zotest::lparam, Code(SB_PAGEDOWN), self},
-    };
-    ZOTEST_EXPECT_SEQUENCE(recorder_, expected);
-    // 50 - 1 + 1 - 10 + 10
-    EXPECT_EQ(bar_.GetScrollPos(), 50);
+    const struct
+    {
+        int y;
+        UINT code;
+        int pos;
+    } clicks[] = {{5, SB_LINEUP, 49}, {190, SB_LINEDOWN, 50}, {190, SB_LINEDOWN, 51}, {50, SB_PAGEUP, 41},
+                  {150, SB_PAGEDOWN, 51}};
+    for (const auto& click : clicks) {
+        SCOPED_TRACE(testing::Message() << "click at y " << click.y);
+        recorder_.Clear();
+        Press(9, click.y);
+        Release(9, click.y);
+        const zotest::ExpectedMessage expected[] = {
+            {WM_VSCROLL, zotest::sent | zotest::parent | zotest::wparam | zotest::lparam, Code(click.code), Self()},
+        };
+        ZOTEST_EXPECT_SEQUENCE(recorder_, expected);
+        EXPECT_EQ(bar_.GetScrollPos(), click.pos);
+    }
 }
 
-TEST_F(ScrollBarTest, EachClickWritesTheNewPositionBeforeNotifying)
-{
-    Create();
-    SetStandardState();
-    Press(9, 190);
-    Release(9, 190);
-    EXPECT_EQ(bar_.GetScrollPos(), 51);
-    Press(9, 150);
-    Release(9, 150);
-    EXPECT_EQ(bar_.GetScrollPos(), 61);
-    Press(9, 30);
-    Release(9, 30);
-    EXPECT_EQ(bar_.GetScrollPos(), 51);
-}
 
 TEST_F(ScrollBarTest, PreviousArrowAtMinimumStillNotifies)
 {

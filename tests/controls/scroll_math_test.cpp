@@ -115,64 +115,61 @@ TEST(ScrollRects, ChannelOfThreeThumbUnitsHidesThumbAndPageAreas)
     EXPECT_FALSE(::IsRectEmpty(&layout.part[ZoScrollPart_Thumb]));
 }
 
-TEST(ScrollThumbLength, PageShareOfTheChannelNeverBelowThreeUnits)
+TEST(ScrollThumbLength, PageShareOfTheChannel)
 {
-    EXPECT_EQ(ZoScrollThumbLength(Info(0, 99, 10), 164, kThumbUnit), 24); // 16.4 -> at least 24
-    EXPECT_EQ(ZoScrollThumbLength(Info(0, 99, 50), 164, kThumbUnit), 82);
-    EXPECT_EQ(ZoScrollThumbLength(Info(1, 8, 3), 165, kThumbUnit), 62); // 61.875 rounds up
-}
-
-TEST(ScrollThumbLength, NoPageGivesAThirdAndInvertedRangeNothing)
-{
-    EXPECT_EQ(ZoScrollThumbLength(Info(0, 99, 0), 164, kThumbUnit), 54);
-    EXPECT_EQ(ZoScrollThumbLength(Info(10, 5, 3), 164, kThumbUnit), 0);
-    EXPECT_EQ(ZoScrollThumbLength(Info(10, 5, 0), 164, kThumbUnit), 54); // no page is tested first
-}
-
-TEST(ScrollThumbLength, FullPageFillsTheChannel)
-{
-    EXPECT_EQ(ZoScrollThumbLength(Info(0, 99, 100), 164, kThumbUnit), 164);
+    const struct
+    {
+        SCROLLINFO info;
+        int total;
+        int expected;
+    } cases[] = {
+        {Info(0, 99, 10), 164, 24},  // 16.4: never below three thumb units
+        {Info(0, 99, 50), 164, 82},
+        {Info(1, 8, 3), 165, 62},    // 61.875 rounds up
+        {Info(0, 99, 100), 164, 164}, // a full page fills the channel
+        {Info(0, 99, 0), 164, 54},    // no page: a third
+        {Info(10, 5, 3), 164, 0},     // inverted range: nothing
+        {Info(10, 5, 0), 164, 54},    // no page is tested first
+    };
+    for (const auto& c : cases) {
+        SCROLLINFO info = c.info;
+        SCOPED_TRACE(testing::Message() << info.nMin << ".." << info.nMax << " page " << info.nPage);
+        EXPECT_EQ(ZoScrollThumbLength(info, c.total, kThumbUnit), c.expected);
+    }
 }
 
 TEST(ScrollConversion, PositionToThumbAndBack)
 {
-    const SCROLLINFO info = Info(0, 109, 10);
-    EXPECT_EQ(ZoScrollThumbPosFromScrollPos(info, 0, 140), 0);
-    EXPECT_EQ(ZoScrollThumbPosFromScrollPos(info, 50, 140), 70);
-    EXPECT_EQ(ZoScrollThumbPosFromScrollPos(info, 100, 140), 140);
-    EXPECT_EQ(ZoScrollScrollPosFromThumbPos(info, 70, 140), 50);
-    EXPECT_EQ(ZoScrollScrollPosFromThumbPos(info, 140, 140), 100);
-    EXPECT_EQ(ZoScrollScrollPosFromThumbPos(info, 1, 140), 1); // 0.714 rounds to 1
+    // Range, position, track and the thumb position that matches; thumb back to position too.
+    const struct
+    {
+        SCROLLINFO info;
+        int pos;
+        int track;
+        int thumb;
+    } cases[] = {
+        {Info(0, 109, 10), 0, 140, 0},     {Info(0, 109, 10), 50, 140, 70}, {Info(0, 109, 10), 100, 140, 140},
+        {Info(-20, 79, 0), 30, 100, 50},   // the minimum is added back
+        {Info(5, 104, 100, 5), 5, 120, 0}, // a page covering the range: nothing to travel
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(testing::Message() << "pos " << c.pos << " thumb " << c.thumb);
+        EXPECT_EQ(ZoScrollThumbPosFromScrollPos(c.info, c.pos, c.track), c.thumb);
+        EXPECT_EQ(ZoScrollScrollPosFromThumbPos(c.info, c.thumb, c.track), c.pos);
+    }
+    EXPECT_EQ(ZoScrollScrollPosFromThumbPos(Info(0, 109, 10), 1, 140), 1); // 0.714 rounds to 1
 }
 
-TEST(ScrollConversion, RangeNotStartingAtZeroAddsTheMinimum)
+TEST(ScrollConversion, DegenerateRangesAreSafe)
 {
-    const SCROLLINFO info = Info(-20, 79, 0);
-    EXPECT_EQ(ZoScrollThumbPosFromScrollPos(info, 30, 100), 50);
-    EXPECT_EQ(ZoScrollScrollPosFromThumbPos(info, 50, 100), 30);
-}
-
-TEST(ScrollConversion, InvertedRangeGivesZero)
-{
-    const SCROLLINFO info = Info(50, 10, 5, 30);
-    EXPECT_EQ(ZoScrollThumbPosFromScrollPos(info, 30, 100), 0);
-    EXPECT_EQ(ZoScrollScrollPosFromThumbPos(info, 77, 100), 0);
-}
-
-TEST(ScrollConversion, FullPageRangeIsSafe)
-{
-    // The page covers the whole range: nothing to travel.
-    const SCROLLINFO info = Info(5, 104, 100, 5);
-    EXPECT_EQ(ZoScrollThumbPosFromScrollPos(info, 5, 120), 0);
-    EXPECT_EQ(ZoScrollThumbPosFromScrollPos(info, 60, 120), 0);
-    EXPECT_EQ(ZoScrollScrollPosFromThumbPos(info, 60, 120), 5);
-}
-
-TEST(ScrollConversion, ThumbThatCannotTravelGivesTheMinimum)
-{
-    const SCROLLINFO info = Info(7, 100, 10);
-    EXPECT_EQ(ZoScrollScrollPosFromThumbPos(info, 0, 0), 7);
-    EXPECT_EQ(ZoScrollScrollPosFromThumbPos(info, 12, -3), 7);
+    // Inverted range: 0 both ways.
+    EXPECT_EQ(ZoScrollThumbPosFromScrollPos(Info(50, 10, 5, 30), 30, 100), 0);
+    EXPECT_EQ(ZoScrollScrollPosFromThumbPos(Info(50, 10, 5, 30), 77, 100), 0);
+    // A page covering the range, or a thumb that cannot travel: the minimum.
+    EXPECT_EQ(ZoScrollThumbPosFromScrollPos(Info(5, 104, 100, 5), 60, 120), 0);
+    EXPECT_EQ(ZoScrollScrollPosFromThumbPos(Info(5, 104, 100, 5), 60, 120), 5);
+    EXPECT_EQ(ZoScrollScrollPosFromThumbPos(Info(7, 100, 10), 0, 0), 7);
+    EXPECT_EQ(ZoScrollScrollPosFromThumbPos(Info(7, 100, 10), 12, -3), 7);
 }
 
 TEST(ScrollPoint, ClampedIntoTheChannelUnlessAskedNotTo)
@@ -208,43 +205,36 @@ TEST(ScrollHitTest, ButtonsWinOverAThumbRunningIntoThem)
     EXPECT_EQ(ZoScrollHitTest(layout, CPoint(5, 170)), ZoScrollPart_Thumb);
 }
 
-TEST(ScrollStep, LinesAndPagesClampToTheRange)
+TEST(ScrollStep, EachPartMovesAndNamesItsStep)
 {
-    const SCROLLINFO info = Info(0, 100, 10, 50);
-    ZoScrollStep step = ZoScrollStepForPart(info, ZoScrollPart_Prev, 0);
-    EXPECT_EQ(step.pos, 49);
-    EXPECT_EQ(step.code, (UINT)SB_LINEUP);
-    step = ZoScrollStepForPart(info, ZoScrollPart_Next, 0);
-    EXPECT_EQ(step.pos, 51);
-    EXPECT_EQ(step.code, (UINT)SB_LINEDOWN);
-    step = ZoScrollStepForPart(info, ZoScrollPart_Before, 0);
-    EXPECT_EQ(step.pos, 40);
-    EXPECT_EQ(step.code, (UINT)SB_PAGEUP);
-    step = ZoScrollStepForPart(info, ZoScrollPart_After, 0);
-    EXPECT_EQ(step.pos, 60);
-    EXPECT_EQ(step.code, (UINT)SB_PAGEDOWN);
-    step = ZoScrollStepForPart(info, ZoScrollPart_Thumb, 77);
-    EXPECT_EQ(step.pos, 77);
-    EXPECT_EQ(step.code, (UINT)SB_THUMBTRACK);
-    step = ZoScrollStepForPart(info, ZoScrollPart_None, 77);
-    EXPECT_EQ(step.pos, 50);
-    EXPECT_EQ(step.code, (UINT)SB_LINEUP);
-}
-
-TEST(ScrollStep, UpperClampIsTheMaximumNotTheLastPage)
-{
-    EXPECT_EQ(ZoScrollStepForPart(Info(0, 100, 10, 95), ZoScrollPart_After, 0).pos, 100);
-    EXPECT_EQ(ZoScrollStepForPart(Info(0, 100, 10, 100), ZoScrollPart_Next, 0).pos, 100);
-    EXPECT_EQ(ZoScrollStepForPart(Info(0, 100, 10, 0), ZoScrollPart_Prev, 0).pos, 0);
-    EXPECT_EQ(ZoScrollStepForPart(Info(0, 100, 10, 3), ZoScrollPart_Before, 0).pos, 0);
-    // Inverted range: the larger end is the upper bound.
-    EXPECT_EQ(ZoScrollStepForPart(Info(20, 10, 0, 20), ZoScrollPart_Next, 0).pos, 20);
-}
-
-TEST(ScrollStep, PositionsAtTheIntLimitsDoNotWrap)
-{
-    EXPECT_EQ(ZoScrollStepForPart(Info(INT_MIN, INT_MAX, 0x7FFFFFFF, INT_MAX), ZoScrollPart_After, 0).pos,
-              INT_MAX);
-    EXPECT_EQ(ZoScrollStepForPart(Info(INT_MIN, INT_MAX, 0x7FFFFFFF, INT_MIN), ZoScrollPart_Before, 0).pos,
-              INT_MIN);
+    const struct
+    {
+        SCROLLINFO info;
+        int part;
+        int pos;
+        UINT code;
+    } cases[] = {
+        {Info(0, 100, 10, 50), ZoScrollPart_Prev, 49, SB_LINEUP},
+        {Info(0, 100, 10, 50), ZoScrollPart_Next, 51, SB_LINEDOWN},
+        {Info(0, 100, 10, 50), ZoScrollPart_Before, 40, SB_PAGEUP},
+        {Info(0, 100, 10, 50), ZoScrollPart_After, 60, SB_PAGEDOWN},
+        {Info(0, 100, 10, 50), ZoScrollPart_Thumb, 77, SB_THUMBTRACK}, // the thumb's position
+        {Info(0, 100, 10, 50), ZoScrollPart_None, 50, SB_LINEUP},
+        // The upper clamp is the maximum, not the last page.
+        {Info(0, 100, 10, 95), ZoScrollPart_After, 100, SB_PAGEDOWN},
+        {Info(0, 100, 10, 100), ZoScrollPart_Next, 100, SB_LINEDOWN},
+        {Info(0, 100, 10, 0), ZoScrollPart_Prev, 0, SB_LINEUP},
+        {Info(0, 100, 10, 3), ZoScrollPart_Before, 0, SB_PAGEUP},
+        // Inverted range: the larger end is the upper bound.
+        {Info(20, 10, 0, 20), ZoScrollPart_Next, 20, SB_LINEDOWN},
+        // No wrapping at the int limits.
+        {Info(INT_MIN, INT_MAX, 0x7FFFFFFF, INT_MAX), ZoScrollPart_After, INT_MAX, SB_PAGEDOWN},
+        {Info(INT_MIN, INT_MAX, 0x7FFFFFFF, INT_MIN), ZoScrollPart_Before, INT_MIN, SB_PAGEUP},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(testing::Message() << "part " << c.part << " from " << c.info.nPos);
+        const ZoScrollStep step = ZoScrollStepForPart(c.info, c.part, 77);
+        EXPECT_EQ(step.pos, c.pos);
+        EXPECT_EQ(step.code, c.code);
+    }
 }

@@ -40,6 +40,13 @@ protected:
 
     void Send(UINT message, int x, int y) { sep_->SendMessage(message, 0, MAKELPARAM(x, y)); }
 
+    // `boundary` in the parent's client coordinates.
+    bool SetBoundary(CRect boundary)
+    {
+        ::MapWindowPoints(parent(), nullptr, reinterpret_cast<POINT*>(&boundary), 2);
+        return sep_->SetBoundaryOnScreen(&boundary);
+    }
+
     COLORREF ParentPixel(int x, int y)
     {
         HDC dc = ::GetDC(parent());
@@ -140,10 +147,7 @@ TEST_F(SeparatorTest, VerticalBarKeepsItsLineWhenTheMouseDoesNotMoveSideways)
 TEST_F(SeparatorTest, BoundaryLimitsTheRubberBand)
 {
     Create(CSeparatorWnd::SeparatorDirection_Horizontal);
-    CRect boundary(0, 80, 300, 130); // parent client coordinates
-    ::ClientToScreen(parent(), (POINT*)&boundary.left);
-    ::ClientToScreen(parent(), (POINT*)&boundary.right);
-    ASSERT_TRUE(sep_->SetBoundaryOnScreen(&boundary));
+    ASSERT_TRUE(SetBoundary(CRect(0, 80, 300, 130)));
     Send(WM_LBUTTONDOWN, 10, 1);
     Send(WM_MOUSEMOVE, 10, 100); // parent y 200, limited to 130
     EXPECT_EQ(ParentPixel(150, 130), XorColor());
@@ -154,10 +158,7 @@ TEST_F(SeparatorTest, BoundaryLimitsTheRubberBand)
 TEST_F(SeparatorTest, ReleaseNotifiesOnceWithTheClampedScreenPosition)
 {
     Create(CSeparatorWnd::SeparatorDirection_Vertical);
-    CRect boundary(60, 0, 200, 300);
-    ::ClientToScreen(parent(), (POINT*)&boundary.left);
-    ::ClientToScreen(parent(), (POINT*)&boundary.right);
-    ASSERT_TRUE(sep_->SetBoundaryOnScreen(&boundary));
+    ASSERT_TRUE(SetBoundary(CRect(60, 0, 200, 300)));
     recorder_.Watch(parent(), zotest::WindowRole::Parent);
     recorder_.MatchOnlyListed(true);
     Send(WM_LBUTTONDOWN, 1, 10);
@@ -176,10 +177,7 @@ TEST_F(SeparatorTest, ReleaseNotifiesOnceWithTheClampedScreenPosition)
 TEST_F(SeparatorTest, EmptyBoundaryIsRefusedAndRemovesTheLimit)
 {
     Create(CSeparatorWnd::SeparatorDirection_Vertical);
-    CRect boundary(60, 0, 200, 300);
-    ::ClientToScreen(parent(), (POINT*)&boundary.left);
-    ::ClientToScreen(parent(), (POINT*)&boundary.right);
-    ASSERT_TRUE(sep_->SetBoundaryOnScreen(&boundary));
+    ASSERT_TRUE(SetBoundary(CRect(60, 0, 200, 300)));
     const CRect empty(0, 0, 0, 0);
     EXPECT_FALSE(sep_->SetBoundaryOnScreen(&empty));
     EXPECT_FALSE(sep_->SetBoundaryOnScreen(NULL));

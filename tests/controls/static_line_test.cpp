@@ -22,36 +22,20 @@ protected:
     }
 };
 
-TEST(StaticLineRules, HorizontalDotsLieOnTheRowOfTheLeftEdge)
+bool RunIs(const ZoDotRun& run, int x, int y, int dx, int dy, int count)
 {
-    const ZoDotRun line = ZoStaticLineDots(CRect(0, 0, 100, 10), 0);
-    EXPECT_EQ(line.x, 0);
-    EXPECT_EQ(line.y, 0);
-    EXPECT_EQ(line.dx, 4);
-    EXPECT_EQ(line.dy, 0);
-    EXPECT_EQ(line.count, 25);
-    const ZoDotRun shadow = ZoStaticLineDots(CRect(0, 0, 100, 10), 1);
-    EXPECT_EQ(shadow.x, 1);
-    EXPECT_EQ(shadow.y, 1);
-    EXPECT_EQ(shadow.count, 25);
-    // A rectangle not at the origin: y follows its left edge, not its top.
-    const ZoDotRun moved = ZoStaticLineDots(CRect(3, 20, 13, 22), 0);
-    EXPECT_EQ(moved.y, 3);
-    EXPECT_EQ(moved.count, 3);
+    return run.x == x && run.y == y && run.dx == dx && run.dy == dy && run.count == count;
 }
 
-TEST(StaticLineRules, VerticalDotsRunDownTheMiddle)
+TEST(StaticLineRules, DotRuns)
 {
-    const ZoDotRun run = ZoStaticLineDots(CRect(0, 0, 9, 30), 1);
-    EXPECT_EQ(run.x, 5);
-    EXPECT_EQ(run.y, 1);
-    EXPECT_EQ(run.dx, 0);
-    EXPECT_EQ(run.dy, 4);
-    EXPECT_EQ(run.count, 8);
-}
-
-TEST(StaticLineRules, EmptyOrInvertedRectanglesHaveNoDots)
-{
+    // Horizontal runs lie on the row of the rectangle's left edge, not at mid-height.
+    EXPECT_TRUE(RunIs(ZoStaticLineDots(CRect(0, 0, 100, 10), 0), 0, 0, 4, 0, 25));
+    EXPECT_TRUE(RunIs(ZoStaticLineDots(CRect(0, 0, 100, 10), 1), 1, 1, 4, 0, 25));
+    EXPECT_TRUE(RunIs(ZoStaticLineDots(CRect(3, 20, 13, 22), 0), 3, 3, 4, 0, 3));
+    // Vertical runs go down the middle.
+    EXPECT_TRUE(RunIs(ZoStaticLineDots(CRect(0, 0, 9, 30), 1), 5, 1, 0, 4, 8));
+    // Empty or inverted rectangles have none.
     EXPECT_EQ(ZoStaticLineDots(CRect(0, 0, 0, 0), 0).count, 0);
     EXPECT_EQ(ZoStaticLineDots(CRect(10, 5, 0, 0), 0).count, 0);
 }

@@ -145,20 +145,6 @@ TEST_F(StaticTest, TextLandsByAlignment)
     EXPECT_LT(c.bottom, 36);
 }
 
-TEST_F(StaticTest, SettingTextOrEnablingRepaintsAtOnce)
-{
-    CZoStatic stat;
-    Make(stat, L"One", SS_LEFT);
-    zotest::PumpUntilIdle(500);
-    zotest::MessageRecorder recorder;
-    ASSERT_TRUE(recorder.Watch(stat.m_hWnd));
-    stat.SetWindowText(L"Two");
-    EXPECT_GE(recorder.Count(WM_PAINT), 1u);
-    recorder.Clear();
-    stat.EnableWindow(FALSE);
-    EXPECT_GE(recorder.Count(WM_PAINT), 1u);
-    recorder.UnwatchAll();
-}
 
 // --- Pictures, icons, frames --------------------------------------------------------------------
 

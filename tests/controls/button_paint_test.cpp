@@ -18,6 +18,24 @@ const UINT kCheckStrip = 808;
 class ButtonPaintTest : public controltest::ControlTest
 {
 protected:
+    void TearDown() override
+    {
+        controltest::ControlTest::TearDown();
+        if (green_)
+            ::DeleteObject(green_);
+    }
+
+    // A 10 x 10 green bitmap as a button's system image; deleted after the test.
+    void SetGreenBitmap(CButton& button)
+    {
+        if (!green_)
+            green_ = controltest::MakeBitmap(10, 10, kGreen, kGreen);
+        button.SetBitmap(green_);
+    }
+
+    static constexpr COLORREF kGreen = RGB(0, 180, 0);
+    HBITMAP green_ = nullptr;
+
     // The strip's cell (column, row) composed over `backs` (one colour per row), drawn alone.
     zotest::Dib StripCell(int column, int row, const COLORREF* backs, int count)
     {
@@ -99,12 +117,14 @@ TEST_F(ButtonPaintTest, PushFaceAndLinesPerState)
     ExpectFaceAndLines(zotest::RenderClient(button.m_hWnd), Slot(17), Slot(22));
 }
 
-TEST_F(ButtonPaintTest, DefaultPushLooksLikePush)
+TEST_F(ButtonPaintTest, DefaultPushAndCheckedPushLikeUseThePushFaces)
 {
-    CZoButton plain, def;
-    MakeButton(plain, L"", BS_PUSHBUTTON);
-    MakeButton(def, L"", BS_DEFPUSHBUTTON, RECT{100, 10, 180, 34});
+    CZoButton def, pushLike;
+    MakeButton(def, L"", BS_DEFPUSHBUTTON);
+    MakeButton(pushLike, L"", BS_AUTOCHECKBOX | BS_PUSHLIKE, RECT{100, 10, 180, 34});
+    pushLike.SetCheck(BST_CHECKED);
     ExpectFaceAndLines(zotest::RenderClient(def.m_hWnd), Slot(13), Slot(18));
+    ExpectFaceAndLines(zotest::RenderClient(pushLike.m_hWnd), Slot(15), Slot(20));
 }
 
 TEST_F(ButtonPaintTest, LinesInMagentaAreNotDrawn)
@@ -119,14 +139,6 @@ TEST_F(ButtonPaintTest, LinesInMagentaAreNotDrawn)
     ZOTEST_EXPECT_FILL(dib, (RECT{79, 1, 80, 24}), RGB(0, 0, 200));
     ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 1, 24}), Slot(18));
     ZOTEST_EXPECT_FILL(dib, (RECT{0, 23, 79, 24}), Slot(18));
-}
-
-TEST_F(ButtonPaintTest, CheckedPushLikeBoxDrawsPressed)
-{
-    CZoButton button;
-    MakeButton(button, L"", BS_AUTOCHECKBOX | BS_PUSHLIKE);
-    button.SetCheck(BST_CHECKED);
-    ExpectFaceAndLines(zotest::RenderClient(button.m_hWnd), Slot(15), Slot(20));
 }
 
 TEST_F(ButtonPaintTest, CaptionInStateTextColour)
@@ -162,34 +174,26 @@ TEST_F(ButtonPaintTest, CaptionAlignmentBits)
     EXPECT_GT(b.bottom, 34);
 }
 
-TEST_F(ButtonPaintTest, SystemImageLeftOfTextMovesWhenPressed)
+TEST_F(ButtonPaintTest, SystemImageBesideTextMovesWhenPressedAloneItStaysCentred)
 {
-    CZoButton button;
-    MakeButton(button, L"Ab", BS_PUSHBUTTON | BS_BITMAP, RECT{10, 10, 110, 50});
-    HBITMAP bitmap = controltest::MakeBitmap(10, 10, RGB(0, 180, 0), RGB(0, 180, 0));
-    button.SetBitmap(bitmap);
     // d = (40 - hy - 10) / 3 shrinks the text rectangle symmetrically: the image stays centred.
-    zotest::Dib up = zotest::RenderClient(button.m_hWnd);
-    ZOTEST_EXPECT_FILL(up, (RECT{0, 15, 10, 25}), RGB(0, 180, 0));
-    button.SetState(TRUE);
-    zotest::Dib down = zotest::RenderClient(button.m_hWnd);
-    ZOTEST_EXPECT_FILL(down, (RECT{1, 16, 11, 26}), RGB(0, 180, 0));
-    ZOTEST_EXPECT_PIXEL(down, 1, 15, Slot(15));
-    button.DestroyWindow();
-    DeleteObject(bitmap);
-}
-
-TEST_F(ButtonPaintTest, LoneImageCentredAndStillWhenPressed)
-{
-    CZoButton button;
-    MakeButton(button, L"", BS_PUSHBUTTON | BS_BITMAP, RECT{10, 10, 110, 50});
-    HBITMAP bitmap = controltest::MakeBitmap(10, 10, RGB(0, 180, 0), RGB(0, 180, 0));
-    button.SetBitmap(bitmap);
-    ZOTEST_EXPECT_FILL(zotest::RenderClient(button.m_hWnd), (RECT{45, 15, 55, 25}), RGB(0, 180, 0));
-    button.SetState(TRUE);
-    ZOTEST_EXPECT_FILL(zotest::RenderClient(button.m_hWnd), (RECT{45, 15, 55, 25}), RGB(0, 180, 0));
-    button.DestroyWindow();
-    DeleteObject(bitmap);
+    const struct
+    {
+        const wchar_t* text;
+        RECT up;
+        RECT down;
+    } cases[] = {{L"Ab", {0, 15, 10, 25}, {1, 16, 11, 26}}, {L"", {45, 15, 55, 25}, {45, 15, 55, 25}}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(testing::Message() << "text \"" << c.text << "\"");
+        CZoButton button;
+        MakeButton(button, c.text, BS_PUSHBUTTON | BS_BITMAP, RECT{10, 10, 110, 50});
+        SetGreenBitmap(button);
+        ZOTEST_EXPECT_FILL(zotest::RenderClient(button.m_hWnd), c.up, kGreen);
+        button.SetState(TRUE);
+        const zotest::Dib down = zotest::RenderClient(button.m_hWnd);
+        ZOTEST_EXPECT_FILL(down, c.down, kGreen);
+        EXPECT_EQ(controltest::CountPixels(down, kGreen), 100);
+    }
 }
 
 TEST_F(ButtonPaintTest, ImageBelowAndAboveText)
@@ -197,27 +201,23 @@ TEST_F(ButtonPaintTest, ImageBelowAndAboveText)
     CZoButton below, above;
     MakeButton(below, L"Ab", BS_PUSHBUTTON | BS_BITMAP | BS_TOP, RECT{10, 10, 110, 70});
     MakeButton(above, L"Ab", BS_PUSHBUTTON | BS_BITMAP | BS_BOTTOM, RECT{10, 80, 110, 140});
-    HBITMAP bitmap = controltest::MakeBitmap(10, 10, RGB(0, 180, 0), RGB(0, 180, 0));
-    below.SetBitmap(bitmap);
-    above.SetBitmap(bitmap);
+    SetGreenBitmap(below);
+    SetGreenBitmap(above);
     const zotest::Dib b = zotest::RenderClient(below.m_hWnd);
     const zotest::Dib a = zotest::RenderClient(above.m_hWnd);
-    EXPECT_EQ(controltest::CountPixels(b, RGB(0, 180, 0)), 100);
-    EXPECT_EQ(controltest::CountPixels(a, RGB(0, 180, 0)), 100);
+    EXPECT_EQ(controltest::CountPixels(b, kGreen), 100);
+    EXPECT_EQ(controltest::CountPixels(a, kGreen), 100);
     // Image at the bottom of the shrunk rectangle with the text above it, and the other way round.
-    const int imageBelow = FirstRowWith(b, RGB(0, 180, 0));
-    const int imageAbove = FirstRowWith(a, RGB(0, 180, 0));
+    const int imageBelow = FirstRowWith(b, kGreen);
+    const int imageAbove = FirstRowWith(a, kGreen);
     const int textBelow = FirstRowWith(b, Slot(34));
     const int textAbove = FirstRowWith(a, Slot(34));
     EXPECT_GT(imageBelow, 30);
     EXPECT_LT(imageAbove, 20);
     EXPECT_LT(textBelow, imageBelow);
     EXPECT_GT(textAbove, imageAbove + 9);
-    ZOTEST_EXPECT_FILL(b, (RECT{45, imageBelow, 55, imageBelow + 10}), RGB(0, 180, 0));
-    ZOTEST_EXPECT_FILL(a, (RECT{45, imageAbove, 55, imageAbove + 10}), RGB(0, 180, 0));
-    below.DestroyWindow();
-    above.DestroyWindow();
-    DeleteObject(bitmap);
+    ZOTEST_EXPECT_FILL(b, (RECT{45, imageBelow, 55, imageBelow + 10}), kGreen);
+    ZOTEST_EXPECT_FILL(a, (RECT{45, imageAbove, 55, imageAbove + 10}), kGreen);
 }
 
 TEST_F(ButtonPaintTest, DisabledStateFollowingRowDrawsRowFour)

@@ -165,11 +165,9 @@ TEST_F(ButtonTest, ToolTipCreatedUpdatedAndDestroyed)
 
 TEST_F(ButtonTest, SubclassedDialogButtonPaintsTheSkin)
 {
-    HWND raw = CreateWindowW(L"BUTTON", L"", WS_CHILD | WS_VISIBLE | BS_PUSHBUTTON, 10, 10, 60, 20, parent(),
-                             reinterpret_cast<HMENU>(401), nullptr, nullptr);
-    ASSERT_NE(raw, nullptr);
+    HWND raw = MakeNative(L"BUTTON", BS_PUSHBUTTON, RECT{10, 10, 70, 30});
     CZoButton button;
-    ASSERT_TRUE(button.SubclassDlgItem(401, parentWnd()));
+    ASSERT_TRUE(button.SubclassDlgItem(kNativeId, parentWnd()));
     const zotest::Dib dib = zotest::RenderClient(raw);
     ZOTEST_EXPECT_FILL(dib, (RECT{1, 1, 59, 19}), Slot(13));
     ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 60, 1}), Slot(18));

@@ -53,6 +53,13 @@ void ControlTest::MakeButton(CButton& button, const wchar_t* text, DWORD style, 
     ASSERT_TRUE(button.Create(text, WS_CHILD | WS_VISIBLE | style, rect, parentWnd(), 300));
 }
 
+HWND ControlTest::MakeNative(const wchar_t* windowClass, DWORD style, const RECT& rect)
+{
+    return ::CreateWindowExW(0, windowClass, L"", WS_CHILD | WS_VISIBLE | style, rect.left, rect.top,
+                             rect.right - rect.left, rect.bottom - rect.top, parent(),
+                             reinterpret_cast<HMENU>(static_cast<INT_PTR>(kNativeId)), nullptr, nullptr);
+}
+
 COLORREF Slot(int slot)
 {
     const ZoControls::CZoThemeManager* manager = ZoControls::CZoThemeManager::GetInstance();

@@ -24,6 +24,10 @@ protected:
     CWnd* parentWnd() const { return CWnd::FromHandle(parent_.get()); }
     // A visible button of any CButton class in the parent, 80 x 24 at (10, 10) unless told.
     void MakeButton(CButton& button, const wchar_t* text, DWORD style, const RECT& rect = RECT{10, 10, 90, 34});
+    // A visible platform control of window class `windowClass` in the parent with id kNativeId,
+    // for attaching a skinned class to it.
+    HWND MakeNative(const wchar_t* windowClass, DWORD style, const RECT& rect);
+    static const int kNativeId = 101;
 
 private:
     bool initialized_ = false;

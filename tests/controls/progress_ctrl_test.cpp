@@ -135,9 +135,7 @@ TEST_F(ProgressTest, VerticalBarFillsFromTheBottomAndLeavesTheTopRow)
 
 TEST_F(ProgressTest, SubclassedNativeBarIsSkinnedToo)
 {
-    HWND native = ::CreateWindowExW(0, PROGRESS_CLASSW, L"", WS_CHILD | WS_VISIBLE, 0, 0, 120, 18, parent(), NULL,
-                                    NULL, NULL);
-    ASSERT_TRUE(native != NULL);
+    HWND native = MakeNative(PROGRESS_CLASSW, 0, RECT{0, 0, 120, 18});
     ASSERT_TRUE(bar_.SubclassWindow(native));
     bar_.SetRange32(0, 100);
     bar_.SetPos(100);

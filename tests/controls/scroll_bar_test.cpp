@@ -12,6 +12,8 @@ namespace {
 // Class 0 units: vertical buttons 19 x 26, thumb 19 x 8; gap 4.
 const int kWidth = 19;
 const int kHeight = 200;
+// A notification sent to the parent, matched on both parameters.
+const unsigned kToParent = zotest::sent | zotest::parent | zotest::wparam | zotest::lparam;
 
 class ScrollBarTest : public ControlTest
 {
@@ -132,7 +134,7 @@ TEST_F(ScrollBarTest, EachClickWritesItsStepThenNotifiesTheParent)
         Press(9, click.y);
         Release(9, click.y);
         const zotest::ExpectedMessage expected[] = {
-            {WM_VSCROLL, zotest::sent | zotest::parent | zotest::wparam | zotest::lparam, Code(click.code), Self()},
+            {WM_VSCROLL, kToParent, Code(click.code), Self()},
         };
         ZOTEST_EXPECT_SEQUENCE(recorder_, expected);
         EXPECT_EQ(bar_.GetScrollPos(), click.pos);
@@ -148,7 +150,7 @@ TEST_F(ScrollBarTest, PreviousArrowAtMinimumStillNotifies)
     Press(9, 5);
     Release(9, 5);
     const zotest::ExpectedMessage expected[] = {
-        {WM_VSCROLL, zotest::sent | zotest::parent | zotest::wparam, Code(SB_LINEUP)},
+        {WM_VSCROLL, kToParent, Code(SB_LINEUP), Self()},
     };
     ZOTEST_EXPECT_SEQUENCE(recorder_, expected);
     EXPECT_EQ(bar_.GetScrollPos(), 0);
@@ -162,7 +164,7 @@ TEST_F(ScrollBarTest, HorizontalBarSendsHScroll)
     Press(290, 9);
     Release(290, 9);
     const zotest::ExpectedMessage expected[] = {
-        {WM_HSCROLL, zotest::sent | zotest::parent | zotest::wparam | zotest::lparam, Code(SB_LINEDOWN), Self()},
+        {WM_HSCROLL, kToParent, Code(SB_LINEDOWN), Self()},
     };
     ZOTEST_EXPECT_SEQUENCE(recorder_, expected);
 }
@@ -200,10 +202,10 @@ TEST_F(ScrollBarTest, ArrowPressArmsTheFirstDelayThenTheRepeat)
     bar_.SendMessage(WM_TIMER, CZoScrollBar::TimerRepeat);
     bar_.SendMessage(WM_TIMER, CZoScrollBar::TimerRepeat);
     const zotest::ExpectedMessage expected[] = {
-        {WM_VSCROLL, zotest::sent | zotest::parent | zotest::wparam, Code(SB_LINEDOWN)},
-        {WM_VSCROLL, zotest::sent | zotest::parent | zotest::wparam, Code(SB_LINEDOWN)},
-        {WM_VSCROLL, zotest::sent | zotest::parent | zotest::wparam, Code(SB_LINEDOWN)},
-        {WM_VSCROLL, zotest::sent | zotest::parent | zotest::wparam, Code(SB_LINEDOWN)},
+        {WM_VSCROLL, kToParent, Code(SB_LINEDOWN), Self()},
+        {WM_VSCROLL, kToParent, Code(SB_LINEDOWN), Self()},
+        {WM_VSCROLL, kToParent, Code(SB_LINEDOWN), Self()},
+        {WM_VSCROLL, kToParent, Code(SB_LINEDOWN), Self()},
     };
     ZOTEST_EXPECT_SEQUENCE(recorder_, expected);
     EXPECT_EQ(bar_.GetScrollPos(), 54);
@@ -246,12 +248,10 @@ TEST_F(ScrollBarTest, DraggingTracksOnlyOnChangeAndEndsWithThumbPosition)
     Release(9, 400);
     const LPARAM self = Self();
     const zotest::ExpectedMessage expected[] = {
-        {WM_VSCROLL, zotest::sent | zotest::parent | zotest::wparam | zotest::lparam, Code(SB_THUMBTRACK, 50), self},
-        {WM_VSCROLL, zotest::sent | zotest::parent | zotest::wparam | zotest::lparam, Code(SB_THUMBTRACK, 61), self},
-        {WM_VSCROLL, zotest::sent | zotest::parent | zotest::wparam | zotest::lparam, Code(SB_THUMBTRACK, 100),
-         self},
-        {WM_VSCROLL, zotest::sent | zotest::parent | zotest::wparam | zotest::lparam, Code(SB_THUMBPOSITION, 100),
-         self},
+        {WM_VSCROLL, kToParent, Code(SB_THUMBTRACK, 50), self},
+        {WM_VSCROLL, kToParent, Code(SB_THUMBTRACK, 61), self},
+        {WM_VSCROLL, kToParent, Code(SB_THUMBTRACK, 100), self},
+        {WM_VSCROLL, kToParent, Code(SB_THUMBPOSITION, 100), self},
     };
     ZOTEST_EXPECT_SEQUENCE(recorder_, expected);
     EXPECT_EQ(bar_.GetThumbPos(), 140);

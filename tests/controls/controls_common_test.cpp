@@ -291,13 +291,11 @@ INSTANTIATE_TEST_SUITE_P(Controls, MenuForwardingTest, testing::ValuesIn(kMenuFo
 
 // --- Resources ---------------------------------------------------------------------------------
 
-// Every class, and the button kinds that load or paint differently (a radio button loads and
-// paints as a check box does).
+// Every class, and the button kinds that load or paint differently: a default push button and a
+// push-like check box load and paint as a push button does, a radio button as a check box.
 const ControlCase kEveryControl[] = {
     {"PushButtonWithToolTip", MakeButtonWithToolTip},
-    {"DefaultPushButton", MakeButton<CZoButton, BS_DEFPUSHBUTTON>},
     {"CheckBox", MakeButton<CZoButton, BS_AUTOCHECKBOX>},
-    {"PushLikeCheckBox", MakeButton<CZoButton, BS_AUTOCHECKBOX | BS_PUSHLIKE>},
     {"GroupBox", MakeButton<CZoButton, BS_GROUPBOX>},
     {"FlatButton", MakeButton<CZoFlatButton, BS_PUSHBUTTON>},
     {"ToggleButton", MakeButton<CZoToggleButton, BS_AUTOCHECKBOX>},

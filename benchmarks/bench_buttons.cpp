@@ -13,6 +13,7 @@
 
 #include <stdio.h>
 
+#include "BenchHost.h"
 #include "BenchTiming.h"
 #include "core/ZoCtrl.h"
 
@@ -23,18 +24,6 @@ namespace {
 
 const int kRuns = 5;
 const int kPaintsPerRun = 200;
-
-HWND CreateHost()
-{
-    WNDCLASSW wc = {};
-    wc.lpfnWndProc = ::DefWindowProcW;
-    wc.hInstance = ::GetModuleHandleW(NULL);
-    wc.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
-    wc.lpszClassName = L"ZoBenchButtonsHost";
-    ::RegisterClassW(&wc);
-    return ::CreateWindowExW(0, wc.lpszClassName, L"bench_buttons", WS_POPUP | WS_VISIBLE | WS_CLIPCHILDREN, 0, 0,
-                             800, 600, NULL, NULL, wc.hInstance, NULL);
-}
 
 // The native control, in the font the library's control of the same kind draws with.
 HWND CreateNative(HWND host, const wchar_t* className, const wchar_t* text, DWORD style, const CRect& rect,
@@ -181,27 +170,9 @@ void RunStatic(HWND host)
 
 int wmain()
 {
-    Gdiplus::GdiplusStartupInput input;
-    ULONG_PTR token = 0;
-    if (Gdiplus::GdiplusStartup(&token, &input, NULL) != Gdiplus::Ok) {
-        printf("bench_buttons: GDI+ did not start\n");
-        return 1;
-    }
-    InitializeZoCtrl();
-
-    const HWND host = CreateHost();
-    if (!host) {
-        printf("bench_buttons: no host window\n");
-        UninitializeZoCtrl();
-        Gdiplus::GdiplusShutdown(token);
-        return 1;
-    }
-    printf("bench_buttons (best of %d runs of %d paints each)\n", kRuns, kPaintsPerRun);
-    RunButtons(host);
-    RunStatic(host);
-
-    ::DestroyWindow(host);
-    UninitializeZoCtrl();
-    Gdiplus::GdiplusShutdown(token);
-    return 0;
+    return RunWithHost(L"bench_buttons", ::DefWindowProcW, [](HWND host) {
+        printf("bench_buttons (best of %d runs of %d paints each)\n", kRuns, kPaintsPerRun);
+        RunButtons(host);
+        RunStatic(host);
+    });
 }

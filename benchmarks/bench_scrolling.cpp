@@ -16,6 +16,7 @@
 
 #include <vector>
 
+#include "BenchHost.h"
 #include "BenchTiming.h"
 #include "core/ZoCtrl.h"
 
@@ -64,18 +65,6 @@ LRESULT CALLBACK HostProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
         return 0;
     }
     return ::DefWindowProcW(hWnd, message, wParam, lParam);
-}
-
-HWND CreateHost()
-{
-    WNDCLASSW wc = {};
-    wc.lpfnWndProc = HostProc;
-    wc.hInstance = ::GetModuleHandleW(NULL);
-    wc.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
-    wc.lpszClassName = L"ZoBenchScrollingHost";
-    ::RegisterClassW(&wc);
-    return ::CreateWindowExW(0, wc.lpszClassName, L"bench_scrolling", WS_POPUP | WS_VISIBLE | WS_CLIPCHILDREN, 0, 0,
-                             800, 600, NULL, NULL, wc.hInstance, NULL);
 }
 
 // Range 0..109, a page of 10, at 50: the thumb sits across the bar's middle.
@@ -257,31 +246,9 @@ void RunProgressBars(HWND host)
 
 int wmain()
 {
-    Gdiplus::GdiplusStartupInput input;
-    ULONG_PTR token = 0;
-    if (Gdiplus::GdiplusStartup(&token, &input, NULL) != Gdiplus::Ok)
-    {
-        printf("bench_scrolling: GDI+ did not start\n");
-        return 1;
-    }
-    INITCOMMONCONTROLSEX controls = {sizeof(INITCOMMONCONTROLSEX), ICC_PROGRESS_CLASS | ICC_STANDARD_CLASSES};
-    ::InitCommonControlsEx(&controls);
-    InitializeZoCtrl();
-
-    const HWND host = CreateHost();
-    if (!host)
-    {
-        printf("bench_scrolling: no host window\n");
-        UninitializeZoCtrl();
-        Gdiplus::GdiplusShutdown(token);
-        return 1;
-    }
-    printf("bench_scrolling\n");
-    RunScrollBars(host);
-    RunProgressBars(host);
-
-    ::DestroyWindow(host);
-    UninitializeZoCtrl();
-    Gdiplus::GdiplusShutdown(token);
-    return 0;
+    return zobench::RunWithHost(L"bench_scrolling", HostProc, [](HWND host) {
+        printf("bench_scrolling\n");
+        RunScrollBars(host);
+        RunProgressBars(host);
+    });
 }

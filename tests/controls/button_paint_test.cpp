@@ -117,6 +117,39 @@ TEST_F(ButtonPaintTest, PushFaceAndLinesPerState)
     ExpectFaceAndLines(zotest::RenderClient(button.m_hWnd), Slot(17), Slot(22));
 }
 
+// The client area as it stands on screen once pending paints are done, without asking for a
+// repaint (the renderer's Screen path invalidates first, which would hide drawing done outside
+// WM_PAINT).
+zotest::Dib ScreenAsPainted(HWND window)
+{
+    zotest::PumpUntilIdle();
+    RECT client;
+    ::GetClientRect(window, &client);
+    zotest::Dib dib(client.right, client.bottom, RGB(9, 9, 9));
+    const HDC screen = ::GetDC(window);
+    ::BitBlt(dib.dc(), 0, 0, client.right, client.bottom, screen, 0, 0, SRCCOPY);
+    ::ReleaseDC(window, screen);
+    return dib;
+}
+
+// A host with a common-controls 6 manifest (every Visual Studio MFC application): pressing goes
+// through the platform button, which invalidates rather than drawing itself, so the screen shows
+// the pressed skin. (The classic user32 button of a manifest-less host draws its own pressed
+// face on BM_SETSTATE; the skin returns with the next repaint. Not asserted.)
+TEST_F(ButtonPaintTest, PressedSkinReachesTheScreenUnderCommonControls6)
+{
+    zotest::ScopedCommonControls6 v6;
+    ASSERT_TRUE(v6.active());
+    CZoButton button;
+    MakeButton(button, L"", BS_PUSHBUTTON);
+    zotest::PumpUntilIdle();
+
+    button.SendMessage(BM_SETSTATE, TRUE, 0);
+    ExpectFaceAndLines(ScreenAsPainted(button.m_hWnd), Slot(15), Slot(20));
+    button.SendMessage(BM_SETSTATE, FALSE, 0);
+    ExpectFaceAndLines(ScreenAsPainted(button.m_hWnd), Slot(13), Slot(18));
+}
+
 TEST_F(ButtonPaintTest, DefaultPushAndCheckedPushLikeUseThePushFaces)
 {
     CZoButton def, pushLike;

@@ -4,6 +4,7 @@
 #pragma once
 #include <afxwin.h>
 
+#include "controls/ZoPrintClientDC.h"
 #include "core/ZoCtrl.h"
 
 class CGalleryPage : public ZoControls::CZoWnd
@@ -33,13 +34,10 @@ private:
 template <class Paint>
 LRESULT PaintForPrintClient(WPARAM wParam, Paint paint)
 {
-    const HDC hdc = reinterpret_cast<HDC>(wParam);
-    if (!hdc)
-        return 0;
-    CDC dc;
-    dc.Attach(hdc);
-    paint(dc);
-    dc.Detach();
+    ZoControls::ZoPaintPrintClient(wParam, [&](CDC& dc) {
+        paint(dc);
+        return true;
+    });
     return 0;
 }
 

@@ -7,7 +7,7 @@
 
 #include <stdio.h>
 
-#include "core/ZoCtrl.h"
+#include "ZoCtrl.h"
 
 namespace zobench {
 

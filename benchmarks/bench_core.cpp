@@ -6,7 +6,7 @@
 
 #include <stdio.h>
 
-#include "core/ZoCtrl.h"
+#include "ZoCtrl.h"
 #include "core/ZoMemDC.h"
 #include "BenchTiming.h"
 

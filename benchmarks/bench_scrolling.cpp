@@ -18,7 +18,7 @@
 
 #include "BenchHost.h"
 #include "BenchTiming.h"
-#include "core/ZoCtrl.h"
+#include "ZoCtrl.h"
 
 using namespace ZoControls;
 using zobench::Pair;

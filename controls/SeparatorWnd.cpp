@@ -1,7 +1,6 @@
 #include "controls/SeparatorWnd.h"
 
 #include "controls/ZoControlTheme.h"
-#include "controls/ZoPrintClientDC.h"
 #include "controls/ZoWindowHelpers.h"
 #include "core/ZoThemeMath.h"
 
@@ -22,7 +21,46 @@ bool sameRect(const RECT& a, const RECT& b)
 
 COLORREF swapRedBlue(COLORREF color) { return RGB(GetBValue(color), GetGValue(color), GetRValue(color)); }
 
-} // namespace
+// The parent's DC with the rubber band's XOR pen selected, for one scope.
+class CRubberBandDC
+{
+public:
+    explicit CRubberBandDC(CWnd* pParent)
+        : m_pParent(pParent), m_pDC(pParent ? pParent->GetDC() : NULL),
+          m_pen(PS_SOLID, kRubberBandWidth, ::GetSysColor(COLOR_WINDOW)), m_pOldPen(NULL), m_oldRop(0)
+    {
+        if (!m_pDC)
+            return;
+        m_pOldPen = m_pDC->SelectObject(&m_pen);
+        m_oldRop = m_pDC->SetROP2(R2_XORPEN);
+    }
+    ~CRubberBandDC()
+    {
+        if (!m_pDC)
+            return;
+        m_pDC->SetROP2(m_oldRop);
+        m_pDC->SelectObject(m_pOldPen);
+        m_pParent->ReleaseDC(m_pDC);
+    }
+    bool IsValid() const { return m_pDC != NULL; }
+    void Line(const RECT& line)
+    {
+        m_pDC->MoveTo(line.left, line.top);
+        m_pDC->LineTo(line.right, line.bottom);
+    }
+
+private:
+    CRubberBandDC(const CRubberBandDC&);
+    CRubberBandDC& operator=(const CRubberBandDC&);
+
+    CWnd* m_pParent;
+    CDC* m_pDC;
+    CPen m_pen;
+    CPen* m_pOldPen;
+    int m_oldRop;
+};
+
+} // namespace // namespace
 
 int ZoSeparatorClamp(int value, int low, int high)
 {
@@ -33,8 +71,8 @@ int ZoSeparatorClamp(int value, int low, int high)
 IMPLEMENT_DYNAMIC(CSeparatorWnd, CZoWnd)
 
 BEGIN_MESSAGE_MAP(CSeparatorWnd, CZoWnd)
-    ON_WM_PAINT()
-    ON_MESSAGE(WM_PRINTCLIENT, &CSeparatorWnd::OnPrintClient)
+    ON_WM_CAPTURECHANGED()
+    ON_WM_CANCELMODE()
     ON_WM_MOUSEMOVE()
     ON_WM_LBUTTONDOWN()
     ON_WM_LBUTTONUP()
@@ -81,42 +119,28 @@ COLORREF CSeparatorWnd::_lineColor() const
     return swapRedBlue(ZoSlotColor(kLineSlot, ZoTheme_Default));
 }
 
-void CSeparatorWnd::OnPaint()
-{
-    CPaintDC dc(this);
-    _paintTo(&dc);
-}
-
-LRESULT CSeparatorWnd::OnPrintClient(WPARAM wParam, LPARAM)
-{
-    CZoPrintClientDC dc(wParam);
-    if (dc.GetSafeHdc())
-        _paintTo(&dc);
-    return 0;
-}
-
-void CSeparatorWnd::_paintTo(CDC* pDC)
+void CSeparatorWnd::DrawClient(CDC& dc)
 {
     CRect r;
     GetClientRect(&r);
     if (r.IsRectEmpty())
         return;
     CPen pen(PS_SOLID, 1, _lineColor());
-    CPen* pOldPen = pDC->SelectObject(&pen);
+    CPen* pOldPen = dc.SelectObject(&pen);
     for (int i = 0; i < 2; ++i)
     {
         if (_isHorizontal())
         {
-            pDC->MoveTo(r.left, r.top + i);
-            pDC->LineTo(r.right, r.top + i);
+            dc.MoveTo(r.left, r.top + i);
+            dc.LineTo(r.right, r.top + i);
         }
         else
         {
-            pDC->MoveTo(r.left + i, r.top);
-            pDC->LineTo(r.left + i, r.bottom);
+            dc.MoveTo(r.left + i, r.top);
+            dc.LineTo(r.left + i, r.bottom);
         }
     }
-    pDC->SelectObject(pOldPen);
+    dc.SelectObject(pOldPen);
 }
 
 bool CSeparatorWnd::_hasPrevLine() const { return !sameRect(m_rcPrevLine, kNoLine); }
@@ -138,12 +162,9 @@ void CSeparatorWnd::DrawXORLineToParentDC(CPoint point)
     MapWindowPoints(pParent, &point, 1);
     MapWindowPoints(pParent, &bar);
 
-    CDC* pDC = pParent->GetDC();
-    if (!pDC)
+    CRubberBandDC band(pParent);
+    if (!band.IsValid())
         return;
-    CPen pen(PS_SOLID, kRubberBandWidth, ::GetSysColor(COLOR_WINDOW));
-    CPen* pOldPen = pDC->SelectObject(&pen);
-    const int oldRop = pDC->SetROP2(R2_XORPEN);
 
     RECT line;
     bool erasePrevious = _hasPrevLine();
@@ -164,10 +185,7 @@ void CSeparatorWnd::DrawXORLineToParentDC(CPoint point)
         line = n;
     }
     if (erasePrevious)
-    {
-        pDC->MoveTo(m_rcPrevLine.left, m_rcPrevLine.top);
-        pDC->LineTo(m_rcPrevLine.right, m_rcPrevLine.bottom);
-    }
+        band.Line(m_rcPrevLine);
     if (m_bBoundarySet)
     {
         if (_isHorizontal())
@@ -176,15 +194,36 @@ void CSeparatorWnd::DrawXORLineToParentDC(CPoint point)
             line.left = line.right = ZoSeparatorClamp(line.left, m_rcBoundary.left, m_rcBoundary.right);
     }
     if (!sameRect(line, kNoLine))
-    {
-        pDC->MoveTo(line.left, line.top);
-        pDC->LineTo(line.right, line.bottom);
-    }
+        band.Line(line);
     m_rcPrevLine = line;
+}
 
-    pDC->SetROP2(oldRop);
-    pDC->SelectObject(pOldPen);
-    pParent->ReleaseDC(pDC);
+void CSeparatorWnd::_abandonDrag()
+{
+    if (!m_bDragging)
+        return;
+    m_bDragging = false;
+    if (_hasPrevLine())
+    {
+        CRubberBandDC band(GetParent());
+        if (band.IsValid())
+            band.Line(m_rcPrevLine);
+        _clearPrevLine();
+    }
+}
+
+void CSeparatorWnd::OnCaptureChanged(CWnd* pWnd)
+{
+    _abandonDrag();
+    CZoWnd::OnCaptureChanged(pWnd);
+}
+
+void CSeparatorWnd::OnCancelMode()
+{
+    _abandonDrag();
+    if (::GetCapture() == m_hWnd)
+        ::ReleaseCapture();
+    CZoWnd::OnCancelMode();
 }
 
 void CSeparatorWnd::OnMouseMove(UINT nFlags, CPoint point)
@@ -217,8 +256,9 @@ void CSeparatorWnd::OnLButtonUp(UINT nFlags, CPoint point)
 {
     if (m_bMovable && m_bDragging)
     {
-        ReleaseCapture();
+        // Not dragging any more before the capture goes, so losing it is no abandoned drag.
         m_bDragging = false;
+        ReleaseCapture();
         if (_hasPrevLine())
         {
             DrawXORLineToParentDC(point);

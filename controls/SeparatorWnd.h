@@ -5,6 +5,7 @@
 #include <afxwin.h>
 
 #include "core/ZoCtrlExport.h"
+#include "core/ZoPaintedWnd.h"
 #include "core/ZoThemeManager.h"
 #include "core/ZoUIBase.h"
 
@@ -16,7 +17,7 @@ const UINT ZoMsg_SeparatorMoved = WM_APP + 1;
 // `value` limited to [low, high], the upper bound applied first.
 ZOCTRL_API int ZoSeparatorClamp(int value, int low, int high);
 
-class ZOCTRL_API CSeparatorWnd : public CZoWnd
+class ZOCTRL_API CSeparatorWnd : public CZoPaintedWnd<CZoWnd>
 {
     DECLARE_DYNAMIC(CSeparatorWnd)
 
@@ -28,7 +29,7 @@ public:
     };
 
     CSeparatorWnd(UINT id, E_SeparatorDirection direction, CWnd* pNotify, bool movable);
-    virtual ~CSeparatorWnd();
+    ~CSeparatorWnd() override;
 
     // Writes the direction; the return value is always 2 and carries no information.
     int GetWindowDirection(E_SeparatorDirection& direction) const;
@@ -36,6 +37,9 @@ public:
     // removes the limit and returns false.
     bool SetBoundaryOnScreen(const RECT* screenRect);
     void SetColor(const Gdiplus::Color& color);
+
+    // The parent's background shows between the two lines.
+    E_ZoPaintMode GetPaintMode() override { return ZoPaint_DirectAfterErase; }
 
 protected:
     // One rubber-band step at `point` (this window's client coordinates) on the parent.
@@ -46,10 +50,12 @@ protected:
     void _clearPrevLine();
     void _setSizingCursor() const;
     COLORREF _lineColor() const;
-    void _paintTo(CDC* pDC);
+    // Ends a drag that lost the mouse: the rubber band goes, nobody is notified.
+    void _abandonDrag();
+    void DrawClient(CDC& dc) override;
 
-    afx_msg void OnPaint();
-    afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnCaptureChanged(CWnd* pWnd);
+    afx_msg void OnCancelMode();
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     afx_msg void OnLButtonUp(UINT nFlags, CPoint point);

@@ -4,9 +4,7 @@
 
 #include "ZoButton.h"
 #include "ZoControlTheme.h"
-#include "ZoPrintClientDC.h"
 #include "ZoWindowHelpers.h"
-#include "core/ZoMemDC.h"
 #include "core/ZoThemeManager.h"
 #include "images/ZoResourceImage.h"
 #include "images/ZoResourcePNG.h"
@@ -264,14 +262,11 @@ IMPLEMENT_DYNAMIC(CZoButton, CButton)
 
 BEGIN_MESSAGE_MAP(CZoButton, CButton)
     ON_WM_CREATE()
-    ON_WM_PAINT()
-    ON_WM_ERASEBKGND()
     ON_WM_DESTROY()
     ON_WM_MOUSEMOVE()
     ON_MESSAGE(WM_MOUSELEAVE, &CZoButton::OnMouseLeave)
     ON_WM_LBUTTONDOWN()
     ZO_ON_MENUXP_MESSAGES()
-    ON_MESSAGE(WM_PRINTCLIENT, &CZoButton::OnPrintClient)
 END_MESSAGE_MAP()
 
 ZO_IMPLEMENT_MENUXP_FORWARDING(CZoButton, CButton)
@@ -316,14 +311,6 @@ void CZoButton::_redrawIf(bool redraw)
 {
     if (redraw && ::IsWindow(m_hWnd))
         Invalidate(TRUE);
-}
-
-void CZoButton::_refreshNow()
-{
-    if (!::IsWindow(m_hWnd))
-        return;
-    ::InvalidateRect(m_hWnd, NULL, FALSE);
-    ::UpdateWindow(m_hWnd);
 }
 
 void CZoButton::_deleteImages()
@@ -658,12 +645,6 @@ COLORREF CZoButton::GetLineColor(E_ZoFlatButtonLines line, E_ZoButtonStates stat
     return (IsValidLine(line) && IsValidState(state)) ? m_aLineColors[state][line] : CLR_INVALID;
 }
 
-void CZoButton::Invalidate(BOOL erase)
-{
-    if (::IsWindow(m_hWnd))
-        ::InvalidateRect(m_hWnd, NULL, erase);
-}
-
 bool CZoButton::IsPushButton(DWORD type)
 {
     return type == BS_PUSHBUTTON || type == BS_DEFPUSHBUTTON;
@@ -706,7 +687,7 @@ void CZoButton::Init()
 {
     m_eTheme = ZoGetCurrentThemeIndex(this);
     m_eMonitorSize = ZoGetCurrentMonitorSize(this, false);
-    CMenuXP::SetXPLookNFeel(this, true);
+    ZoMenuOptIn(this);
     LoadResource();
 
     const DWORD type = GetButtonType();
@@ -798,9 +779,9 @@ LRESULT CZoButton::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     const bool holdRedraw = message == WM_UPDATEUISTATE && ::IsWindow(m_hWnd) && ::IsWindowVisible(m_hWnd);
     if (holdRedraw)
         ::SendMessage(m_hWnd, WM_SETREDRAW, FALSE, 0);
-    const LRESULT result = CButton::WindowProc(message, wParam, lParam);
+    const LRESULT result = CZoPaintedWnd<CButton>::WindowProc(message, wParam, lParam);
     if (message == WM_SETTEXT || message == WM_ENABLE || message == WM_UPDATEUISTATE)
-        _refreshNow();
+        RepaintNow();
     if (holdRedraw && ::IsWindow(m_hWnd))
         ::SendMessage(m_hWnd, WM_SETREDRAW, TRUE, 0);
     return result;
@@ -815,7 +796,7 @@ void CZoButton::OnMouseMove(UINT /*nFlags*/, CPoint /*point*/)
         const bool wasHovering = m_bHovering;
         m_bHovering = true;
         if (!wasHovering)
-            _refreshNow();
+            RepaintNow();
         ZoTrackMouseLeave(m_hWnd);
     }
     Default();
@@ -826,7 +807,7 @@ LRESULT CZoButton::OnMouseLeave(WPARAM /*wParam*/, LPARAM /*lParam*/)
     const bool wasHovering = m_bHovering;
     m_bHovering = false;
     if (wasHovering)
-        _refreshNow();
+        RepaintNow();
     return 0;
 }
 
@@ -840,47 +821,26 @@ void CZoButton::OnLButtonDown(UINT /*nFlags*/, CPoint /*point*/)
 // ---------------------------------------------------------------------------------------------
 // CZoButton: painting
 
-BOOL CZoButton::OnEraseBkgnd(CDC* /*pDC*/)
+E_ZoPaintMode CZoButton::GetPaintMode()
 {
-    return TRUE;
+    const DWORD type = GetButtonType();
+    if (type == BS_GROUPBOX)
+        return ZoPaint_Direct;
+    if (IsPushButton(type) || IsCheckbox(type) || IsRadioButton(type))
+        return ZoPaint_Offscreen;
+    return ZoPaint_Platform;
 }
 
-bool CZoButton::PaintInto(CDC& dc)
+void CZoButton::DrawClient(CDC& dc)
 {
     const DWORD style = GetStyle();
     const DWORD type = style & BS_TYPEMASK;
-    if (type == BS_GROUPBOX) {
+    if (type == BS_GROUPBOX)
         _drawGroupBox(dc);
-        return true;
-    }
-    const bool checkOrRadio = IsCheckbox(type) || IsRadioButton(type);
-    if (!checkOrRadio && !IsPushButton(type))
-        return false;
-    CRect client;
-    GetClientRect(&client);
-    CZoMemDC memDC(&dc, client.Width(), client.Height());
-    if (!checkOrRadio || (style & BS_PUSHLIKE))
-        DrawPushButton(memDC, checkOrRadio);
+    else if (!(IsCheckbox(type) || IsRadioButton(type)) || (style & BS_PUSHLIKE))
+        DrawPushButton(dc, IsCheckbox(type) || IsRadioButton(type));
     else
-        _drawCheckboxRadio(memDC, IsCheckbox(type));
-    memDC.CopyToTarget();
-    return true;
-}
-
-void CZoButton::OnPaint()
-{
-    const DWORD type = GetButtonType();
-    if (type != BS_GROUPBOX && !IsPushButton(type) && !IsCheckbox(type) && !IsRadioButton(type)) {
-        Default();
-        return;
-    }
-    CPaintDC dc(this);
-    PaintInto(dc);
-}
-
-LRESULT CZoButton::OnPrintClient(WPARAM wParam, LPARAM /*lParam*/)
-{
-    return ZoPaintPrintClient(wParam, [this](CDC& dc) { return PaintInto(dc); }) ? 0 : Default();
+        _drawCheckboxRadio(dc, IsCheckbox(type));
 }
 
 CRect CZoButton::_textMarginRect(const CRect& rect)

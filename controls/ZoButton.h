@@ -9,8 +9,9 @@
 #include <afxcmn.h>
 
 #include "core/ZoCtrlExport.h"
+#include "core/ZoPaintedWnd.h"
 #include "core/ZoThemeTypes.h"
-#include "frames/ZoMenuXP.h"
+#include "core/ZoMenuRouting.h"
 
 namespace ZoControls {
 
@@ -88,14 +89,14 @@ ZOCTRL_API CString ZoPushButtonResourceId(bool isDefault, E_ZoTheme theme);
 #pragma warning(disable : 4251) // CString members are private, never used by the host
 #endif
 
-class ZOCTRL_API CZoButton : public CButton
+class ZOCTRL_API CZoButton : public CZoPaintedWnd<CButton>
 {
     DECLARE_DYNAMIC(CZoButton)
 
 public:
     CZoButton();
     explicit CZoButton(E_ZoThemeFont font);
-    virtual ~CZoButton();
+    ~CZoButton() override;
 
     // Images. A bitmap strip by name, a PNG resource by id; one cell fixed, or one axis
     // following the state (statesAcross: the column is the state).
@@ -143,8 +144,6 @@ public:
     COLORREF GetTextColor(E_ZoButtonStates state) const;
     COLORREF GetLineColor(E_ZoFlatButtonLines line, E_ZoButtonStates state) const;
 
-    void Invalidate(BOOL erase = TRUE);
-
     static bool IsPushButton(DWORD type);
     static bool IsCheckbox(DWORD type);
     static bool IsRadioButton(DWORD type);
@@ -152,9 +151,12 @@ public:
     bool IsHoveringNow() const;
 
 protected:
-    virtual void PreSubclassWindow();
-    virtual BOOL PreTranslateMessage(MSG* pMsg);
-    virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    void PreSubclassWindow() override;
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    // Kinds the library does not draw (owner-drawn and the like) are left to the platform.
+    E_ZoPaintMode GetPaintMode() override;
+    void DrawClient(CDC& dc) override;
 
     virtual void Init();
     virtual void DrawPushButtonBackground(CDC& dc, const CRect& rect, E_ZoButtonStates state);
@@ -165,8 +167,6 @@ protected:
     virtual void DrawCheckBoxBackground(CDC& dc, const CRect& rect);
     virtual void DrawCheckBoxFocusRect(CDC& dc, const CRect& rect);
 
-    // Paints the whole client area into `dc` as WM_PAINT would; false for kinds the system paints.
-    bool PaintInto(CDC& dc);
     void DrawPushButton(CDC& dc, bool pushLike);
 
     E_ZoTheme GetTheme() const;
@@ -174,13 +174,10 @@ protected:
     DWORD GetButtonType() const;
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
-    afx_msg void OnPaint();
-    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg void OnDestroy();
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
     afx_msg LRESULT OnMouseLeave(WPARAM wParam, LPARAM lParam);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
-    afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
     ZO_DECLARE_MENUXP_FORWARDING()
     DECLARE_MESSAGE_MAP()
 
@@ -190,7 +187,6 @@ protected:
 private:
     void _clearColorTables();
     void _redrawIf(bool redraw);
-    void _refreshNow();
     void _deleteImages();
     void _loadBitmapImage(const wchar_t* name, int cols, int rows, int col, int row);
     bool _loadPNGImage(UINT id, int cols, int rows, int col, int row);

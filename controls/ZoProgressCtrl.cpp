@@ -1,8 +1,6 @@
 #include "controls/ZoProgressCtrl.h"
 
 #include "controls/ZoControlTheme.h"
-#include "controls/ZoPrintClientDC.h"
-#include "core/ZoMemDC.h"
 #include "core/ZoThemeManager.h"
 #include "images/ZoResourceImage.h"
 
@@ -66,9 +64,6 @@ IMPLEMENT_DYNAMIC(CZoProgressCtrl, CProgressCtrl)
 BEGIN_MESSAGE_MAP(CZoProgressCtrl, CProgressCtrl)
     ON_WM_CREATE()
     ON_WM_DESTROY()
-    ON_WM_ERASEBKGND()
-    ON_WM_PAINT()
-    ON_MESSAGE(WM_PRINTCLIENT, &CZoProgressCtrl::OnPrintClient)
     ZO_ON_MENUXP_MESSAGES()
 END_MESSAGE_MAP()
 
@@ -96,7 +91,7 @@ int CZoProgressCtrl::OnCreate(LPCREATESTRUCT lpCreateStruct)
 
 void CZoProgressCtrl::_init()
 {
-    CMenuXP::SetXPLookNFeel(this, true);
+    ZoMenuOptIn(this);
     m_eTheme = ZoGetCurrentThemeIndex(this);
     m_eMonitorSize = ZoGetCurrentMonitorSize(this, false);
     // Creation through MFC runs both PreSubclassWindow and WM_CREATE: load once per style.
@@ -113,30 +108,12 @@ void CZoProgressCtrl::OnDestroy()
     m_pSkin = NULL;
 }
 
-BOOL CZoProgressCtrl::OnEraseBkgnd(CDC*) { return TRUE; }
-
-void CZoProgressCtrl::OnPaint()
-{
-    CPaintDC dc(this);
-    _paintTo(&dc);
-}
-
-LRESULT CZoProgressCtrl::OnPrintClient(WPARAM wParam, LPARAM)
-{
-    CZoPrintClientDC dc(wParam);
-    if (dc.GetSafeHdc())
-        _paintTo(&dc);
-    return 0;
-}
-
-void CZoProgressCtrl::_paintTo(CDC* pDC)
+void CZoProgressCtrl::DrawClient(CDC& dc)
 {
     CRect client;
     GetClientRect(&client);
-    CZoMemDC memDC(pDC, client.Width(), client.Height());
-    DrawBar(memDC, client);
-    DrawPercentage(memDC, client);
-    memDC.CopyToTarget();
+    DrawBar(dc, client);
+    DrawPercentage(dc, client);
 }
 
 void CZoProgressCtrl::DrawBar(CDC& dc, const CRect& rect)

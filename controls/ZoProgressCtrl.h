@@ -6,8 +6,9 @@
 #include <afxwin.h>
 
 #include "core/ZoCtrlExport.h"
+#include "core/ZoMenuRouting.h"
+#include "core/ZoPaintedWnd.h"
 #include "core/ZoThemeTypes.h"
-#include "frames/ZoMenuXP.h"
 
 namespace ZoControls {
 
@@ -26,28 +27,25 @@ ZOCTRL_API int ZoProgressPercent(int lo, int hi, int pos);
 ZOCTRL_API int ZoProgressHorizontalCells(int start, int edge, int unit);
 ZOCTRL_API int ZoProgressVerticalCells(int bottom, int edge, int unit);
 
-class ZOCTRL_API CZoProgressCtrl : public CProgressCtrl
+class ZOCTRL_API CZoProgressCtrl : public CZoPaintedWnd<CProgressCtrl>
 {
     DECLARE_DYNAMIC(CZoProgressCtrl)
 
 public:
     CZoProgressCtrl();
-    virtual ~CZoProgressCtrl();
+    ~CZoProgressCtrl() override;
 
 protected:
-    virtual void PreSubclassWindow();
+    void PreSubclassWindow() override;
+    void DrawClient(CDC& dc) override;
 
     void _init();
-    void _paintTo(CDC* pDC);
     // Drawing steps: the tiled and flat parts, then the percentage.
     virtual void DrawBar(CDC& dc, const CRect& rect);
     virtual void DrawPercentage(CDC& dc, const CRect& rect);
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnDestroy();
-    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
-    afx_msg void OnPaint();
-    afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
     ZO_DECLARE_MENUXP_FORWARDING()
     DECLARE_MESSAGE_MAP()
 

@@ -1,8 +1,6 @@
 #include "controls/ZoScrollBar.h"
 
-#include "controls/ZoPrintClientDC.h"
 #include "controls/ZoWindowHelpers.h"
-#include "core/ZoMemDC.h"
 #include "core/ZoThemeManager.h"
 #include "core/ZoThemeMath.h"
 #include "images/ZoResourceImage.h"
@@ -34,9 +32,6 @@ IMPLEMENT_DYNAMIC(CZoScrollBar, CScrollBar)
 BEGIN_MESSAGE_MAP(CZoScrollBar, CScrollBar)
     ON_WM_CREATE()
     ON_WM_DESTROY()
-    ON_WM_ERASEBKGND()
-    ON_WM_PAINT()
-    ON_MESSAGE(WM_PRINTCLIENT, &CZoScrollBar::OnPrintClient)
     ON_WM_SIZE()
     ON_WM_LBUTTONDOWN()
     ON_WM_LBUTTONUP()
@@ -105,7 +100,7 @@ LRESULT CZoScrollBar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     const bool hideNativeDrawing = redrawingMessage && (GetStyle() & WS_VISIBLE) != 0;
     if (hideNativeDrawing)
         SendMessage(WM_SETREDRAW, FALSE);
-    const LRESULT result = CScrollBar::WindowProc(message, wParam, lParam);
+    const LRESULT result = CZoPaintedWnd<CScrollBar>::WindowProc(message, wParam, lParam);
     if (hideNativeDrawing && ::IsWindow(m_hWnd))
     {
         SendMessage(WM_SETREDRAW, TRUE);
@@ -119,29 +114,15 @@ LRESULT CZoScrollBar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     {
         m_nThumbPos = _calcThumbPosFromScrollPos(::GetScrollPos(m_hWnd, SB_CTL));
         _updateRects();
-        Invalidate(FALSE);
+        RepaintNow();
     }
     else if (message == WM_ENABLE)
     {
         // The platform redraws its own look on enabling; paint over it at once.
-        Invalidate(FALSE);
+        RepaintNow();
     }
     return result;
 }
-
-void CZoScrollBar::Invalidate(BOOL bErase)
-{
-    CScrollBar::Invalidate(bErase);
-    _pumpPaint();
-}
-
-void CZoScrollBar::InvalidateRect(const RECT* lpRect, BOOL bErase)
-{
-    CScrollBar::InvalidateRect(lpRect, bErase);
-    _pumpPaint();
-}
-
-void CZoScrollBar::_pumpPaint() { ZoPaintPendingNow(m_hWnd); }
 
 void CZoScrollBar::_init()
 {
@@ -149,7 +130,7 @@ void CZoScrollBar::_init()
         return;
     m_eTheme = ZoGetCurrentThemeIndex(this);
     m_eMonitorSize = ZoGetCurrentMonitorSize(this, false);
-    CMenuXP::SetXPLookNFeel(this, true);
+    ZoMenuOptIn(this);
 
     const bool vertical = _isVertical();
     delete m_pButtons;
@@ -169,7 +150,7 @@ void CZoScrollBar::_init()
     m_bInitialized = true;
     _initDimensions();
     _updateRects();
-    Invalidate(FALSE);
+    RepaintNow();
 }
 
 bool CZoScrollBar::_isVertical() const { return (GetStyle() & SBS_VERT) != 0; }
@@ -325,32 +306,7 @@ void CZoScrollBar::OnDestroy()
     KillTimer(TimerFirstDelay);
 }
 
-BOOL CZoScrollBar::OnEraseBkgnd(CDC*) { return TRUE; }
-
-void CZoScrollBar::OnPaint()
-{
-    CPaintDC dc(this);
-    _paintTo(&dc);
-}
-
-LRESULT CZoScrollBar::OnPrintClient(WPARAM wParam, LPARAM)
-{
-    CZoPrintClientDC dc(wParam);
-    if (dc.GetSafeHdc())
-        _paintTo(&dc);
-    return 0;
-}
-
-void CZoScrollBar::_paintTo(CDC* pDC)
-{
-    CRect client;
-    GetClientRect(&client);
-    CZoMemDC memDC(pDC, client.Width(), client.Height());
-    _drawSelf(memDC);
-    memDC.CopyToTarget();
-}
-
-void CZoScrollBar::_drawSelf(CDC& dc)
+void CZoScrollBar::DrawClient(CDC& dc)
 {
     CRect client;
     GetClientRect(&client);
@@ -451,7 +407,7 @@ void CZoScrollBar::OnSize(UINT nType, int cx, int cy)
         return;
     _initDimensions();
     _updateRects();
-    Invalidate(FALSE);
+    RepaintNow();
 }
 
 void CZoScrollBar::OnLButtonDown(UINT, CPoint point)
@@ -463,7 +419,7 @@ void CZoScrollBar::OnLButtonDown(UINT, CPoint point)
         return;
     const ZoScrollLayout layout = _layout();
     m_nDragOffset = m_nThumbPos - (_axisCoordinate(point) - ZoScrollChannelStart(layout, _isVertical()));
-    Invalidate(FALSE);
+    RepaintNow();
     _sendPressedMessage(false);
     SetCapture();
     if (m_ePressed != SBHit_Thumb)
@@ -480,7 +436,7 @@ void CZoScrollBar::OnLButtonUp(UINT, CPoint)
     if (m_ePressed == SBHit_Thumb)
         _sendTrackingMessage(true);
     m_ePressed = SBHit_None;
-    Invalidate(FALSE);
+    RepaintNow();
 }
 
 // A double click is not a second press.
@@ -509,7 +465,7 @@ void CZoScrollBar::OnTimer(UINT_PTR nIDEvent)
     const bool overPressedPart = m_ePressed != SBHit_None && HitTest(cursor) == m_ePressed;
     if (overPressedPart)
     {
-        Invalidate(FALSE);
+        RepaintNow();
         _sendPressedMessage(false);
     }
     if (nIDEvent == TimerFirstDelay)
@@ -526,7 +482,7 @@ void CZoScrollBar::OnMouseMove(UINT, CPoint point)
         const int oldPos = _calcScrollPosFromThumbPos(m_nThumbPos);
         m_nThumbPos = _calcThumbPosFromScreenPos(point, m_nDragOffset, false);
         _updateRects();
-        Invalidate(FALSE);
+        RepaintNow();
         if (_calcScrollPosFromThumbPos(m_nThumbPos) != oldPos)
             _sendTrackingMessage(false);
         return;
@@ -535,7 +491,7 @@ void CZoScrollBar::OnMouseMove(UINT, CPoint point)
     if (hover != m_eHover)
     {
         m_eHover = hover;
-        Invalidate(FALSE);
+        RepaintNow();
     }
     ZoTrackMouseLeave(m_hWnd);
 }
@@ -543,7 +499,7 @@ void CZoScrollBar::OnMouseMove(UINT, CPoint point)
 void CZoScrollBar::OnMouseLeave()
 {
     m_eHover = SBHit_None;
-    Invalidate(FALSE);
+    RepaintNow();
 }
 
 } // namespace ZoControls

@@ -6,14 +6,15 @@
 
 #include "controls/ZoScrollBarMath.h"
 #include "core/ZoCtrlExport.h"
+#include "core/ZoPaintedWnd.h"
 #include "core/ZoThemeTypes.h"
-#include "frames/ZoMenuXP.h"
+#include "core/ZoMenuRouting.h"
 
 namespace ZoControls {
 
 class CZoResourceBMPImage;
 
-class ZOCTRL_API CZoScrollBar : public CScrollBar
+class ZOCTRL_API CZoScrollBar : public CZoPaintedWnd<CScrollBar>
 {
     DECLARE_DYNAMIC(CZoScrollBar)
 
@@ -52,7 +53,7 @@ public:
     };
 
     explicit CZoScrollBar(E_ScrollBarTheme theme = ScrollBarTheme_0);
-    virtual ~CZoScrollBar();
+    ~CZoScrollBar() override;
 
     // Notifications go to `pBuddy` instead of the parent (null: back to the parent).
     void SetBuddy(CWnd* pBuddy);
@@ -67,12 +68,9 @@ public:
     virtual int GetButtonGapSize();
 
 protected:
-    virtual void PreSubclassWindow();
-    virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
-
-    // Invalidate, then paint at once, also inside a capture loop.
-    void Invalidate(BOOL bErase = TRUE);
-    void InvalidateRect(const RECT* lpRect, BOOL bErase = TRUE);
+    void PreSubclassWindow() override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void DrawClient(CDC& dc) override;
 
     void _init();
     void _initDimensions();
@@ -92,18 +90,12 @@ protected:
     void _sendPressedMessage(bool end);
     void _sendTrackingMessage(bool final);
     void _notify(WPARAM wParam);
-    void _pumpPaint();
 
-    void _paintTo(CDC* pDC);
-    void _drawSelf(CDC& dc);
     void _drawThumbButton(CDC& dc, const CRect& rect, E_CurState state, bool vertical);
     void _drawDisabledThumbButton(CDC& dc, CPoint centre, bool vertical);
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnDestroy();
-    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
-    afx_msg void OnPaint();
-    afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     afx_msg void OnLButtonUp(UINT nFlags, CPoint point);

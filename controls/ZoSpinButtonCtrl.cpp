@@ -1,7 +1,6 @@
 #include "controls/ZoSpinButtonCtrl.h"
 
 #include "controls/ZoControlTheme.h"
-#include "controls/ZoPrintClientDC.h"
 #include "controls/ZoWindowHelpers.h"
 
 namespace ZoControls {
@@ -72,9 +71,7 @@ RECT ZoSpinOutline(const RECT& drawnFirst, const RECT& drawnSecond)
 IMPLEMENT_DYNAMIC(CZoSpinButtonCtrl, CSpinButtonCtrl)
 
 BEGIN_MESSAGE_MAP(CZoSpinButtonCtrl, CSpinButtonCtrl)
-    ON_WM_PAINT()
-    ON_MESSAGE(WM_PRINTCLIENT, &CZoSpinButtonCtrl::OnPrintClient)
-    ON_WM_ERASEBKGND()
+    ON_WM_CAPTURECHANGED()
     ON_WM_LBUTTONDOWN()
     ON_WM_LBUTTONUP()
     ON_WM_MOUSEMOVE()
@@ -84,12 +81,6 @@ END_MESSAGE_MAP()
 CZoSpinButtonCtrl::CZoSpinButtonCtrl() : m_eFirstState(BtnState_Normal), m_eSecondState(BtnState_Normal) {}
 
 CZoSpinButtonCtrl::~CZoSpinButtonCtrl() {}
-
-void CZoSpinButtonCtrl::Invalidate(BOOL bErase)
-{
-    CSpinButtonCtrl::Invalidate(bErase);
-    ZoPaintPendingNow(m_hWnd);
-}
 
 bool CZoSpinButtonCtrl::_isHorizontal() const { return (GetStyle() & UDS_HORZ) != 0; }
 
@@ -132,8 +123,9 @@ void CZoSpinButtonCtrl::DrawButtonBorder(CDC* pDC, const CRect& rect)
     pDC->Draw3dRect(&rect, color, color);
 }
 
-void CZoSpinButtonCtrl::_paintTo(CDC* pDC)
+void CZoSpinButtonCtrl::DrawClient(CDC& dc)
 {
+    CDC* pDC = &dc;
     CRect client;
     GetClientRect(&client);
     BtnState first = BtnState_Normal;
@@ -156,22 +148,6 @@ void CZoSpinButtonCtrl::_paintTo(CDC* pDC)
     DrawButtonBorder(pDC, CRect(ZoSpinOutline(drawnFirst, drawnSecond)));
 }
 
-void CZoSpinButtonCtrl::OnPaint()
-{
-    CPaintDC dc(this);
-    _paintTo(&dc);
-}
-
-LRESULT CZoSpinButtonCtrl::OnPrintClient(WPARAM wParam, LPARAM)
-{
-    CZoPrintClientDC dc(wParam);
-    if (dc.GetSafeHdc())
-        _paintTo(&dc);
-    return 0;
-}
-
-BOOL CZoSpinButtonCtrl::OnEraseBkgnd(CDC*) { return TRUE; }
-
 void CZoSpinButtonCtrl::_setStates(BtnIndex active, BtnState state)
 {
     m_eFirstState = active == BtnIndex_First ? state : BtnState_Normal;
@@ -181,14 +157,14 @@ void CZoSpinButtonCtrl::_setStates(BtnIndex active, BtnState state)
 void CZoSpinButtonCtrl::OnLButtonDown(UINT nFlags, CPoint point)
 {
     _setStates(HitTest(point), BtnState_Pressed);
-    Invalidate(FALSE);
+    RepaintNow();
     CSpinButtonCtrl::OnLButtonDown(nFlags, point);
 }
 
 void CZoSpinButtonCtrl::OnLButtonUp(UINT nFlags, CPoint point)
 {
     _setStates(HitTest(point), BtnState_Hot);
-    Invalidate(FALSE);
+    RepaintNow();
     CSpinButtonCtrl::OnLButtonUp(nFlags, point);
 }
 
@@ -197,14 +173,25 @@ void CZoSpinButtonCtrl::OnMouseMove(UINT nFlags, CPoint point)
     const bool pressed = m_eFirstState == BtnState_Pressed || m_eSecondState == BtnState_Pressed;
     _setStates(HitTest(point), pressed ? BtnState_Pressed : BtnState_Hot);
     ZoTrackMouseLeave(m_hWnd);
-    Invalidate(FALSE);
+    RepaintNow();
     CSpinButtonCtrl::OnMouseMove(nFlags, point);
 }
 
 void CZoSpinButtonCtrl::OnMouseLeave()
 {
     _setStates(BtnIndex_None, BtnState_Normal);
-    Invalidate(FALSE);
+    RepaintNow();
+}
+
+void CZoSpinButtonCtrl::OnCaptureChanged(CWnd* pWnd)
+{
+    // A release after the button-up has already turned the pressed half hot.
+    if (m_eFirstState == BtnState_Pressed || m_eSecondState == BtnState_Pressed)
+    {
+        _setStates(BtnIndex_None, BtnState_Normal);
+        RepaintNow();
+    }
+    CSpinButtonCtrl::OnCaptureChanged(pWnd);
 }
 
 } // namespace ZoControls

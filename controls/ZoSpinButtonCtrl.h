@@ -6,6 +6,7 @@
 #include <afxwin.h>
 
 #include "core/ZoCtrlExport.h"
+#include "core/ZoPaintedWnd.h"
 
 namespace ZoControls {
 
@@ -18,7 +19,7 @@ ZOCTRL_API void ZoSpinArrowPoints(const RECT& half, bool horizontal, bool first,
 // The outline: left, top, right of the half drawn second and bottom of the half drawn first.
 ZOCTRL_API RECT ZoSpinOutline(const RECT& drawnFirst, const RECT& drawnSecond);
 
-class ZOCTRL_API CZoSpinButtonCtrl : public CSpinButtonCtrl
+class ZOCTRL_API CZoSpinButtonCtrl : public CZoPaintedWnd<CSpinButtonCtrl>
 {
     DECLARE_DYNAMIC(CZoSpinButtonCtrl)
 
@@ -39,10 +40,10 @@ public:
     };
 
     CZoSpinButtonCtrl();
-    virtual ~CZoSpinButtonCtrl();
+    ~CZoSpinButtonCtrl() override;
 
-    // Invalidate and repaint at once.
-    void Invalidate(BOOL bErase = TRUE);
+    // The two halves cover the whole control.
+    E_ZoPaintMode GetPaintMode() override { return ZoPaint_Direct; }
 
 protected:
     BtnIndex HitTest(CPoint point);
@@ -54,11 +55,10 @@ protected:
 
     bool _isHorizontal() const;
     void _setStates(BtnIndex active, BtnState state);
-    void _paintTo(CDC* pDC);
+    void DrawClient(CDC& dc) override;
 
-    afx_msg void OnPaint();
-    afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
-    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    // The platform control holds the capture while a half is pressed; losing it drops the look.
+    afx_msg void OnCaptureChanged(CWnd* pWnd);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);

@@ -3,9 +3,7 @@
 
 #include "ZoStatic.h"
 #include "ZoControlTheme.h"
-#include "ZoPrintClientDC.h"
 #include "ZoWindowHelpers.h"
-#include "core/ZoMemDC.h"
 #include "core/ZoThemeManager.h"
 #include "images/ZoResourceImage.h"
 
@@ -131,14 +129,11 @@ int ZoStaticBorderSlot(DWORD style, DWORD exStyle)
 IMPLEMENT_DYNAMIC(CZoStatic, CStatic)
 
 BEGIN_MESSAGE_MAP(CZoStatic, CStatic)
-    ON_WM_ERASEBKGND()
-    ON_WM_PAINT()
     ON_WM_MOUSEMOVE()
     ON_MESSAGE(WM_MOUSELEAVE, &CZoStatic::OnMouseLeave)
     ON_WM_CREATE()
     ON_WM_NCPAINT()
     ZO_ON_MENUXP_MESSAGES()
-    ON_MESSAGE(WM_PRINTCLIENT, &CZoStatic::OnPrintClient)
 END_MESSAGE_MAP()
 
 ZO_IMPLEMENT_MENUXP_FORWARDING(CZoStatic, CStatic)
@@ -176,7 +171,7 @@ E_ZoMonitorSize CZoStatic::GetMonitorSize() const
 
 void CZoStatic::_readTheme()
 {
-    CMenuXP::SetXPLookNFeel(this, true);
+    ZoMenuOptIn(this);
     m_eTheme = ZoGetCurrentThemeIndex(this);
     m_eMonitorSize = ZoGetCurrentMonitorSize(this, false);
 }
@@ -197,54 +192,41 @@ int CZoStatic::OnCreate(LPCREATESTRUCT lpCreateStruct)
 
 LRESULT CZoStatic::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    const LRESULT result = CStatic::WindowProc(message, wParam, lParam);
+    const LRESULT result = CZoPaintedWnd<CStatic>::WindowProc(message, wParam, lParam);
     // The standard static repaints these itself; the skin must replace that at once.
-    if ((message == WM_SETTEXT || message == WM_ENABLE) && ::IsWindow(m_hWnd)) {
-        Invalidate(FALSE);
-        UpdateWindow();
-    }
+    if (message == WM_SETTEXT || message == WM_ENABLE || message == STM_SETIMAGE || message == STM_SETICON)
+        RepaintNow();
     return result;
 }
 
-BOOL CZoStatic::OnEraseBkgnd(CDC* /*pDC*/)
+E_ZoPaintMode CZoStatic::GetPaintMode()
 {
-    return TRUE;
+    switch (ZoStaticPaintKindOf(GetStyle())) {
+    case ZoStaticPaint_System:
+        return ZoPaint_Platform;
+    case ZoStaticPaint_Frame:
+        return ZoPaint_Direct;
+    default:
+        return ZoPaint_Offscreen;
+    }
 }
 
-bool CZoStatic::PaintInto(CDC& dc)
+void CZoStatic::DrawClient(CDC& dc)
 {
-    const E_ZoStaticPaintKind kind = ZoStaticPaintKindOf(GetStyle());
-    if (kind == ZoStaticPaint_System)
-        return false;
-    if (kind == ZoStaticPaint_Frame) {
+    switch (ZoStaticPaintKindOf(GetStyle())) {
+    case ZoStaticPaint_Frame:
         _drawFrame(dc);
-        return true;
+        break;
+    case ZoStaticPaint_Text:
+        _drawStaticText(dc);
+        break;
+    case ZoStaticPaint_Picture:
+        _drawBitmap(dc);
+        break;
+    default:
+        _drawIcon(dc);
+        break;
     }
-    const CRect client = ClientRectOf(*this);
-    CZoMemDC memDC(&dc, client.Width(), client.Height());
-    if (kind == ZoStaticPaint_Text)
-        _drawStaticText(memDC);
-    else if (kind == ZoStaticPaint_Picture)
-        _drawBitmap(memDC);
-    else
-        _drawIcon(memDC);
-    memDC.CopyToTarget();
-    return true;
-}
-
-void CZoStatic::OnPaint()
-{
-    if (ZoStaticPaintKindOf(GetStyle()) == ZoStaticPaint_System) {
-        Default();
-        return;
-    }
-    CPaintDC dc(this);
-    PaintInto(dc);
-}
-
-LRESULT CZoStatic::OnPrintClient(WPARAM wParam, LPARAM /*lParam*/)
-{
-    return ZoPaintPrintClient(wParam, [this](CDC& dc) { return PaintInto(dc); }) ? 0 : Default();
 }
 
 void CZoStatic::OnMouseMove(UINT /*nFlags*/, CPoint /*point*/)
@@ -419,9 +401,7 @@ ZoDotRun ZoStaticLineDots(const CRect& client, int offset)
 }
 
 BEGIN_MESSAGE_MAP(CStaticLine, CStatic)
-    ON_WM_PAINT()
     ON_WM_NCPAINT()
-    ON_MESSAGE(WM_PRINTCLIENT, &CStaticLine::OnPrintClient)
 END_MESSAGE_MAP()
 
 CStaticLine::CStaticLine()
@@ -509,26 +489,11 @@ void CStaticLine::drawDualDotLine(CDC* /*pDC*/, COLORREF /*color*/, int /*offset
 {
 }
 
-void CStaticLine::PaintInto(CDC& dc)
+void CStaticLine::DrawClient(CDC& dc)
 {
     DrawBackground(&dc, m_eStyle, m_clrBackground);
     DrawLineShadow(&dc, m_eStyle, m_clrShadow);
     DrawLine(&dc, m_eStyle, m_clrLine);
-}
-
-void CStaticLine::OnPaint()
-{
-    CPaintDC dc(this);
-    PaintInto(dc);
-}
-
-LRESULT CStaticLine::OnPrintClient(WPARAM wParam, LPARAM /*lParam*/)
-{
-    ZoPaintPrintClient(wParam, [this](CDC& dc) {
-        PaintInto(dc);
-        return true;
-    });
-    return 0;
 }
 
 void CStaticLine::OnNcPaint()

@@ -10,8 +10,9 @@
 #include <afxwin.h>
 
 #include "core/ZoCtrlExport.h"
+#include "core/ZoPaintedWnd.h"
 #include "core/ZoThemeTypes.h"
-#include "frames/ZoMenuXP.h"
+#include "core/ZoMenuRouting.h"
 
 namespace ZoControls {
 
@@ -43,13 +44,13 @@ ZOCTRL_API int ZoStaticFrameTopShift(LONG lfHeight);
 // Colour slot of the border drawn for these styles; -1 when no border is drawn.
 ZOCTRL_API int ZoStaticBorderSlot(DWORD style, DWORD exStyle);
 
-class ZOCTRL_API CZoStatic : public CStatic
+class ZOCTRL_API CZoStatic : public CZoPaintedWnd<CStatic>
 {
     DECLARE_DYNAMIC(CZoStatic)
 
 public:
     CZoStatic(E_ZoThemeFont font = ZoThemeFont_1);
-    virtual ~CZoStatic();
+    ~CZoStatic() override;
 
     // Both take effect at the next paint.
     void SetBackGroundColor(COLORREF color);
@@ -59,19 +60,15 @@ protected:
     E_ZoTheme GetTheme() const;
     E_ZoMonitorSize GetMonitorSize() const;
 
-    virtual void PreSubclassWindow();
-    virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    void PreSubclassWindow() override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    E_ZoPaintMode GetPaintMode() override;
+    void DrawClient(CDC& dc) override;
 
-    // Paints the client area into `dc` as WM_PAINT would; false for styles the system paints.
-    bool PaintInto(CDC& dc);
-
-    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
-    afx_msg void OnPaint();
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
     afx_msg LRESULT OnMouseLeave(WPARAM wParam, LPARAM lParam);
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnNcPaint();
-    afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
     ZO_DECLARE_MENUXP_FORWARDING()
     DECLARE_MESSAGE_MAP()
 
@@ -96,7 +93,7 @@ class ZOCTRL_API CZoStaticBig : public CZoStatic
 
 public:
     CZoStaticBig();
-    virtual ~CZoStaticBig();
+    ~CZoStaticBig() override;
 };
 
 class ZOCTRL_API CZoStaticHuge : public CZoStatic
@@ -105,7 +102,7 @@ class ZOCTRL_API CZoStaticHuge : public CZoStatic
 
 public:
     CZoStaticHuge();
-    virtual ~CZoStaticHuge();
+    ~CZoStaticHuge() override;
 };
 
 // A straight run of equal squares: square i has its top-left corner at (x + i*dx, y + i*dy).
@@ -125,7 +122,7 @@ ZOCTRL_API void ZoStaticLineSegment(const CRect& client, int offset, CPoint& fro
 // offset, the row of the client's left edge, not its middle.
 ZOCTRL_API ZoDotRun ZoStaticLineDots(const CRect& client, int offset);
 
-class ZOCTRL_API CStaticLine : public CStatic
+class ZOCTRL_API CStaticLine : public CZoPaintedWnd<CStatic>
 {
 public:
     enum E_StaticLine_Style
@@ -140,7 +137,10 @@ public:
     static const int kDotPitch = 4;
 
     CStaticLine();
-    virtual ~CStaticLine();
+    ~CStaticLine() override;
+
+    // The background layer covers what the platform erased.
+    E_ZoPaintMode GetPaintMode() override { return ZoPaint_DirectAfterErase; }
 
     // Both take effect at the next paint.
     void SetLineStyle(E_StaticLine_Style style);
@@ -152,12 +152,10 @@ public:
     virtual void DrawLineShadow(CDC* pDC, E_StaticLine_Style style, COLORREF color);
 
 protected:
-    // All three layers into `dc`.
-    void PaintInto(CDC& dc);
+    // All three layers.
+    void DrawClient(CDC& dc) override;
 
-    afx_msg void OnPaint();
     afx_msg void OnNcPaint();
-    afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:

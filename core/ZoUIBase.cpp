@@ -168,7 +168,7 @@ int CZoWnd::OnCreate(LPCREATESTRUCT lpCreateStruct)
     _detectMonitorSize();
     if (CWnd::OnCreate(lpCreateStruct) == -1)
         return -1;
-    CMenuXP::SetXPLookNFeel(this, true);
+    ZoMenuOptIn(this);
     return 0;
 }
 

@@ -7,7 +7,7 @@
 
 #include "ZoCtrlExport.h"
 #include "ZoThemeTypes.h"
-#include "frames/ZoMenuXP.h"
+#include "ZoMenuRouting.h"
 
 namespace ZoControls {
 

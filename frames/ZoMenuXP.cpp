@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "core/ZoMenuRouting.h"
 #include "core/ZoThemeManager.h"
 #include "frames/ZoMenuXP.h"
 
@@ -1059,5 +1060,34 @@ LRESULT CALLBACK CMenuXP::_popupWndProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPA
     }
     return ::CallWindowProcW(oldProc, hWnd, uMsg, wParam, lParam);
 }
+
+namespace {
+
+// Serves the menu messages that themed windows forward through the core.
+class CMenuXPSupport : public IZoMenuSupport
+{
+public:
+    CMenuXPSupport() { ZoSetMenuSupport(this); }
+    ~CMenuXPSupport() { ZoSetMenuSupport(NULL); }
+
+    void SetLookNFeel(CWnd* pWnd, bool bEnable) override { CMenuXP::SetXPLookNFeel(pWnd, bEnable); }
+    void InitMenuPopup(CWnd* pWnd, CMenu* pPopupMenu, BOOL bSysMenu) override
+    {
+        CMenuXP::ForwardInitMenuPopup(pWnd, pPopupMenu, bSysMenu);
+    }
+    void MeasureItem(MEASUREITEMSTRUCT* pMeasureItemStruct) override { CMenuXP::OnMeasureItem(pMeasureItemStruct); }
+    bool DrawItem(DRAWITEMSTRUCT* pDrawItemStruct, HWND hWnd) override
+    {
+        return CMenuXP::OnDrawItem(pDrawItemStruct, hWnd);
+    }
+    bool MenuChar(CMenu* pMenu, UINT nChar, UINT nFlags, LRESULT& lResult) override
+    {
+        return CMenuXP::ForwardMenuChar(pMenu, nChar, nFlags, lResult);
+    }
+};
+
+CMenuXPSupport g_menuXPSupport;
+
+} // namespace
 
 } // namespace ZoControls

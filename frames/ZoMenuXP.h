@@ -7,9 +7,8 @@
 //   ZoMenu_Internals::CBrushDC    selects a brush (or the hollow brush) for its scope
 //   ZoMenu_Internals::CFontDC     selects a font for its scope
 //   ZoMenu_Internals::CBoldDC     selects a bold copy of the current font for its scope
-// plus the plain rules of item data, geometry and colours in ZoMenu_Internals, and
-// ZO_DECLARE_MENUXP_FORWARDING / ZO_ON_MENUXP_MESSAGES / ZO_IMPLEMENT_MENUXP_FORWARDING, the one
-// way every themed window routes its four menu messages to CMenuXP.
+// plus the plain rules of item data, geometry and colours in ZoMenu_Internals. Themed windows
+// reach CMenuXP through core/ZoMenuRouting.h, which it serves from the moment the library loads.
 #pragma once
 #include <afxwin.h>
 #include <commctrl.h>
@@ -189,7 +188,7 @@ public:
     static bool OnDrawItem(DRAWITEMSTRUCT* pDrawItemStruct, HWND hWnd);
     static LRESULT OnMenuChar(HMENU hMenu, UINT nChar, UINT nFlags);
 
-    // The forwarding every themed window does (see ZO_IMPLEMENT_MENUXP_FORWARDING).
+    // The forwarding every themed window does (see core/ZoMenuRouting.h).
     static void ForwardInitMenuPopup(CWnd* pWnd, CMenu* pPopupMenu, BOOL bSysMenu);
     static bool ForwardMenuChar(CMenu* pMenu, UINT nChar, UINT nFlags, LRESULT& lResult);
 
@@ -217,40 +216,3 @@ private:
 };
 
 } // namespace ZoControls
-
-// The four menu messages of a themed window, routed to CMenuXP. In the class declaration:
-//   ZO_DECLARE_MENUXP_FORWARDING()
-// in the message map:
-//   ZO_ON_MENUXP_MESSAGES()
-// and once in the source file:
-//   ZO_IMPLEMENT_MENUXP_FORWARDING(CMyWnd, CBaseWnd)
-#define ZO_DECLARE_MENUXP_FORWARDING()                                                       \
-    afx_msg void OnInitMenuPopup(CMenu* pPopupMenu, UINT nIndex, BOOL bSysMenu);             \
-    afx_msg void OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct);         \
-    afx_msg void OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct);                  \
-    afx_msg LRESULT OnMenuChar(UINT nChar, UINT nFlags, CMenu* pMenu);
-
-#define ZO_ON_MENUXP_MESSAGES() ON_WM_INITMENUPOPUP() ON_WM_MEASUREITEM() ON_WM_DRAWITEM() ON_WM_MENUCHAR()
-
-#define ZO_IMPLEMENT_MENUXP_FORWARDING(theClass, baseClass)                                  \
-    void theClass::OnInitMenuPopup(CMenu* pPopupMenu, UINT nIndex, BOOL bSysMenu)            \
-    {                                                                                        \
-        baseClass::OnInitMenuPopup(pPopupMenu, nIndex, bSysMenu);                            \
-        ZoControls::CMenuXP::ForwardInitMenuPopup(this, pPopupMenu, bSysMenu);               \
-    }                                                                                        \
-    void theClass::OnMeasureItem(int /*nIDCtl*/, LPMEASUREITEMSTRUCT lpMeasureItemStruct)    \
-    {                                                                                        \
-        ZoControls::CMenuXP::OnMeasureItem(lpMeasureItemStruct);                             \
-    }                                                                                        \
-    void theClass::OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct)                 \
-    {                                                                                        \
-        if (!ZoControls::CMenuXP::OnDrawItem(lpDrawItemStruct, m_hWnd))                      \
-            baseClass::OnDrawItem(nIDCtl, lpDrawItemStruct);                                 \
-    }                                                                                        \
-    LRESULT theClass::OnMenuChar(UINT nChar, UINT nFlags, CMenu* pMenu)                      \
-    {                                                                                        \
-        LRESULT lResult = 0;                                                                 \
-        if (ZoControls::CMenuXP::ForwardMenuChar(pMenu, nChar, nFlags, lResult))             \
-            return lResult;                                                                  \
-        return baseClass::OnMenuChar(nChar, nFlags, pMenu);                                  \
-    }

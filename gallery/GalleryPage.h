@@ -4,8 +4,8 @@
 #pragma once
 #include <afxwin.h>
 
-#include "controls/ZoPrintClientDC.h"
-#include "core/ZoCtrl.h"
+#include "core/ZoBorrowedDC.h"
+#include "ZoCtrl.h"
 
 class CGalleryPage : public ZoControls::CZoWnd
 {

@@ -1,7 +1,7 @@
 #include <afxwin.h>
 
 #include "PageParts.h"
-#include "core/ZoCtrl.h"
+#include "ZoCtrl.h"
 
 using namespace ZoControls;
 

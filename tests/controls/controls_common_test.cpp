@@ -10,6 +10,7 @@
 
 #include "controls/SeparatorWnd.h"
 #include "controls/ZoButtonVariants.h"
+#include "frames/ZoMenuXP.h"
 #include "controls/ZoProgressCtrl.h"
 #include "controls/ZoScrollBar.h"
 #include "controls/ZoSpinButtonCtrl.h"

@@ -4,7 +4,7 @@
 
 #include <sstream>
 
-#include "core/ZoLibrary.h"
+#include "ZoLibrary.h"
 #include "core/ZoThemeManager.h"
 
 namespace controltest {

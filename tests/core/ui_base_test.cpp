@@ -5,6 +5,7 @@
 #include "core_test_support.h"
 #include "ZoThemeMath.h"
 #include "ZoUIBase.h"
+#include "frames/ZoMenuXP.h"
 
 using namespace ZoControls;
 

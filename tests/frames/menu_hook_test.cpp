@@ -6,7 +6,7 @@
 #include <zotest/resource_counter.h>
 #include <zotest/test_window.h>
 
-#include "core/ZoLibrary.h"
+#include "ZoLibrary.h"
 
 using namespace ZoControls;
 using namespace ZoControls::ZoMenu_Internals;

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "core/ZoThemeManager.h"
+#include "core/ZoMenuRouting.h"
 #include "frames/ZoMenuXP.h"
 
 namespace menutest {

@@ -5,7 +5,7 @@
 
 #include <afxtoolbarimages.h>
 
-#include "core/ZoLibrary.h"
+#include "ZoLibrary.h"
 #include "core/ZoThemeManager.h"
 #include "images/ZoResourcePNG.h"
 

@@ -2,7 +2,7 @@
 #include <afxwin.h>
 
 #include "ZoLibrary.h"
-#include "ZoThemeManager.h"
+#include "core/ZoThemeManager.h"
 #include "frames/ZoMenuXP.h"
 #include "images/ZoResourcePNG.h"
 

@@ -1,14 +1,14 @@
 // ZoCtrl: what a host includes. Include it after the MFC headers (<afxwin.h> ...).
-// Each subsystem adds its public headers below when it lands, in this order: images/,
-// controls/, dialogs/, lists/, frames/.
+// It gathers every subsystem's public headers, lowest first: core/, images/, controls/,
+// dialogs/, lists/, frames/.
 #pragma once
 
-#include "ZoCtrlExport.h"
 #include "ZoLibrary.h"
-#include "ZoThemeTypes.h"
-#include "ZoThemeMath.h"
-#include "ZoThemeManager.h"
-#include "ZoUIBase.h"
+#include "core/ZoCtrlExport.h"
+#include "core/ZoThemeTypes.h"
+#include "core/ZoThemeMath.h"
+#include "core/ZoThemeManager.h"
+#include "core/ZoUIBase.h"
 #include "images/ZoResourceImage.h"
 #include "images/ZoResourcePNG.h"
 #include "controls/ZoScrollBar.h"

@@ -1,0 +1,72 @@
+#include "ZoPaintedWnd.h"
+
+#include "ZoBorrowedDC.h"
+#include "ZoMemDC.h"
+
+namespace ZoControls {
+
+namespace {
+
+void paintInto(CWnd& wnd, IZoPaintedWnd& painted, E_ZoPaintMode mode, CDC& dc)
+{
+    if (mode != ZoPaint_Offscreen)
+    {
+        painted.DrawClient(dc);
+        return;
+    }
+    CRect client;
+    ::GetClientRect(wnd.GetSafeHwnd(), &client);
+    CZoMemDC memDC(&dc, client.Width(), client.Height());
+    painted.DrawClient(memDC);
+    memDC.CopyToTarget();
+}
+
+} // namespace
+
+bool ZoRoutePaintMessage(CWnd& wnd, IZoPaintedWnd& painted, UINT message, WPARAM wParam, LRESULT& result)
+{
+    if (message != WM_PAINT && message != WM_PRINTCLIENT && message != WM_ERASEBKGND)
+        return false;
+    const E_ZoPaintMode mode = painted.GetPaintMode();
+    result = 0;
+    switch (message)
+    {
+    case WM_ERASEBKGND:
+        if (mode == ZoPaint_DirectAfterErase)
+            return false;
+        result = TRUE;
+        return true;
+    case WM_PRINTCLIENT:
+        if (!wParam || mode == ZoPaint_Platform)
+            return false;
+        {
+            CZoBorrowedDC dc(wParam);
+            paintInto(wnd, painted, mode, dc);
+        }
+        return true;
+    default: // WM_PAINT
+        if (mode == ZoPaint_Platform)
+            return false;
+        if (wParam)
+        {
+            CZoBorrowedDC dc(wParam);
+            paintInto(wnd, painted, mode, dc);
+        }
+        else
+        {
+            CPaintDC dc(&wnd);
+            paintInto(wnd, painted, mode, dc);
+        }
+        return true;
+    }
+}
+
+void ZoRepaintNow(HWND hWnd)
+{
+    if (!hWnd || !::IsWindow(hWnd))
+        return;
+    ::InvalidateRect(hWnd, NULL, FALSE);
+    ::UpdateWindow(hWnd);
+}
+
+} // namespace ZoControls

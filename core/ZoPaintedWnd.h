@@ -1,0 +1,63 @@
+// The one painting path of every self-drawn window.
+// Classes in this file:
+//   IZoPaintedWnd        what a self-drawn window tells the painting path: how it paints now and
+//                        how it draws its client area
+//   CZoPaintedWnd<Base>  an MFC window class that paints through that path: WM_PAINT (with or
+//                        without a DC in wParam), WM_PRINTCLIENT and WM_ERASEBKGND, and
+//                        RepaintNow for a state change that must show at once
+#pragma once
+#include <afxwin.h>
+
+#include "ZoCtrlExport.h"
+
+namespace ZoControls {
+
+// How a window paints in its present style.
+enum E_ZoPaintMode
+{
+    ZoPaint_Platform,          // the platform paints (styles the library does not draw); no erasing
+    ZoPaint_Offscreen,         // drawn whole into an off-screen surface, copied once; no erasing
+    ZoPaint_Direct,            // drawn straight into the DC; no erasing
+    ZoPaint_DirectAfterErase   // the platform erases the background first, then drawn straight
+};
+
+class ZOCTRL_API IZoPaintedWnd
+{
+public:
+    virtual E_ZoPaintMode GetPaintMode() = 0;
+    // Draws the client area into `dc`, whose origin is the client area's top-left corner.
+    virtual void DrawClient(CDC& dc) = 0;
+
+protected:
+    ~IZoPaintedWnd() {}
+};
+
+// Handles WM_PAINT, WM_PRINTCLIENT and WM_ERASEBKGND of `wnd` as `painted` asks; false leaves
+// the message to the platform. A DC in wParam is painted into, as the native controls do.
+ZOCTRL_API bool ZoRoutePaintMessage(CWnd& wnd, IZoPaintedWnd& painted, UINT message, WPARAM wParam,
+                                    LRESULT& result);
+
+// Invalidates the client area without erasing and paints it at once, also inside a capture
+// loop or a modal loop that dispatches no paint messages. Nothing happens to a hidden window.
+ZOCTRL_API void ZoRepaintNow(HWND hWnd);
+
+template <class TBase>
+class CZoPaintedWnd : public TBase, public IZoPaintedWnd
+{
+public:
+    // Shows a state change at once.
+    void RepaintNow() { ZoRepaintNow(this->GetSafeHwnd()); }
+
+    E_ZoPaintMode GetPaintMode() override { return ZoPaint_Offscreen; }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        LRESULT result = 0;
+        if (ZoRoutePaintMessage(*this, *this, message, wParam, result))
+            return result;
+        return TBase::WindowProc(message, wParam, lParam);
+    }
+};
+
+} // namespace ZoControls

@@ -40,6 +40,8 @@ BEGIN_MESSAGE_MAP(CZoScrollBar, CScrollBar)
     ON_WM_TIMER()
     ON_WM_MOUSEMOVE()
     ON_WM_MOUSELEAVE()
+    ON_WM_CAPTURECHANGED()
+    ON_WM_CANCELMODE()
     ZO_ON_MENUXP_MESSAGES()
 END_MESSAGE_MAP()
 
@@ -421,6 +423,10 @@ void CZoScrollBar::OnLButtonDown(UINT, CPoint point)
     m_nDragOffset = m_nThumbPos - (_axisCoordinate(point) - ZoScrollChannelStart(layout, _isVertical()));
     RepaintNow();
     _sendPressedMessage(false);
+    // The owner may have destroyed the bar in its handler: a timer of a window that is gone would
+    // fire for ever as a thread timer.
+    if (!::IsWindow(m_hWnd))
+        return;
     SetCapture();
     if (m_ePressed != SBHit_Thumb)
         SetTimer(TimerFirstDelay, kFirstDelayMs, NULL);
@@ -428,15 +434,46 @@ void CZoScrollBar::OnLButtonDown(UINT, CPoint point)
 
 void CZoScrollBar::OnLButtonUp(UINT, CPoint)
 {
-    if (m_ePressed == SBHit_None)
+    const E_SBHitCode pressed = _endPress();
+    if (pressed == SBHit_None)
         return;
+    if (pressed == SBHit_Thumb)
+        _notify(MAKEWPARAM(SB_THUMBPOSITION, (WORD)_calcScrollPosFromThumbPos(m_nThumbPos)));
+    RepaintNow();
+}
+
+CZoScrollBar::E_SBHitCode CZoScrollBar::_endPress()
+{
+    const E_SBHitCode pressed = m_ePressed;
+    // Cleared before the capture goes, so that its loss is not taken for an abandoned press.
+    m_ePressed = SBHit_None;
     KillTimer(TimerFirstDelay);
     KillTimer(TimerRepeat);
-    ReleaseCapture();
-    if (m_ePressed == SBHit_Thumb)
-        _sendTrackingMessage(true);
-    m_ePressed = SBHit_None;
+    if (::GetCapture() == m_hWnd)
+        ::ReleaseCapture();
+    return pressed;
+}
+
+void CZoScrollBar::_abandonPress()
+{
+    if (_endPress() == SBHit_None)
+        return;
+    // The thumb goes back to where the owner left the position; nobody is told.
+    m_nThumbPos = _calcThumbPosFromScrollPos(::GetScrollPos(m_hWnd, SB_CTL));
+    _updateRects();
     RepaintNow();
+}
+
+void CZoScrollBar::OnCaptureChanged(CWnd* pWnd)
+{
+    _abandonPress();
+    CScrollBar::OnCaptureChanged(pWnd);
+}
+
+void CZoScrollBar::OnCancelMode()
+{
+    _abandonPress();
+    CScrollBar::OnCancelMode();
 }
 
 // A double click is not a second press.
@@ -467,6 +504,8 @@ void CZoScrollBar::OnTimer(UINT_PTR nIDEvent)
     {
         RepaintNow();
         _sendPressedMessage(false);
+        if (!::IsWindow(m_hWnd))
+            return;
     }
     if (nIDEvent == TimerFirstDelay)
     {

@@ -90,6 +90,10 @@ protected:
     void _sendPressedMessage(bool end);
     void _sendTrackingMessage(bool final);
     void _notify(WPARAM wParam);
+    // Ends a press or drag: timers killed, capture released; returns what was pressed.
+    E_SBHitCode _endPress();
+    // A press that lost the mouse ends without notifications, the thumb back at the position.
+    void _abandonPress();
 
     void _drawThumbButton(CDC& dc, const CRect& rect, E_CurState state, bool vertical);
     void _drawDisabledThumbButton(CDC& dc, CPoint centre, bool vertical);
@@ -104,6 +108,8 @@ protected:
     afx_msg void OnTimer(UINT_PTR nIDEvent);
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
     afx_msg void OnMouseLeave();
+    afx_msg void OnCaptureChanged(CWnd* pWnd);
+    afx_msg void OnCancelMode();
     ZO_DECLARE_MENUXP_FORWARDING()
     DECLARE_MESSAGE_MAP()
 

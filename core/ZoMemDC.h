@@ -13,6 +13,8 @@ public:
 
     // Copies the whole surface to the target at (0, 0). Call once, after drawing everything.
     void CopyToTarget();
+    // False when no bitmap could be made (zero or enormous sizes): drawing would go nowhere.
+    bool HasSurface() const { return m_hOldBitmap != NULL; }
 
     // Text and visibility go straight to the memory DC's own handle.
     using CDC::PtVisible;

@@ -17,6 +17,10 @@ void paintInto(CWnd& wnd, IZoPaintedWnd& painted, E_ZoPaintMode mode, CDC& dc)
     CRect client;
     ::GetClientRect(wnd.GetSafeHwnd(), &client);
     CZoMemDC memDC(&dc, client.Width(), client.Height());
+    // Without a surface the drawing would land nowhere, at any cost (a huge control tiles
+    // thousands of cells): paint nothing.
+    if (!memDC.HasSurface())
+        return;
     painted.DrawClient(memDC);
     memDC.CopyToTarget();
 }

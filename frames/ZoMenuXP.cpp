@@ -151,6 +151,15 @@ COLORREF ScaleColor(COLORREF color, int percent)
     return RGB(r, g, b);
 }
 
+bool IsDrawableItemRect(const RECT& rect)
+{
+    // GDI's coordinate space on the NT family: 27 bits.
+    const LONGLONG kLargest = 0x7FFFFFF;
+    const LONGLONG width = static_cast<LONGLONG>(rect.right) - rect.left;
+    const LONGLONG height = static_cast<LONGLONG>(rect.bottom) - rect.top;
+    return width > 0 && height > 0 && width <= kLargest && height <= kLargest;
+}
+
 COLORREF LightenColor(COLORREF color, int percent)
 {
     percent = ClampPercent(percent);
@@ -902,7 +911,7 @@ bool CMenuXP::OnDrawItem(DRAWITEMSTRUCT* pDrawItemStruct, HWND hWnd)
         return false;
     const DRAWITEMSTRUCT& dis = *pDrawItemStruct;
     const CRect rc(dis.rcItem);
-    if (!dis.hDC || rc.IsRectEmpty()) {
+    if (!dis.hDC || !IsDrawableItemRect(rc)) {
         ++State().nDrawCount;
         return true;
     }

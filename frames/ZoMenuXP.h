@@ -71,6 +71,10 @@ ZOCTRL_API int MenuBarShadowPercent(int column, int row, int itemHeight);
 // false when the popup does not hang from `barScreen`.
 ZOCTRL_API bool PopupJoinLine(const RECT& barScreen, const RECT& popupScreen, int& xFrom, int& xTo);
 
+// Whether an item rectangle can be drawn: not empty, and its width and height within what GDI
+// can address (an absurd rectangle would overflow inside GDI).
+ZOCTRL_API bool IsDrawableItemRect(const RECT& rect);
+
 // Colour mixing: towards white / black by `percent` (0..100, clamped).
 ZOCTRL_API COLORREF LightenColor(COLORREF color, int percent);
 ZOCTRL_API COLORREF DarkenColor(COLORREF color, int percent);

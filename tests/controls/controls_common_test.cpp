@@ -152,6 +152,21 @@ TEST_P(EraseTest, EraseBackgroundPaintsNothing)
     wnd->DestroyWindow();
 }
 
+// As the native controls do: a DC in wParam is painted into, the screen is left alone.
+TEST_P(EraseTest, PaintWithADcPaintsIntoItAsPrintClientDoes)
+{
+    const std::unique_ptr<CWnd> wnd = GetParam().make(parentWnd());
+    ASSERT_TRUE(wnd);
+    zotest::Dib painted(120, 40, RGB(9, 9, 9));
+    zotest::Dib printed(120, 40, RGB(9, 9, 9));
+    wnd->SendMessage(WM_PAINT, reinterpret_cast<WPARAM>(painted.dc()));
+    wnd->SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(printed.dc()), PRF_CLIENT);
+    EXPECT_EQ(controltest::Differences(painted, printed), 0);
+    const RECT drawn = zotest::BoundsOfDifferences(painted, RGB(9, 9, 9));
+    EXPECT_FALSE(::IsRectEmpty(&drawn));
+    wnd->DestroyWindow();
+}
+
 INSTANTIATE_TEST_SUITE_P(Controls, EraseTest, testing::ValuesIn(kPaintingControls), CaseName);
 
 // --- Repainting --------------------------------------------------------------------------------
@@ -181,6 +196,37 @@ TEST_P(RepaintTest, SettingTextOrEnablingRepaintsAtOnce)
 }
 
 INSTANTIATE_TEST_SUITE_P(Controls, RepaintTest, testing::ValuesIn(kTextControls), CaseName);
+
+// The platform paints its own look at once on a new picture; the skin must follow at once too.
+TEST_F(ControlCaseTest, PictureStaticRepaintsAtOnceOnANewBitmapOrIcon)
+{
+    HBITMAP bitmap = controltest::MakeBitmap(16, 16, RGB(200, 0, 0), RGB(200, 0, 0));
+    HICON icon = ::LoadIcon(NULL, IDI_APPLICATION);
+    struct PictureCase
+    {
+        DWORD style;
+        UINT message;
+        WPARAM wParam;
+        LPARAM lParam;
+    };
+    const PictureCase cases[] = {
+        {SS_BITMAP, STM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(bitmap)},
+        {SS_ICON, STM_SETICON, reinterpret_cast<WPARAM>(icon), 0},
+    };
+    for (const PictureCase& c : cases) {
+        SCOPED_TRACE(c.message);
+        CZoStatic picture;
+        ASSERT_TRUE(picture.Create(L"", WS_CHILD | WS_VISIBLE | c.style, kRect, parentWnd(), kId));
+        zotest::PumpUntilIdle(500);
+        zotest::MessageRecorder recorder;
+        ASSERT_TRUE(recorder.Watch(picture.m_hWnd));
+        picture.SendMessage(c.message, c.wParam, c.lParam);
+        EXPECT_GE(recorder.Count(WM_PAINT), 1u);
+        recorder.UnwatchAll();
+        picture.DestroyWindow();
+    }
+    ::DeleteObject(bitmap);
+}
 
 // --- Menus -------------------------------------------------------------------------------------
 

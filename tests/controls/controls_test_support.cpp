@@ -144,4 +144,12 @@ testing::AssertionResult AreaMatches(const zotest::Dib& dib, const RECT& area, c
     return testing::AssertionFailure() << wrong << " pixels differ, first " << first.str();
 }
 
+void LoseCapture(HWND control, CaptureLoss how, HWND thief)
+{
+    if (how == CaptureLoss::OtherWindow)
+        ::SetCapture(thief);
+    else
+        ::SendMessageW(control, WM_CANCELMODE, 0, 0);
+}
+
 } // namespace controltest

@@ -57,4 +57,11 @@ zotest::Dib StretchedCell(HBITMAP strip, int columns, int rows, int column, int 
 // The pixels of `area` of `dib` equal those of `expected` from (0, 0).
 testing::AssertionResult AreaMatches(const zotest::Dib& dib, const RECT& area, const zotest::Dib& expected);
 
+// The two ways a control loses the mouse in the middle of a press or drag: another window takes
+// it, or the system cancels modes (a dialog popping up, Alt+Tab).
+enum class CaptureLoss { OtherWindow, CancelMode };
+const CaptureLoss kCaptureLosses[] = {CaptureLoss::OtherWindow, CaptureLoss::CancelMode};
+// `thief` takes the capture, or `control` gets WM_CANCELMODE.
+void LoseCapture(HWND control, CaptureLoss how, HWND thief);
+
 } // namespace controltest

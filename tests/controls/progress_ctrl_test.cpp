@@ -107,6 +107,16 @@ TEST_F(ProgressTest, EmptyRangePaintsNothing)
     EXPECT_NE(dib.Pixel(0, 0), controltest::Slot(66));
 }
 
+// No off-screen surface can be made this large: the paint draws nothing instead of tiling
+// thousands of cells into nowhere.
+TEST_F(ProgressTest, EnormousBarPaintsNothing)
+{
+    Create(0, CRect(0, 0, 30000, 30000), 0, 100, 100);
+    zotest::Dib dib(120, 18);
+    bar_.SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dib.dc()), PRF_CLIENT);
+    ZOTEST_EXPECT_FILL(dib, CRect(0, 0, 120, 18), zotest::kUnpainted);
+}
+
 TEST_F(ProgressTest, DisabledBarTilesTheDisabledColumn)
 {
     Create(0, CRect(0, 0, 120, 18), 0, 100, 100);

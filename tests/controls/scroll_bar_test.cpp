@@ -260,6 +260,73 @@ TEST_F(ScrollBarTest, DraggingTracksOnlyOnChangeAndEndsWithThumbPosition)
     EXPECT_FALSE(::KillTimer(bar_.GetSafeHwnd(), CZoScrollBar::TimerFirstDelay));
 }
 
+TEST_F(ScrollBarTest, LosingTheMouseEndsAPressWithoutAWord)
+{
+    const int thumbY = 100;
+    const int arrowY = 190;
+    for (controltest::CaptureLoss loss : controltest::kCaptureLosses) {
+        for (int y : {thumbY, arrowY}) {
+            SCOPED_TRACE(testing::Message() << "loss " << static_cast<int>(loss) << " at y " << y);
+            Create();
+            SetStandardState();
+            const zotest::Dib atRest = zotest::RenderClient(bar_.GetSafeHwnd());
+            Press(9, y);
+            if (y == thumbY)
+                Move(9, 130);
+            WatchParent();
+            controltest::LoseCapture(bar_.GetSafeHwnd(), loss, parent());
+            EXPECT_NE(::GetCapture(), bar_.GetSafeHwnd());
+            EXPECT_FALSE(::KillTimer(bar_.GetSafeHwnd(), CZoScrollBar::TimerFirstDelay));
+            EXPECT_FALSE(::KillTimer(bar_.GetSafeHwnd(), CZoScrollBar::TimerRepeat));
+            Release(9, y);
+            EXPECT_EQ(recorder_.Count(WM_VSCROLL, zotest::WindowRole::Parent), 0u);
+            // The dragged thumb is back where the position is, in its normal look.
+            if (y == thumbY)
+                EXPECT_EQ(controltest::Differences(atRest, zotest::RenderClient(bar_.GetSafeHwnd())), 0);
+            ::ReleaseCapture();
+            recorder_.UnwatchAll();
+            bar_.DestroyWindow();
+        }
+    }
+}
+
+// An owner that destroys the bar when told about the press: nothing of the bar may live on.
+TEST_F(ScrollBarTest, BarDestroyedByItsOwnerInTheNotificationArmsNoTimer)
+{
+    class DestroyingBuddy : public CWnd
+    {
+    public:
+        CWnd* victim = nullptr;
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == WM_VSCROLL && victim && victim->GetSafeHwnd())
+                victim->DestroyWindow();
+            return CWnd::WindowProc(message, wParam, lParam);
+        }
+    };
+    DestroyingBuddy buddy;
+    ASSERT_TRUE(buddy.CreateEx(0, L"STATIC", L"", WS_CHILD, CRect(0, 0, 5, 5), parentWnd(), 7));
+    for (int y : {190, 150}) { // an arrow, a page
+        Create();
+        SetStandardState();
+        buddy.victim = &bar_;
+        bar_.SetBuddy(&buddy);
+        Press(9, y);
+        EXPECT_EQ(bar_.GetSafeHwnd(), (HWND)NULL);
+        EXPECT_EQ(::GetCapture(), (HWND)NULL);
+        // A timer set for a window that is gone becomes a thread timer (no window) that fires for ever.
+        ::Sleep(350);
+        MSG msg;
+        bool threadTimer = false;
+        while (::PeekMessageW(&msg, NULL, WM_TIMER, WM_TIMER, PM_REMOVE))
+            threadTimer = threadTimer || msg.hwnd == NULL;
+        EXPECT_FALSE(threadTimer);
+    }
+    buddy.DestroyWindow();
+}
+
 TEST_F(ScrollBarTest, FullPageRangeDragsToTheMinimum)
 {
     Create();

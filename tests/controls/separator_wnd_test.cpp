@@ -166,6 +166,30 @@ TEST_F(SeparatorTest, ReleaseNotifiesOnceWithTheClampedScreenPosition)
     EXPECT_EQ(::GetCapture(), (HWND)NULL);
 }
 
+TEST_F(SeparatorTest, LosingTheMouseTakesTheRubberBandAwayAndNotifiesNobody)
+{
+    for (controltest::CaptureLoss loss : controltest::kCaptureLosses) {
+        SCOPED_TRACE(static_cast<int>(loss));
+        Create(CSeparatorWnd::SeparatorDirection_Horizontal);
+        recorder_.Watch(parent(), zotest::WindowRole::Parent);
+        recorder_.MatchOnlyListed(true);
+        Send(WM_LBUTTONDOWN, 10, 1);
+        Send(WM_MOUSEMOVE, 10, 21);
+        ASSERT_EQ(ParentPixel(150, 121), XorColor());
+        controltest::LoseCapture(sep_->GetSafeHwnd(), loss, parent());
+        EXPECT_EQ(ParentPixel(150, 121), controltest::kParentColor);
+        Send(WM_MOUSEMOVE, 10, 41);
+        Send(WM_LBUTTONUP, 10, 41);
+        EXPECT_EQ(ParentPixel(150, 141), controltest::kParentColor);
+        EXPECT_EQ(recorder_.Count(ZoMsg_SeparatorMoved, zotest::WindowRole::Parent), 0u);
+        ::ReleaseCapture();
+        recorder_.UnwatchAll();
+        sep_->DestroyWindow();
+        delete sep_;
+        sep_ = nullptr;
+    }
+}
+
 TEST_F(SeparatorTest, EmptyBoundaryIsRefusedAndRemovesTheLimit)
 {
     Create(CSeparatorWnd::SeparatorDirection_Vertical);

@@ -112,6 +112,20 @@ TEST_F(SpinTest, PressedHalfIsWhiteWithItsArrowUnchanged)
     EXPECT_EQ(Render().Pixel(3, 26), controltest::Slot(92));
 }
 
+TEST_F(SpinTest, LosingTheMouseDropsThePressedLook)
+{
+    for (controltest::CaptureLoss loss : controltest::kCaptureLosses) {
+        SCOPED_TRACE(static_cast<int>(loss));
+        Create(5);
+        Send(WM_LBUTTONDOWN, 10, 25, MK_LBUTTON);
+        ASSERT_EQ(Render().Pixel(3, 26), kWhite);
+        controltest::LoseCapture(spin_.GetSafeHwnd(), loss, parent());
+        EXPECT_EQ(Render().Pixel(3, 26), controltest::Slot(92));
+        ::ReleaseCapture();
+        spin_.DestroyWindow();
+    }
+}
+
 TEST_F(SpinTest, HalfAtItsRangeEndShowsNoPress)
 {
     // The platform moves the value on the press; put it back at the end before painting.

@@ -152,3 +152,22 @@ TEST(MenuColors, SystemColoursStandInWithoutTheThemeManager)
     EXPECT_EQ(MenuColor(MenuColor_Background), ::GetSysColor(COLOR_MENU));
     EXPECT_EQ(MenuColor(MenuColor_Text), ::GetSysColor(COLOR_MENUTEXT));
 }
+
+TEST(MenuItemRect, OnlyRectanglesGdiCanAddressAreDrawn)
+{
+    const struct
+    {
+        RECT rect;
+        bool drawable;
+    } cases[] = {
+        {{0, 0, 100, 20}, true},
+        {{0, 0, 0, 20}, false},
+        {{10, 0, 5, 20}, false},
+        {{INT_MIN, 0, INT_MAX, 20}, false},
+        {{0, INT_MIN, 100, INT_MAX}, false},
+        {{0, 0, 0x7FFFFFF, 1}, true},
+        {{-1, 0, 0x7FFFFFF, 1}, false},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(IsDrawableItemRect(c.rect), c.drawable) << c.rect.left << "," << c.rect.top << "," << c.rect.right;
+}

@@ -496,6 +496,45 @@ void CPopupFrameXP::_paintShadow(HDC hDC, const CRect& rc)
     }
 }
 
+// The control bars of one frame, found through its windows: a docked bar sits among the frame's
+// descendants (directly or inside a dock bar), a floating one inside a small frame window that
+// the frame owns. A bar counts when its nearest frame is that frame or is owned by it, so the
+// bars of MDI children and of nested frames stay out.
+struct ControlBarSearch
+{
+    HWND hFrame;
+    CArray<HWND, HWND>* pBars;
+};
+
+BOOL CALLBACK CollectControlBar(HWND hWnd, LPARAM lParam)
+{
+    ControlBarSearch& search = *reinterpret_cast<ControlBarSearch*>(lParam);
+    CControlBar* pBar = DYNAMIC_DOWNCAST(CControlBar, CWnd::FromHandlePermanent(hWnd));
+    CFrameWnd* pBarFrame = pBar ? pBar->GetParentFrame() : NULL;
+    const HWND hBarFrame = pBarFrame ? pBarFrame->GetSafeHwnd() : NULL;
+    if (hBarFrame && (hBarFrame == search.hFrame || ::GetWindow(hBarFrame, GW_OWNER) == search.hFrame))
+        search.pBars->Add(hWnd);
+    return TRUE;
+}
+
+BOOL CALLBACK CollectFloatingControlBars(HWND hWnd, LPARAM lParam)
+{
+    if (::GetWindow(hWnd, GW_OWNER) == reinterpret_cast<ControlBarSearch*>(lParam)->hFrame)
+        ::EnumChildWindows(hWnd, CollectControlBar, lParam);
+    return TRUE;
+}
+
+void CollectControlBars(CFrameWnd* pFrame, CArray<HWND, HWND>& bars)
+{
+    const HWND hFrame = pFrame ? pFrame->GetSafeHwnd() : NULL;
+    if (!hFrame)
+        return;
+    ControlBarSearch search = {hFrame, &bars};
+    ::EnumChildWindows(hFrame, CollectControlBar, reinterpret_cast<LPARAM>(&search));
+    ::EnumThreadWindows(::GetWindowThreadProcessId(hFrame, NULL), CollectFloatingControlBars,
+                        reinterpret_cast<LPARAM>(&search));
+}
+
 } // namespace
 
 void CMenuXP::InitializeHook()
@@ -582,7 +621,9 @@ CWnd* CMenuXP::_findToolBarFrame(CWnd* pWnd)
     if (!pWnd || !pWnd->GetSafeHwnd())
         return NULL;
     CFrameWnd* pFrame = DYNAMIC_DOWNCAST(CFrameWnd, pWnd);
-    if (!pFrame || pFrame->m_listControlBars.IsEmpty())
+    CArray<HWND, HWND> bars;
+    CollectControlBars(pFrame, bars);
+    if (bars.GetSize() == 0)
         pFrame = pWnd->GetParentFrame();
     // The toolbars of an MDI application belong to the main frame, not to its children.
     while (pFrame && pFrame->IsKindOf(RUNTIME_CLASS(CMDIChildWnd)))
@@ -595,12 +636,12 @@ void CMenuXP::_registerImage(CWnd* pFrameWnd, UINT_PTR key, bool bSubMenu, UINT 
     CFrameWnd* pFrame = DYNAMIC_DOWNCAST(CFrameWnd, pFrameWnd);
     if (!pFrame || nCommand == 0)
         return;
-    POSITION pos = pFrame->m_listControlBars.GetHeadPosition();
-    while (pos) {
-        CControlBar* pBar = static_cast<CControlBar*>(pFrame->m_listControlBars.GetNext(pos));
-        const HWND hBar = pBar ? pBar->GetSafeHwnd() : NULL;
+    CArray<HWND, HWND> bars;
+    CollectControlBars(pFrame, bars);
+    for (INT_PTR i = 0; i < bars.GetSize(); ++i) {
+        const HWND hBar = bars[i];
         wchar_t name[32] = {0};
-        if (!hBar || !::GetClassNameW(hBar, name, 32) || lstrcmpiW(name, TOOLBARCLASSNAMEW) != 0)
+        if (!::GetClassNameW(hBar, name, 32) || lstrcmpiW(name, TOOLBARCLASSNAMEW) != 0)
             continue;
         TBBUTTONINFOW button;
         ZeroMemory(&button, sizeof(button));

@@ -1,7 +1,11 @@
 // PNG skin pictures composed once per state over background colours, and their shared store.
 #include <afxwin.h>
+#include <afxext.h>
+#include <afxcmn.h>
 #include <afxtempl.h>
-#include <afxtoolbarimages.h>
+// CPngImage lives in <afxtoolbarimages.h>, which expects the rest of MFC's control-bar support
+// before it; the umbrella header brings it in that order, as a wizard-made MFC project does.
+#include <afxcontrolbars.h>
 
 #include "core/ZoThemeManager.h"
 #include "ZoImageDC.h"

@@ -26,13 +26,29 @@ template <class T> inline void Pin(T) {}
 
 inline void UseCoreTypes(CObject* object, CString& text)
 {
+    Pin<int (CString::*)(wchar_t, int) const>(&CString::Find);
+    Pin<int (CString::*)(wchar_t) const>(&CString::ReverseFind);
+    Pin<CString (CString::*)(int) const>(&CString::Left);
+    Pin<CString (CString::*)(int) const>(&CString::Mid);
+    Pin<void (CString::*)()>(&CString::Empty);
+
     (void)object->IsKindOf(RUNTIME_CLASS(CWnd));
     (void)object->GetRuntimeClass();
+    (void)DYNAMIC_DOWNCAST(CWnd, object);
     text.Format(L"%d%%", 5);
     text.LoadString(811);
     (void)text.Compare(L"a");
     (void)text.CompareNoCase(L"a");
     (void)text.Find(L"a");
+    int at = text.Find(L'.', 0);
+    at = text.ReverseFind(L'\\');
+    CString left = text.Left(at);
+    CString rest = text.Mid(at + 1);
+    text.Empty();
+    text += L"x";
+    CString copy(left);
+    copy = rest;
+    copy = L"y";
     (void)text.GetLength();
     (void)text.IsEmpty();
     text.MakeLower();
@@ -44,8 +60,29 @@ inline void UseCoreTypes(CObject* object, CString& text)
     LPCWSTR raw = text;
     (void)raw;
     CString joined = text + L"  " + CString(L"x");
+    joined = L"(" + joined;
     CString piece;
     (void)AfxExtractSubString(piece, joined, 1, L',');
+
+    Pin<int (CRect::*)() const>(&CRect::Width);
+    Pin<int (CRect::*)() const>(&CRect::Height);
+    Pin<CSize (CRect::*)() const>(&CRect::Size);
+    Pin<CPoint& (CRect::*)()>(&CRect::TopLeft);
+    Pin<const CPoint& (CRect::*)() const>(&CRect::TopLeft);
+    Pin<BOOL (CRect::*)() const>(&CRect::IsRectEmpty);
+    Pin<BOOL (CRect::*)(POINT) const>(&CRect::PtInRect);
+    Pin<void (CRect::*)()>(&CRect::NormalizeRect);
+    Pin<void (CRect::*)()>(&CRect::SetRectEmpty);
+    Pin<void (CRect::*)()>(&CRect::SwapLeftRight);
+    Pin<void (CRect::*)(int, int)>(&CRect::DeflateRect);
+    Pin<void (CRect::*)(int, int)>(&CRect::InflateRect);
+    Pin<void (CRect::*)(int, int)>(&CRect::OffsetRect);
+    Pin<void (CRect::*)(POINT)>(&CRect::OffsetRect);
+    Pin<void (CRect::*)(SIZE)>(&CRect::OffsetRect);
+    Pin<void (CRect::*)(const RECT&)>(&CRect::operator=);
+    Pin<BOOL (CRect::*)(const RECT&) const>(&CRect::operator==);
+    Pin<CSize (CPoint::*)(POINT) const>(&CPoint::operator-);
+    Pin<BOOL (CSize::*)(SIZE) const>(&CSize::operator==);
 
     CRect rect(0, 0, 10, 10);
     rect.DeflateRect(1, 1);
@@ -59,6 +96,26 @@ inline void UseCoreTypes(CObject* object, CString& text)
     CSize size(1, 2);
     CPoint point(3, 4);
     (void)(point + size);
+    CPoint origin;
+    CSize offset = point - origin;
+    (void)(offset == size);
+    CRect placed(point, size);
+    placed.OffsetRect(point);
+    placed.OffsetRect(size);
+    placed.NormalizeRect();
+    placed.SwapLeftRight();
+    placed.TopLeft() = origin;
+    (void)rect.TopLeft();
+    (void)rect.Size();
+    RECT plain = { 0, 0, 1, 1 };
+    CRect fromPlain(plain);
+    fromPlain = plain;
+    (void)(fromPlain == plain);
+    fromPlain.SetRectEmpty();
+    LPRECT writable = fromPlain;
+    LPCRECT readable = static_cast<const CRect&>(fromPlain);
+    (void)writable;
+    (void)readable;
 }
 
 // ---------------------------------------------------------------------------------------
@@ -129,6 +186,56 @@ inline void UseFilesAndCollections(CFile* file, CList<CWnd*, CWnd*>& windows)
     colours.SetSize(0);
     colours.RemoveAll();
 
+    // Arrays and maps of plain values and handles (menu items, popup frames, PNG pictures).
+    CArray<int, int> positions;
+    (void)positions.Add(1);
+    int& position = positions[0];
+    (void)position;
+    CArray<bool, bool> flags;
+    (void)flags.Add(true);
+    const bool flag = flags[0];
+    (void)flag;
+    CArray<UINT_PTR, UINT_PTR> keys;
+    (void)keys.Add(UINT_PTR(1));
+    for (INT_PTR i = 0; i < keys.GetSize(); ++i)
+        (void)keys[i];
+    keys.RemoveAll();
+    CArray<HWND, HWND> handles;
+    (void)handles.Add(HWND(NULL));
+    (void)handles.GetSize();
+
+    CMap<HWND, HWND, SurfaceValue*, SurfaceValue*> byWindow;
+    SurfaceValue* found = NULL;
+    byWindow.SetAt(HWND(NULL), &value);
+    (void)byWindow.Lookup(HWND(NULL), found);
+    (void)byWindow.RemoveKey(HWND(NULL));
+    pos = byWindow.GetStartPosition();
+    while (pos) {
+        HWND key;
+        byWindow.GetNextAssoc(pos, key, found);
+    }
+    byWindow.RemoveAll();
+    CMap<HBITMAP, HBITMAP, SurfaceValue, SurfaceValue&> byBitmap;
+    byBitmap.InitHashTable(17);
+    byBitmap.SetAt(HBITMAP(NULL), value);
+    (void)byBitmap.Lookup(HBITMAP(NULL), value);
+    (void)byBitmap.RemoveKey(HBITMAP(NULL));
+    pos = byBitmap.GetStartPosition();
+    while (pos) {
+        HBITMAP key;
+        byBitmap.GetNextAssoc(pos, key, value);
+    }
+    byBitmap.RemoveAll();
+    CMap<UINT_PTR, UINT_PTR, SurfaceValue, const SurfaceValue&> byItem;
+    byItem.SetAt(UINT_PTR(1), value);
+    (void)byItem.Lookup(UINT_PTR(1), value);
+    (void)byItem.RemoveKey(UINT_PTR(1));
+    pos = byItem.GetStartPosition();
+    while (pos) {
+        UINT_PTR key;
+        byItem.GetNextAssoc(pos, key, value);
+    }
+
     CStringArray texts;
     texts.SetAtGrow(3, L"x");
     (void)texts.GetSize();
@@ -187,6 +294,38 @@ public:
 
 inline void UseDrawing(CWnd* wnd, CDC& dc, HBITMAP bitmap)
 {
+    Pin<BOOL (CDC::*)(int, int, int, int, CDC*, int, int, int, int, BLENDFUNCTION)>(&CDC::AlphaBlend);
+    Pin<BOOL (CDC::*)(int, int, int, int, CDC*, int, int, int, int, UINT)>(&CDC::TransparentBlt);
+    Pin<BOOL (CDC::*)(int, int, int, int, CDC*, int, int, DWORD)>(&CDC::BitBlt);
+    Pin<int (CDC::*)() const>(&CDC::GetBkMode);
+    Pin<int (CDC::*)(int)>(&CDC::SetBkMode);
+    Pin<CSize (CDC::*)(LPCTSTR, int) const>(&CDC::GetTextExtent);
+    Pin<CSize (CDC::*)(const CString&) const>(&CDC::GetTextExtent);
+    Pin<CPoint (CDC::*)(int, int)>(&CDC::MoveTo);
+    Pin<CPoint (CDC::*)(POINT)>(&CDC::MoveTo);
+    Pin<BOOL (CDC::*)(int, int)>(&CDC::LineTo);
+    Pin<BOOL (CDC::*)(POINT)>(&CDC::LineTo);
+    Pin<COLORREF (CDC::*)(int, int) const>(&CDC::GetPixel);
+    Pin<COLORREF (CDC::*)(int, int, COLORREF)>(&CDC::SetPixel);
+    Pin<BOOL (CDC::*)(int, int, int, int)>(&CDC::Rectangle);
+    Pin<BOOL (CDC::*)(int, int, int, int)>(&CDC::Ellipse);
+    Pin<BOOL (CDC::*)(CRgn*, CBrush*)>(&CDC::FillRgn);
+    Pin<void (CDC::*)(LPCRECT, COLORREF)>(&CDC::FillSolidRect);
+    Pin<void (CDC::*)(int, int, int, int, COLORREF)>(&CDC::FillSolidRect);
+    Pin<void (CDC::*)(LPCRECT, COLORREF, COLORREF)>(&CDC::Draw3dRect);
+    Pin<int (CDC::*)(const CString&, LPRECT, UINT)>(&CDC::DrawText);
+    Pin<BOOL (CDC::*)(int, int, const CString&)>(&CDC::TextOut);
+    Pin<int (CDC::*)(LPRECT) const>(&CDC::GetClipBox);
+    Pin<CPen* (CDC::*)(CPen*)>(&CDC::SelectObject);
+    Pin<CFont* (CDC::*)(CFont*)>(&CDC::SelectObject);
+    Pin<int (CFont::*)(LOGFONT*)>(&CFont::GetLogFont);
+    Pin<BOOL (CGdiObject::*)(HGDIOBJ)>(&CGdiObject::Attach);
+    Pin<HGDIOBJ (CGdiObject::*)()>(&CGdiObject::Detach);
+    Pin<BOOL (CRgn::*)(LPPOINT, int, int)>(&CRgn::CreatePolygonRgn);
+    Pin<int (CRgn::*)(CRgn*, CRgn*, int)>(&CRgn::CombineRgn);
+    Pin<int (CRgn::*)(CRgn*)>(&CRgn::CopyRgn);
+    Pin<BOOL (CRgn::*)(CRgn*) const>(&CRgn::EqualRgn);
+
     CDC memory;
     (void)memory.CreateCompatibleDC(&dc);
     (void)memory.Attach(::CreateCompatibleDC(dc.GetSafeHdc()));
@@ -221,7 +360,15 @@ inline void UseDrawing(CWnd* wnd, CDC& dc, HBITMAP bitmap)
     (void)dc.SetStretchBltMode(COLORONCOLOR);
     (void)dc.MoveTo(0, 0);
     (void)dc.LineTo(1, 1);
+    (void)dc.MoveTo(CPoint(0, 0));
+    (void)dc.LineTo(CPoint(1, 1));
     (void)dc.Rectangle(&rect);
+    (void)dc.Rectangle(0, 0, 4, 4);
+    (void)dc.GetBkMode();
+    (void)dc.GetTextExtent(L"Hy", 2);
+    BLENDFUNCTION blend = { AC_SRC_OVER, 0, 255, AC_SRC_ALPHA };
+    (void)dc.AlphaBlend(0, 0, 10, 10, &memory, 0, 0, 10, 10, blend);
+    (void)dc.TransparentBlt(0, 0, 10, 10, &memory, 0, 0, 10, 10, RGB(255, 0, 255));
     (void)dc.Ellipse(0, 0, 4, 4);
     (void)dc.GetPixel(0, 0);
     (void)dc.SetPixel(0, 0, RGB(1, 2, 3));
@@ -259,6 +406,10 @@ inline void UseDrawing(CWnd* wnd, CDC& dc, HBITMAP bitmap)
     CRgn arrow;
     (void)arrow.CreatePolygonRgn(triangle, 3, ALTERNATE);
     (void)dc.FillRgn(&arrow, &brush);
+    CBrush solid(RGB(1, 2, 3));
+    (void)dc.FillRgn(&arrow, &solid);
+    (void)region.CopyRgn(&other);
+    (void)region.EqualRgn(&other);
     (void)dc.SelectClipRgn(&region);
     (void)region.GetSafeHandle();
 
@@ -363,6 +514,8 @@ protected:
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor) { return CWnd::OnCtlColor(pDC, pWnd, nCtlColor); }
     afx_msg void OnHeaderItemClick(NMHDR*, LRESULT* pResult) { *pResult = 0; }
     afx_msg void OnCheckClicked() { (void)Default(); }
+    afx_msg void OnCaptureChanged(CWnd* pWnd) { CWnd::OnCaptureChanged(pWnd); }
+    afx_msg void OnCancelMode() { CWnd::OnCancelMode(); }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -406,6 +559,8 @@ BEGIN_MESSAGE_MAP(SurfaceWnd, CWnd)
     ON_WM_SHOWWINDOW()
     ON_WM_SETCURSOR()
     ON_WM_CTLCOLOR()
+    ON_WM_CAPTURECHANGED()
+    ON_WM_CANCELMODE()
     ON_NOTIFY(HDN_ITEMCLICKW, 0, &SurfaceWnd::OnHeaderItemClick)
     ON_BN_CLICKED(805, &SurfaceWnd::OnCheckClicked)
 END_MESSAGE_MAP()
@@ -423,6 +578,28 @@ inline void UseWindow(CWnd* wnd, CWnd* parent)
     Pin<HWND (CWnd::*)()>(&CWnd::UnsubclassWindow);
     Pin<BOOL (CWnd::*)(UINT, CWnd*)>(&CWnd::SubclassDlgItem);
     Pin<int (CWnd::*)() const>(&CWnd::GetDlgCtrlID);
+    Pin<LRESULT (CWnd::*)(UINT, WPARAM, LPARAM)>(&CWnd::SendMessage);
+    Pin<BOOL (CWnd::*)(UINT, WPARAM, LPARAM)>(&CWnd::PostMessage);
+    Pin<CWnd* (CWnd::*)()>(&CWnd::SetCapture);
+    Pin<CWnd* (PASCAL*)()>(&CWnd::GetCapture);
+    Pin<void (CWnd::*)(CWnd*, LPPOINT, UINT) const>(&CWnd::MapWindowPoints);
+    Pin<void (CWnd::*)(CWnd*, LPRECT) const>(&CWnd::MapWindowPoints);
+    Pin<void (CWnd::*)(LPRECT) const>(&CWnd::GetClientRect);
+    Pin<void (CWnd::*)(LPRECT) const>(&CWnd::GetWindowRect);
+    Pin<void (CWnd::*)(LPPOINT) const>(&CWnd::ClientToScreen);
+    Pin<void (CWnd::*)(LPRECT) const>(&CWnd::ClientToScreen);
+    Pin<void (CWnd::*)(LPPOINT) const>(&CWnd::ScreenToClient);
+    Pin<void (CWnd::*)(LPRECT) const>(&CWnd::ScreenToClient);
+    Pin<void (CWnd::*)(CString&) const>(&CWnd::GetWindowText);
+    Pin<CWnd* (CWnd::*)() const>(&CWnd::GetParent);
+    Pin<CFrameWnd* (CWnd::*)() const>(&CWnd::GetParentFrame);
+    Pin<CFont* (CWnd::*)() const>(&CWnd::GetFont);
+    Pin<CMenu* (CWnd::*)(BOOL) const>(&CWnd::GetSystemMenu);
+    Pin<BOOL (CWnd::*)() const>(&CWnd::IsWindowEnabled);
+    Pin<void (CWnd::*)(BOOL)>(&CWnd::Invalidate);
+    Pin<BOOL (CWnd::*)(LPCRECT, CRgn*, UINT)>(&CWnd::RedrawWindow);
+    Pin<UINT_PTR (CWnd::*)(UINT_PTR, UINT, void (CALLBACK*)(HWND, UINT, UINT_PTR, DWORD))>(&CWnd::SetTimer);
+    Pin<BOOL (CWnd::*)(UINT_PTR)>(&CWnd::KillTimer);
 
     HWND hwnd = wnd->m_hWnd;
     (void)CWnd::FromHandle(::GetParent(hwnd));
@@ -457,6 +634,9 @@ inline void UseWindow(CWnd* wnd, CWnd* parent)
     wnd->GetWindowText(text);
     (void)wnd->GetWindowTextLength();
     wnd->MapWindowPoints(parent, &rect);
+    wnd->MapWindowPoints(parent, &point, 1);
+    (void)wnd->SetCapture();
+    (void)CWnd::GetCapture();
     wnd->SetWindowText(L"Dialog");
     (void)wnd->SetFocus();
     (void)CWnd::GetFocus();
@@ -491,6 +671,118 @@ inline void UseWindow(CWnd* wnd, CWnd* parent)
     (void)wnd->IsKindOf(RUNTIME_CLASS(CWnd));
     (void)wnd->DestroyWindow();
 }
+
+// ---------------------------------------------------------------------------------------
+// self-drawn windows: classes with a second, abstract base beside their MFC base, and a
+// template over the MFC class that adds no message map, so that the message maps of the
+// classes derived from it name the MFC class (or the themed window) as their base
+
+class SurfaceUIMixin
+{
+public:
+    virtual int GetTheme() const = 0;
+protected:
+    ~SurfaceUIMixin() {}
+};
+
+class SurfacePaintMixin
+{
+public:
+    virtual void DrawClient(CDC& dc) = 0;
+protected:
+    ~SurfacePaintMixin() {}
+};
+
+template <class TBase>
+class SurfacePainted : public TBase, public SurfacePaintMixin
+{
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_PRINTCLIENT) {
+            CDC* dc = CDC::FromHandle(reinterpret_cast<HDC>(wParam));
+            DrawClient(*dc);
+            return 0;
+        }
+        return TBase::WindowProc(message, wParam, lParam);
+    }
+};
+
+class SurfaceThemedWnd : public CWnd, public SurfaceUIMixin
+{
+    DECLARE_DYNAMIC(SurfaceThemedWnd)
+public:
+    int GetTheme() const override { return 0; }
+protected:
+    afx_msg LRESULT OnMsgGetCurrentZoTheme(WPARAM, LPARAM) { return GetTheme(); }
+    afx_msg void OnSize(UINT nType, int cx, int cy) { CWnd::OnSize(nType, cx, cy); }
+    DECLARE_MESSAGE_MAP()
+};
+
+IMPLEMENT_DYNAMIC(SurfaceThemedWnd, CWnd)
+
+BEGIN_MESSAGE_MAP(SurfaceThemedWnd, CWnd)
+    ON_MESSAGE(WM_APP + 2, &SurfaceThemedWnd::OnMsgGetCurrentZoTheme)
+    ON_WM_SIZE()
+END_MESSAGE_MAP()
+
+class SurfaceSeparator : public SurfacePainted<SurfaceThemedWnd>
+{
+    DECLARE_DYNAMIC(SurfaceSeparator)
+public:
+    void DrawClient(CDC&) override {}
+protected:
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point) { SurfaceThemedWnd::OnLButtonDown(nFlags, point); }
+    afx_msg void OnCaptureChanged(CWnd* pWnd) { SurfaceThemedWnd::OnCaptureChanged(pWnd); }
+    afx_msg void OnCancelMode() { SurfaceThemedWnd::OnCancelMode(); }
+    DECLARE_MESSAGE_MAP()
+};
+
+IMPLEMENT_DYNAMIC(SurfaceSeparator, SurfaceThemedWnd)
+
+BEGIN_MESSAGE_MAP(SurfaceSeparator, SurfaceThemedWnd)
+    ON_WM_LBUTTONDOWN()
+    ON_WM_CAPTURECHANGED()
+    ON_WM_CANCELMODE()
+END_MESSAGE_MAP()
+
+class SurfacePaintedButton : public SurfacePainted<CButton>
+{
+    DECLARE_DYNAMIC(SurfacePaintedButton)
+public:
+    void DrawClient(CDC&) override {}
+protected:
+    afx_msg void OnMouseMove(UINT nFlags, CPoint point) { CButton::OnMouseMove(nFlags, point); }
+    afx_msg void OnMouseLeave() { CButton::OnMouseLeave(); }
+    afx_msg void OnCaptureChanged(CWnd* pWnd) { CButton::OnCaptureChanged(pWnd); }
+    DECLARE_MESSAGE_MAP()
+};
+
+IMPLEMENT_DYNAMIC(SurfacePaintedButton, CButton)
+
+BEGIN_MESSAGE_MAP(SurfacePaintedButton, CButton)
+    ON_WM_MOUSEMOVE()
+    ON_WM_MOUSELEAVE()
+    ON_WM_CAPTURECHANGED()
+END_MESSAGE_MAP()
+
+class SurfacePaintedSpin : public SurfacePainted<CSpinButtonCtrl>
+{
+    DECLARE_DYNAMIC(SurfacePaintedSpin)
+public:
+    void DrawClient(CDC&) override {}
+protected:
+    afx_msg void OnCaptureChanged(CWnd* pWnd) { CSpinButtonCtrl::OnCaptureChanged(pWnd); }
+    afx_msg void OnCancelMode() { CSpinButtonCtrl::OnCancelMode(); }
+    DECLARE_MESSAGE_MAP()
+};
+
+IMPLEMENT_DYNAMIC(SurfacePaintedSpin, CSpinButtonCtrl)
+
+BEGIN_MESSAGE_MAP(SurfacePaintedSpin, CSpinButtonCtrl)
+    ON_WM_CAPTURECHANGED()
+    ON_WM_CANCELMODE()
+END_MESSAGE_MAP()
 
 // ---------------------------------------------------------------------------------------
 // menus (owner-drawn menus, range-slider reset menu)
@@ -560,6 +852,9 @@ inline void UseButtons(CButton& button, CToolTipCtrl& tip, CWnd* parent)
     Pin<void (CButton::*)(UINT, BOOL)>(&CButton::SetButtonStyle);
     Pin<HBITMAP (CButton::*)() const>(&CButton::GetBitmap);
     Pin<HICON (CButton::*)() const>(&CButton::GetIcon);
+    Pin<BOOL (CButton::*)(SIZE*)>(&CButton::GetIdealSize);
+    Pin<BOOL (CButton::*)(PBUTTON_IMAGELIST)>(&CButton::GetImageList);
+    Pin<BOOL (CButton::*)(RECT*)>(&CButton::GetTextMargin);
 
     (void)button.Create(L"OK", WS_CHILD | BS_PUSHBUTTON, CRect(0, 0, 10, 10), parent, 802);
     (void)button.GetState();
@@ -596,6 +891,12 @@ inline void UseStaticsAndIndicators(CStatic& label, CProgressCtrl& progress, CSp
     (void)label.GetIcon();
     (void)label.SetIcon(nullptr);
 
+    Pin<int (CProgressCtrl::*)()>(&CProgressCtrl::GetPos);
+    Pin<void (CProgressCtrl::*)(int&, int&)>(&CProgressCtrl::GetRange);
+    Pin<int (CSpinButtonCtrl::*)() const>(&CSpinButtonCtrl::GetPos);
+    Pin<void (CSpinButtonCtrl::*)(int&, int&) const>(&CSpinButtonCtrl::GetRange);
+    Pin<void (CSpinButtonCtrl::*)(int&, int&) const>(&CSpinButtonCtrl::GetRange32);
+
     (void)progress.Create(WS_CHILD | PBS_VERTICAL, CRect(0, 0, 10, 10), parent, 1);
     int low = 0, high = 0;
     progress.GetRange(low, high);
@@ -605,6 +906,7 @@ inline void UseStaticsAndIndicators(CStatic& label, CProgressCtrl& progress, CSp
 
     (void)spin.Create(WS_CHILD | UDS_HORZ, CRect(0, 0, 10, 10), parent, 2);
     spin.GetRange32(low, high);
+    spin.GetRange(low, high);
     spin.SetRange32(0, 10);
     (void)spin.GetPos();
     (void)spin.GetPos32();
@@ -849,6 +1151,7 @@ inline void UseLists(CListCtrl& list, CHeaderCtrl& header, CTreeCtrl& tree, CWnd
     Pin<DWORD_PTR (CListCtrl::*)(int) const>(&CListCtrl::GetItemData);
     Pin<BOOL (CListCtrl::*)(int, DWORD_PTR)>(&CListCtrl::SetItemData);
     Pin<int (CListCtrl::*)() const>(&CListCtrl::GetItemCount);
+    Pin<BOOL (CListCtrl::*)(int, int, int, CRect&)>(&CListCtrl::GetSubItemRect);
 
     (void)list.Create(WS_CHILD | LVS_REPORT, CRect(0, 0, 100, 100), parent, 7);
     (void)list.InsertColumn(0, L"Name", LVCFMT_LEFT, 80);
@@ -974,11 +1277,11 @@ inline void UseFrames(CWnd* wnd)
     CFrameWnd* frame = wnd->GetParentFrame();
     (void)frame->IsKindOf(RUNTIME_CLASS(CMDIChildWnd));
     (void)frame->GetActiveFrame();
-    POSITION pos = frame->m_listControlBars.GetHeadPosition();
-    while (pos) {
-        CControlBar* bar = static_cast<CControlBar*>(frame->m_listControlBars.GetNext(pos));
+    // A frame's control bars are found through its windows (the bar list is not documented).
+    CWnd* child = CWnd::FromHandlePermanent(::GetWindow(frame->GetSafeHwnd(), GW_CHILD));
+    CControlBar* bar = DYNAMIC_DOWNCAST(CControlBar, child);
+    if (bar != NULL && bar->GetParentFrame() == frame)
         (void)bar->GetSafeHwnd();
-    }
     (void)frame->LoadFrame(1, WS_OVERLAPPEDWINDOW, nullptr, nullptr);
     (void)frame->Create(nullptr, L"Frame");
     frame->RecalcLayout(FALSE);

@@ -194,7 +194,7 @@ public:
 
     // Geometry and hit-testing
     BOOL GetItemRect(int nItem, LPRECT lpRect, UINT nCode) const;
-    BOOL GetSubItemRect(int iItem, int iSubItem, int nArea, CRect& ref) const;
+    BOOL GetSubItemRect(int iItem, int iSubItem, int nArea, CRect& ref);
     BOOL GetItemPosition(int nItem, LPPOINT lpPoint) const
     { return (BOOL)::SendMessageW(m_hWnd, LVM_GETITEMPOSITION, nItem, (LPARAM)lpPoint); }
     BOOL SetItemPosition(int nItem, POINT pt)
@@ -281,8 +281,8 @@ public:
 
     void SetRange(short nLower, short nUpper) { ::SendMessageW(m_hWnd, PBM_SETRANGE, 0, MAKELPARAM(nLower, nUpper)); }
     void SetRange32(int nLower, int nUpper) { ::SendMessageW(m_hWnd, PBM_SETRANGE32, nLower, nUpper); }
-    void GetRange(int& nLower, int& nUpper) const;
-    int GetPos() const { return (int)::SendMessageW(m_hWnd, PBM_GETPOS, 0, 0); }
+    void GetRange(int& nLower, int& nUpper);
+    int GetPos() { return (int)::SendMessageW(m_hWnd, PBM_GETPOS, 0, 0); }
     int SetPos(int nPos) { return (int)::SendMessageW(m_hWnd, PBM_SETPOS, nPos, 0); }
     int OffsetPos(int nPos) { return (int)::SendMessageW(m_hWnd, PBM_DELTAPOS, nPos, 0); }
     int SetStep(int nStep) { return (int)::SendMessageW(m_hWnd, PBM_SETSTEP, nStep, 0); }

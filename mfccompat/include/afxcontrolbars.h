@@ -2,4 +2,7 @@
 // commonly reach CPngImage.
 #pragma once
 #include <afxwin.h>
+#include <afxext.h>
+#include <afxcmn.h>
+#define ZOAFX_CONTROLBARS_H
 #include <afxtoolbarimages.h>

@@ -5,7 +5,14 @@
 // PixelFormat32bppARGB; MFC premultiplies in a separate step of its toolbar images
 // (CMFCToolBarImages::PreMultiplyAlpha), so a loaded CPngImage is straight there too.
 // Blending such a bitmap with AlphaBlend and AC_SRC_ALPHA needs the colours premultiplied.
+//
+// MFC's own afxtoolbarimages.h does not compile on its own: it needs the control-bar support
+// that <afxcontrolbars.h> gathers first. This one refuses the same way, so that a source which
+// would break the first Visual Studio build breaks ours too.
 #pragma once
+#ifndef ZOAFX_CONTROLBARS_H
+#error Include <afxcontrolbars.h>, which brings <afxtoolbarimages.h> with what it needs.
+#endif
 #include <afxwin.h>
 
 class ZOAFX_API CPngImage : public CBitmap

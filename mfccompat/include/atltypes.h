@@ -134,7 +134,7 @@ public:
     BOOL SubtractRect(LPCRECT lpRectSrc1, LPCRECT lpRectSrc2) throw()
     { return ::SubtractRect(this, lpRectSrc1, lpRectSrc2); }
 
-    CRect& operator=(const RECT& srcRect) throw() { ::CopyRect(this, &srcRect); return *this; }
+    void operator=(const RECT& srcRect) throw() { ::CopyRect(this, &srcRect); }
     BOOL operator==(const RECT& rect) const throw() { return ::EqualRect(this, &rect); }
     BOOL operator!=(const RECT& rect) const throw() { return !::EqualRect(this, &rect); }
     void operator+=(POINT point) throw() { OffsetRect(point); }

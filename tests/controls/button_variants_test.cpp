@@ -12,7 +12,7 @@ namespace {
 class VariantTest : public controltest::ControlTest
 {
 protected:
-    static RECT Margins(const CButton& button)
+    static RECT Margins(CButton& button)
     {
         RECT margin = {-1, -1, -1, -1};
         button.SendMessage(BCM_GETTEXTMARGIN, 0, reinterpret_cast<LPARAM>(&margin));

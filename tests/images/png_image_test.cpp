@@ -3,7 +3,7 @@
 // groups, release and recomposition, composing over the screen, and the library's lifetime.
 #include "image_test_support.h"
 
-#include <afxtoolbarimages.h>
+#include <afxcontrolbars.h>
 
 #include "ZoLibrary.h"
 #include "core/ZoThemeManager.h"

@@ -55,13 +55,13 @@ public:
     HCURSOR SetCursor(HCURSOR hCursor)
     { return (HCURSOR)::SendMessageW(m_hWnd, BM_SETIMAGE, IMAGE_CURSOR, (LPARAM)hCursor); }
     HCURSOR GetCursor() { return (HCURSOR)::SendMessageW(m_hWnd, BM_GETIMAGE, IMAGE_CURSOR, 0); }
-    BOOL GetIdealSize(SIZE* psize) const { return (BOOL)::SendMessageW(m_hWnd, BCM_GETIDEALSIZE, 0, (LPARAM)psize); }
+    BOOL GetIdealSize(SIZE* psize) { return (BOOL)::SendMessageW(m_hWnd, BCM_GETIDEALSIZE, 0, (LPARAM)psize); }
     BOOL SetImageList(PBUTTON_IMAGELIST pbuttonImagelist)
     { return (BOOL)::SendMessageW(m_hWnd, BCM_SETIMAGELIST, 0, (LPARAM)pbuttonImagelist); }
-    BOOL GetImageList(PBUTTON_IMAGELIST pbuttonImagelist) const
+    BOOL GetImageList(PBUTTON_IMAGELIST pbuttonImagelist)
     { return (BOOL)::SendMessageW(m_hWnd, BCM_GETIMAGELIST, 0, (LPARAM)pbuttonImagelist); }
     BOOL SetTextMargin(RECT* pmargin) { return (BOOL)::SendMessageW(m_hWnd, BCM_SETTEXTMARGIN, 0, (LPARAM)pmargin); }
-    BOOL GetTextMargin(RECT* pmargin) const
+    BOOL GetTextMargin(RECT* pmargin)
     { return (BOOL)::SendMessageW(m_hWnd, BCM_GETTEXTMARGIN, 0, (LPARAM)pmargin); }
 
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);

@@ -224,9 +224,9 @@ public:
 
     void SetRectRgn(int x1, int y1, int x2, int y2);
     void SetRectRgn(LPCRECT lpRect);
-    int CombineRgn(const CRgn* pRgn1, const CRgn* pRgn2, int nCombineMode);
-    int CopyRgn(const CRgn* pRgnSrc);
-    BOOL EqualRgn(const CRgn* pRgn) const;
+    int CombineRgn(CRgn* pRgn1, CRgn* pRgn2, int nCombineMode);
+    int CopyRgn(CRgn* pRgnSrc);
+    BOOL EqualRgn(CRgn* pRgn) const;
     int OffsetRgn(int x, int y);
     int OffsetRgn(POINT point);
     int GetRgnBox(LPRECT lpRect) const;

@@ -212,9 +212,9 @@ public:
     int RunModalLoop(DWORD dwFlags = 0);
 
     // Messages
-    LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
-    BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
-    BOOL SendNotifyMessage(UINT message, WPARAM wParam, LPARAM lParam) const;
+    LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+    BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+    BOOL SendNotifyMessage(UINT message, WPARAM wParam, LPARAM lParam);
     void SendMessageToDescendants(UINT message, WPARAM wParam = 0, LPARAM lParam = 0,
                                   BOOL bDeep = TRUE, BOOL bOnlyPerm = FALSE);
 

@@ -414,7 +414,7 @@ BOOL CListCtrl::GetItemRect(int nItem, LPRECT lpRect, UINT nCode) const
     return (BOOL)::SendMessageW(m_hWnd, LVM_GETITEMRECT, nItem, (LPARAM)lpRect);
 }
 
-BOOL CListCtrl::GetSubItemRect(int iItem, int iSubItem, int nArea, CRect& ref) const
+BOOL CListCtrl::GetSubItemRect(int iItem, int iSubItem, int nArea, CRect& ref)
 {
     ref.top = iSubItem;
     ref.left = nArea;
@@ -472,7 +472,7 @@ CWnd* CSliderCtrl::SetBuddy(CWnd* pWndBuddy, BOOL fLocation)
 
 ZOAFX_IMPLEMENT_COMMON_CONTROL(CProgressCtrl, PROGRESS_CLASSW)
 
-void CProgressCtrl::GetRange(int& nLower, int& nUpper) const
+void CProgressCtrl::GetRange(int& nLower, int& nUpper)
 {
     PBRANGE range = { 0, 0 };
     ::SendMessageW(m_hWnd, PBM_GETRANGE, TRUE, (LPARAM)&range);

@@ -531,7 +531,7 @@ void CRgn::SetRectRgn(LPCRECT lpRect)
         SetRectRgn(lpRect->left, lpRect->top, lpRect->right, lpRect->bottom);
 }
 
-int CRgn::CombineRgn(const CRgn* pRgn1, const CRgn* pRgn2, int nCombineMode)
+int CRgn::CombineRgn(CRgn* pRgn1, CRgn* pRgn2, int nCombineMode)
 {
     if (m_hObject == NULL || pRgn1 == NULL)
         return ERROR;
@@ -539,14 +539,14 @@ int CRgn::CombineRgn(const CRgn* pRgn1, const CRgn* pRgn2, int nCombineMode)
                         (HRGN)pRgn2->GetSafeHandle(), nCombineMode);
 }
 
-int CRgn::CopyRgn(const CRgn* pRgnSrc)
+int CRgn::CopyRgn(CRgn* pRgnSrc)
 {
     if (m_hObject == NULL || pRgnSrc == NULL)
         return ERROR;
     return ::CombineRgn((HRGN)m_hObject, (HRGN)pRgnSrc->m_hObject, NULL, RGN_COPY);
 }
 
-BOOL CRgn::EqualRgn(const CRgn* pRgn) const
+BOOL CRgn::EqualRgn(CRgn* pRgn) const
 {
     if (m_hObject == NULL || pRgn == NULL)
         return FALSE;

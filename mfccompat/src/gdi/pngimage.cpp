@@ -3,7 +3,7 @@
 // GDI+ is the decoder MFC itself relies on, so colours and alpha come out the same. Hosts
 // usually start GDI+ themselves, but a load must also work without that: every decode holds
 // its own GdiplusStartup token, which GDI+ counts alongside the host's.
-#include <afxtoolbarimages.h>
+#include <afxcontrolbars.h>
 #include <objidl.h>
 #include <gdiplus.h>
 

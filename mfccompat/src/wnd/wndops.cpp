@@ -29,17 +29,17 @@ BOOL ModifyLong(HWND hWnd, int nIndex, DWORD dwRemove, DWORD dwAdd, UINT nFlags)
 /////////////////////////////////////////////////////////////////////////////
 // Messages
 
-LRESULT CWnd::SendMessage(UINT message, WPARAM wParam, LPARAM lParam) const
+LRESULT CWnd::SendMessage(UINT message, WPARAM wParam, LPARAM lParam)
 {
     return ::SendMessageW(m_hWnd, message, wParam, lParam);
 }
 
-BOOL CWnd::PostMessage(UINT message, WPARAM wParam, LPARAM lParam) const
+BOOL CWnd::PostMessage(UINT message, WPARAM wParam, LPARAM lParam)
 {
     return ::PostMessageW(m_hWnd, message, wParam, lParam);
 }
 
-BOOL CWnd::SendNotifyMessage(UINT message, WPARAM wParam, LPARAM lParam) const
+BOOL CWnd::SendNotifyMessage(UINT message, WPARAM wParam, LPARAM lParam)
 {
     return ::SendNotifyMessageW(m_hWnd, message, wParam, lParam);
 }

@@ -39,13 +39,16 @@ protected:
     HWND pane = nullptr;
 };
 
-// What the owner-drawn menus do: look through the frame's bars for a native toolbar holding
-// the command and take that button's image from the toolbar's image list.
+// What the owner-drawn menus do: look through the frame's child windows for a control bar of
+// that frame which is a native toolbar holding the command, and take that button's image from
+// the toolbar's image list.
 bool FindCommandImage(CFrameWnd* frame, UINT command, HIMAGELIST& images, int& image)
 {
-    POSITION pos = frame->m_listControlBars.GetHeadPosition();
-    while (pos != NULL) {
-        CControlBar* bar = (CControlBar*)frame->m_listControlBars.GetNext(pos);
+    HWND child = ::GetWindow(frame->m_hWnd, GW_CHILD);
+    for (; child != NULL; child = ::GetWindow(child, GW_HWNDNEXT)) {
+        CControlBar* bar = DYNAMIC_DOWNCAST(CControlBar, CWnd::FromHandlePermanent(child));
+        if (bar == NULL || bar->GetParentFrame() != frame)
+            continue;
         wchar_t name[64] = L"";
         ::GetClassNameW(bar->GetSafeHwnd(), name, 64);
         if (_wcsicmp(name, L"ToolbarWindow32") != 0)

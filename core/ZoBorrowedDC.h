@@ -14,7 +14,7 @@ public:
         if (wParam)
             Attach((HDC)wParam);
     }
-    virtual ~CZoBorrowedDC() { Detach(); }
+    ~CZoBorrowedDC() override { Detach(); }
 
 private:
     CZoBorrowedDC(const CZoBorrowedDC&);

@@ -9,7 +9,7 @@ class CZoMemDC : public CDC
 {
 public:
     CZoMemDC(CDC* pTarget, int width, int height);
-    virtual ~CZoMemDC();
+    ~CZoMemDC() override;
 
     // Copies the whole surface to the target at (0, 0). Call once, after drawing everything.
     void CopyToTarget();
@@ -24,19 +24,19 @@ public:
     using CDC::DrawText;
     using CDC::DrawTextEx;
     using CDC::Escape;
-    virtual BOOL PtVisible(int x, int y) const;
-    virtual BOOL RectVisible(LPCRECT lpRect) const;
-    virtual BOOL TextOut(int x, int y, LPCTSTR lpszString, int nCount);
-    virtual BOOL ExtTextOut(int x, int y, UINT nOptions, LPCRECT lpRect, LPCTSTR lpszString, UINT nCount,
-                            LPINT lpDxWidths);
-    virtual CSize TabbedTextOut(int x, int y, LPCTSTR lpszString, int nCount, int nTabPositions,
-                                LPINT lpnTabStopPositions, int nTabOrigin);
-    virtual int DrawText(LPCTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat);
-    virtual int DrawTextEx(LPTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat,
-                           LPDRAWTEXTPARAMS lpDTParams);
-    virtual BOOL GrayString(CBrush* pBrush, BOOL(CALLBACK* lpfnOutput)(HDC, LPARAM, int), LPARAM lpData,
-                            int nCount, int x, int y, int nWidth, int nHeight);
-    virtual int Escape(int nEscape, int nCount, LPCSTR lpszInData, LPVOID lpOutData);
+    BOOL PtVisible(int x, int y) const override;
+    BOOL RectVisible(LPCRECT lpRect) const override;
+    BOOL TextOut(int x, int y, LPCTSTR lpszString, int nCount) override;
+    BOOL ExtTextOut(int x, int y, UINT nOptions, LPCRECT lpRect, LPCTSTR lpszString, UINT nCount,
+                            LPINT lpDxWidths) override;
+    CSize TabbedTextOut(int x, int y, LPCTSTR lpszString, int nCount, int nTabPositions,
+                                LPINT lpnTabStopPositions, int nTabOrigin) override;
+    int DrawText(LPCTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat) override;
+    int DrawTextEx(LPTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat,
+                           LPDRAWTEXTPARAMS lpDTParams) override;
+    BOOL GrayString(CBrush* pBrush, BOOL(CALLBACK* lpfnOutput)(HDC, LPARAM, int), LPARAM lpData,
+                            int nCount, int x, int y, int nWidth, int nHeight) override;
+    int Escape(int nEscape, int nCount, LPCSTR lpszInData, LPVOID lpOutData) override;
 
 private:
     CZoMemDC(const CZoMemDC&);

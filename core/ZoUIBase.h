@@ -64,9 +64,9 @@ class ZOCTRL_API CZoWnd : public CWnd, public IZoUIBase
 
 public:
     CZoWnd();
-    virtual ~CZoWnd();
+    ~CZoWnd() override;
 
-    virtual CWnd* GetZoParent();
+    CWnd* GetZoParent() override;
 
 protected:
     afx_msg LRESULT OnMsgGetCurrentZoTheme(WPARAM wParam, LPARAM lParam);

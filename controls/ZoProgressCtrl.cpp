@@ -1,5 +1,6 @@
 #include "controls/ZoProgressCtrl.h"
 
+#include "controls/ZoControlColors.h"
 #include "controls/ZoControlTheme.h"
 #include "core/ZoThemeManager.h"
 #include "images/ZoResourceImage.h"
@@ -9,8 +10,6 @@ namespace ZoControls {
 namespace {
 
 const COLORREF kTransparent = RGB(255, 0, 255);
-const int kBackgroundSlot = 66;
-const int kTextSlot = 67;
 const int kEnabledColumn = 0;
 const int kDisabledColumn = 3;
 
@@ -123,7 +122,7 @@ void CZoProgressCtrl::DrawBar(CDC& dc, const CRect& rect)
     GetRange(lo, hi);
     if (lo >= hi)
         return;
-    const COLORREF background = ZoSlotColor(kBackgroundSlot, m_eTheme);
+    const COLORREF background = ZoSlotColor(ZoColor_ProgressBack, m_eTheme);
     const float fraction = ZoProgressFraction(lo, hi, GetPos());
     const int column = IsWindowEnabled() ? kEnabledColumn : kDisabledColumn;
     const bool loaded = m_pSkin && m_pSkin->IsLoaded();
@@ -161,7 +160,7 @@ void CZoProgressCtrl::DrawPercentage(CDC& dc, const CRect& rect)
     CString text;
     text.Format(L"%d%%", ZoProgressPercent(lo, hi, GetPos()));
     const int oldMode = dc.SetBkMode(TRANSPARENT);
-    const COLORREF oldColor = dc.SetTextColor(ZoSlotColor(kTextSlot, m_eTheme));
+    const COLORREF oldColor = dc.SetTextColor(ZoSlotColor(ZoColor_ProgressText, m_eTheme));
     CRect area = rect;
     dc.DrawText(text, &area, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
     dc.SetTextColor(oldColor);

@@ -55,7 +55,7 @@ CZoButton::CZoButton()
     : m_bAllowRowThree(false), m_eTheme(ZoTheme_Default), m_eFont(ZoThemeFont_1),
       m_eMonitorSize(ZoMonitorSize_Unknown), m_bHovering(false), m_bResourcesLoaded(false), m_pBackground(NULL),
       m_bCenterAlignedImage(false), m_bFontGiven(false), m_nTextGap(0), m_pImage(NULL), m_bImageIsPNG(false),
-      m_nImageColumn(-1), m_nImageRow(-1), m_pToolTip(NULL)
+      m_nImageColumn(-1), m_nImageRow(-1), m_pToolTip(NULL), m_hLineHeightFont(NULL), m_nLineHeight(0)
 {
     _clearColorTables();
 }
@@ -64,7 +64,7 @@ CZoButton::CZoButton(E_ZoThemeFont font)
     : m_bAllowRowThree(false), m_eTheme(ZoTheme_Default), m_eFont(font), m_eMonitorSize(ZoMonitorSize_Unknown),
       m_bHovering(false), m_bResourcesLoaded(false), m_pBackground(NULL), m_bCenterAlignedImage(false),
       m_bFontGiven(true), m_nTextGap(0), m_pImage(NULL), m_bImageIsPNG(false), m_nImageColumn(-1),
-      m_nImageRow(-1), m_pToolTip(NULL)
+      m_nImageRow(-1), m_pToolTip(NULL), m_hLineHeightFont(NULL), m_nLineHeight(0)
 {
     _clearColorTables();
 }

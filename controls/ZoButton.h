@@ -136,6 +136,11 @@ private:
     void _drawImage(CDC& dc, int x, int y, int state);
     CRect _textMarginRect(const CRect& rect);
     int _lineHeight(CDC& dc);
+    // The platform button's answers asked of its own window procedure, not sent: a paint asks
+    // several of them, and each sent message costs a trip through hooks and message maps.
+    LRESULT _ask(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+    UINT _buttonState();
+    CString _caption();
 
     E_ZoTheme m_eTheme;
     E_ZoThemeFont m_eFont;
@@ -156,6 +161,9 @@ private:
     int m_nImageColumn;
     int m_nImageRow;
     CToolTipCtrl* m_pToolTip;
+    // The height of "Hy" in the font it was last measured with.
+    HFONT m_hLineHeightFont;
+    int m_nLineHeight;
 };
 
 #ifdef _MSC_VER

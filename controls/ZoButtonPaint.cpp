@@ -6,6 +6,7 @@
 #include "ZoButton.h"
 #include "ZoControlColors.h"
 #include "ZoControlTheme.h"
+#include "ZoWindowHelpers.h"
 #include "core/ZoThemeManager.h"
 #include "images/ZoResourceImage.h"
 #include "images/ZoResourcePNG.h"
@@ -47,17 +48,39 @@ void CZoButton::DrawClient(CDC& dc)
         _drawCheckboxRadio(dc, IsCheckbox(type));
 }
 
+LRESULT CZoButton::_ask(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return DefWindowProc(message, wParam, lParam);
+}
+
+UINT CZoButton::_buttonState()
+{
+    return static_cast<UINT>(_ask(BM_GETSTATE));
+}
+
+CString CZoButton::_caption()
+{
+    return ZoQueryWindowText([this](UINT message, WPARAM wParam, LPARAM lParam) {
+        return _ask(message, wParam, lParam);
+    });
+}
+
 CRect CZoButton::_textMarginRect(const CRect& rect)
 {
     RECT margin = {0, 0, 0, 0};
-    SendMessage(BCM_GETTEXTMARGIN, 0, reinterpret_cast<LPARAM>(&margin));
+    _ask(BCM_GETTEXTMARGIN, 0, reinterpret_cast<LPARAM>(&margin));
     return CRect(rect.left + margin.left, rect.top + margin.top, rect.right - margin.right,
                  rect.bottom - margin.bottom);
 }
 
 int CZoButton::_lineHeight(CDC& dc)
 {
-    return dc.GetTextExtent(kSampleText, 2).cy;
+    const HFONT hFont = static_cast<HFONT>(::GetCurrentObject(dc.GetSafeHdc(), OBJ_FONT));
+    if (hFont == NULL || hFont != m_hLineHeightFont) {
+        m_nLineHeight = dc.GetTextExtent(kSampleText, 2).cy;
+        m_hLineHeightFont = hFont;
+    }
+    return m_nLineHeight;
 }
 
 void CZoButton::DrawPushButton(CDC& dc, bool /*pushLike*/)
@@ -65,7 +88,7 @@ void CZoButton::DrawPushButton(CDC& dc, bool /*pushLike*/)
     CRect client;
     GetClientRect(&client);
     const bool enabled = IsWindowEnabled() != FALSE;
-    const UINT buttonState = GetState();
+    const UINT buttonState = _buttonState();
 
     CRect content;
     if (m_pBackground && m_pBackground->IsLoaded()) {
@@ -97,17 +120,14 @@ void CZoButton::DrawPushButtonBackground(CDC& dc, const CRect& rect, E_ZoButtonS
         {{rect.right - 1, rect.bottom - 1}, {rect.right - 1, rect.top}},
         {{rect.right - 1, rect.top}, {rect.left, rect.top}},
     };
-    // Drawn left, bottom, right, top.
+    // Drawn left, bottom, right, top, each as the pixels a pen line would set, without making
+    // a pen per line and paint.
     const E_ZoFlatButtonLines order[LINE_COUNT] = {LINE_LEFT, LINE_BOTTOM, LINE_RIGHT, LINE_TOP};
     for (int i = 0; i < LINE_COUNT; ++i) {
         const COLORREF color = m_aLineColors[state][order[i]];
-        if (color == ZO_LINE_NOT_DRAWN)
-            continue;
-        CPen pen(PS_SOLID, 1, color);
-        CPen* pOld = dc.SelectObject(&pen);
-        dc.MoveTo(ends[i][0]);
-        dc.LineTo(ends[i][1]);
-        dc.SelectObject(pOld);
+        const CRect pixels = ZoAxisLinePixels(ends[i][0], ends[i][1]);
+        if (color != ZO_LINE_NOT_DRAWN && !pixels.IsRectEmpty())
+            dc.FillSolidRect(pixels, color);
     }
 }
 
@@ -133,7 +153,7 @@ CSize CZoButton::_drawSystemImage(CDC* pDC, int x, int y, int state, bool measur
 {
     BUTTON_IMAGELIST list;
     ::ZeroMemory(&list, sizeof(list));
-    if (SendMessage(BCM_GETIMAGELIST, 0, reinterpret_cast<LPARAM>(&list)) && list.himl &&
+    if (_ask(BCM_GETIMAGELIST, 0, reinterpret_cast<LPARAM>(&list)) && list.himl &&
         ImageList_GetImageCount(list.himl) > 0) {
         int cx = 0;
         int cy = 0;
@@ -144,7 +164,7 @@ CSize CZoButton::_drawSystemImage(CDC* pDC, int x, int y, int state, bool measur
             ImageList_DrawEx(list.himl, index, pDC->GetSafeHdc(), x, y, 0, 0, CLR_NONE, CLR_DEFAULT, ILD_NORMAL);
         return CSize(cx, cy);
     }
-    const HBITMAP hBitmap = reinterpret_cast<HBITMAP>(SendMessage(BM_GETIMAGE, IMAGE_BITMAP, 0));
+    const HBITMAP hBitmap = reinterpret_cast<HBITMAP>(_ask(BM_GETIMAGE, IMAGE_BITMAP, 0));
     BITMAP bm;
     if (hBitmap && ::GetObject(hBitmap, sizeof(bm), &bm)) {
         if (!measureOnly) {
@@ -153,7 +173,7 @@ CSize CZoButton::_drawSystemImage(CDC* pDC, int x, int y, int state, bool measur
         }
         return CSize(bm.bmWidth, bm.bmHeight);
     }
-    const HICON hIcon = reinterpret_cast<HICON>(SendMessage(BM_GETIMAGE, IMAGE_ICON, 0));
+    const HICON hIcon = reinterpret_cast<HICON>(_ask(BM_GETIMAGE, IMAGE_ICON, 0));
     ICONINFO info;
     if (hIcon && ::GetIconInfo(hIcon, &info)) {
         CSize size(0, 0);
@@ -177,8 +197,7 @@ void CZoButton::DrawPushButtonTextAndImage(CDC& dc, const CRect& rect, E_ZoButto
         return;
     CZoTextScope scope(dc, ZoCachedFont(m_eFont, m_eMonitorSize), m_aTextColors[state], TRANSPARENT);
     const CRect textRect = _textMarginRect(rect);
-    CString text;
-    GetWindowText(text);
+    const CString text = _caption();
 
     const bool systemImage = m_strImageName.IsEmpty() && !m_bImageIsPNG;
     const CSize image = systemImage ? _drawSystemImage(&dc, 0, 0, state, true) : _imageSize();
@@ -220,7 +239,7 @@ void CZoButton::_drawCheckboxRadio(CDC& dc, bool isCheckbox)
     GetClientRect(&client);
     const DWORD style = GetStyle();
     const bool boxLeft = !(style & BS_LEFTTEXT);
-    const UINT buttonState = GetState();
+    const UINT buttonState = _buttonState();
 
     DrawCheckBoxBackground(dc, client);
     const int column = ZoCheckCellColumn(IsWindowEnabled() != FALSE, buttonState, m_bHovering);
@@ -236,8 +255,7 @@ void CZoButton::_drawCheckboxRadio(CDC& dc, bool isCheckbox)
     else
         textRect.right = client.right - kCheckTextGap - unit;
     textRect.bottom -= 2;
-    CString text;
-    GetWindowText(text);
+    const CString text = _caption();
     CRect drawn = _drawText(dc, textRect, text, ZoColor_CheckText + column, false);
     if (buttonState & BST_FOCUS) {
         drawn.InflateRect(1, 0);
@@ -285,8 +303,7 @@ void CZoButton::_drawGroupBox(CDC& dc)
         dc.LineTo(f.left + 1, f.bottom - 2);
         dc.SelectObject(pOld);
     }
-    CString text;
-    GetWindowText(text);
+    const CString text = _caption();
     if (text.IsEmpty())
         return;
     const int indent = ZoGroupBoxIndent(ZoCurrentZoom(m_eMonitorSize));

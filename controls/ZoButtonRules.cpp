@@ -142,6 +142,21 @@ CRect ZoPlaceMeasuredText(const CRect& rect, const CSize& measured, UINT format)
     return CRect(left, top, left + measured.cx, top + measured.cy);
 }
 
+CRect ZoAxisLinePixels(const POINT& from, const POINT& to)
+{
+    if (from.y == to.y && from.x != to.x) {
+        const int left = from.x < to.x ? from.x : to.x + 1;
+        const int right = from.x < to.x ? to.x : from.x + 1;
+        return CRect(left, from.y, right, from.y + 1);
+    }
+    if (from.x == to.x && from.y != to.y) {
+        const int top = from.y < to.y ? from.y : to.y + 1;
+        const int bottom = from.y < to.y ? to.y : from.y + 1;
+        return CRect(from.x, top, from.x + 1, bottom);
+    }
+    return CRect(from.x, from.y, from.x, from.y);
+}
+
 int ZoImageCellColumn(int column, int state)
 {
     return column == -1 ? state : column;

@@ -55,6 +55,10 @@ ZOCTRL_API UINT ZoCaptionTextFormat(DWORD style, bool centreByDefault);
 // Where text measured as `measured` goes in `rect` for `format`.
 ZOCTRL_API CRect ZoPlaceMeasuredText(const CRect& rect, const CSize& measured, UINT format);
 
+// The pixels a one-pixel pen draws from `from` to `to` on a row or a column: every pixel from
+// `from` up to, not including, `to`; empty for a zero-length line.
+ZOCTRL_API CRect ZoAxisLinePixels(const POINT& from, const POINT& to);
+
 // Cell index of an image axis: the fixed index, or the state when the axis follows it.
 ZOCTRL_API int ZoImageCellColumn(int column, int state);
 // As above for rows; while row 3 is not allowed it is drawn as row 4.

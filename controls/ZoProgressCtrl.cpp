@@ -115,15 +115,23 @@ void CZoProgressCtrl::DrawClient(CDC& dc)
     DrawPercentage(dc, client);
 }
 
+void CZoProgressCtrl::_readRange(int& lo, int& hi, int& pos)
+{
+    lo = static_cast<int>(DefWindowProc(PBM_GETRANGE, TRUE, 0));
+    hi = static_cast<int>(DefWindowProc(PBM_GETRANGE, FALSE, 0));
+    pos = static_cast<int>(DefWindowProc(PBM_GETPOS, 0, 0));
+}
+
 void CZoProgressCtrl::DrawBar(CDC& dc, const CRect& rect)
 {
     int lo = 0;
     int hi = 0;
-    GetRange(lo, hi);
+    int pos = 0;
+    _readRange(lo, hi, pos);
     if (lo >= hi)
         return;
     const COLORREF background = ZoSlotColor(ZoColor_ProgressBack, m_eTheme);
-    const float fraction = ZoProgressFraction(lo, hi, GetPos());
+    const float fraction = ZoProgressFraction(lo, hi, pos);
     const int column = IsWindowEnabled() ? kEnabledColumn : kDisabledColumn;
     const bool loaded = m_pSkin && m_pSkin->IsLoaded();
     if ((GetStyle() & PBS_VERTICAL) == 0)
@@ -154,11 +162,12 @@ void CZoProgressCtrl::DrawPercentage(CDC& dc, const CRect& rect)
 {
     int lo = 0;
     int hi = 0;
-    GetRange(lo, hi);
+    int pos = 0;
+    _readRange(lo, hi, pos);
     if (lo >= hi)
         return;
     CString text;
-    text.Format(L"%d%%", ZoProgressPercent(lo, hi, GetPos()));
+    text.Format(L"%d%%", ZoProgressPercent(lo, hi, pos));
     const int oldMode = dc.SetBkMode(TRANSPARENT);
     const COLORREF oldColor = dc.SetTextColor(ZoSlotColor(ZoColor_ProgressText, m_eTheme));
     CRect area = rect;

@@ -259,8 +259,8 @@ void CZoStatic::_drawStaticText(CDC& dc)
 {
     const CRect client = ClientRectOf(*this);
     dc.FillSolidRect(client, m_clrBackground);
-    CString text;
-    GetWindowText(text);
+    CString text = ZoQueryWindowText(
+        [this](UINT message, WPARAM wParam, LPARAM lParam) { return DefWindowProc(message, wParam, lParam); });
     if (text.IsEmpty())
         return;
     const DWORD style = GetStyle();

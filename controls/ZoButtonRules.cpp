@@ -1,6 +1,8 @@
 // The plain rules of the skinned button: numbers in, numbers out.
 #include <afxwin.h>
 
+#include <cstdlib>
+
 #include "ZoButtonRules.h"
 
 namespace ZoControls {
@@ -20,6 +22,12 @@ const wchar_t* const kPushResourceSuffix[ZoTheme_Count] = {L"_NORMAL", L"_NORMAL
 int CentredStart(int low, int high, int extent)
 {
     return (low + high) / 2 - extent / 2;
+}
+
+// First pixel a line from `from` towards `to` (end excluded) sets on its axis.
+int HalfOpenLow(int from, int to)
+{
+    return from < to ? from : to + 1;
 }
 
 } // namespace
@@ -145,14 +153,12 @@ CRect ZoPlaceMeasuredText(const CRect& rect, const CSize& measured, UINT format)
 CRect ZoAxisLinePixels(const POINT& from, const POINT& to)
 {
     if (from.y == to.y && from.x != to.x) {
-        const int left = from.x < to.x ? from.x : to.x + 1;
-        const int right = from.x < to.x ? to.x : from.x + 1;
-        return CRect(left, from.y, right, from.y + 1);
+        const int low = HalfOpenLow(from.x, to.x);
+        return CRect(low, from.y, low + std::abs(to.x - from.x), from.y + 1);
     }
     if (from.x == to.x && from.y != to.y) {
-        const int top = from.y < to.y ? from.y : to.y + 1;
-        const int bottom = from.y < to.y ? to.y : from.y + 1;
-        return CRect(from.x, top, from.x + 1, bottom);
+        const int low = HalfOpenLow(from.y, to.y);
+        return CRect(from.x, low, from.x + 1, low + std::abs(to.y - from.y));
     }
     return CRect(from.x, from.y, from.x, from.y);
 }

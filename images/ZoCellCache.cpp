@@ -52,7 +52,7 @@ bool ZoPixelsHoldColor(const DWORD* pixels, int count, COLORREF color)
     return false;
 }
 
-CZoCellCache::CZoCellCache() : m_nNext(0)
+CZoCellCache::CZoCellCache() : m_nNext(0), m_hDC(NULL), m_hOldBitmap(NULL)
 {
     ::ZeroMemory(m_entries, sizeof(m_entries));
 }
@@ -60,10 +60,16 @@ CZoCellCache::CZoCellCache() : m_nNext(0)
 CZoCellCache::~CZoCellCache()
 {
     Clear();
+    if (m_hDC)
+        ::DeleteDC(m_hDC);
 }
 
 void CZoCellCache::Clear()
 {
+    if (m_hDC && m_hOldBitmap) {
+        ::SelectObject(m_hDC, m_hOldBitmap);
+        m_hOldBitmap = NULL;
+    }
     for (int i = 0; i < kEntries; ++i) {
         if (m_entries[i].hBitmap)
             ::DeleteObject(m_entries[i].hBitmap);
@@ -118,8 +124,12 @@ CZoCellCache::Entry* CZoCellCache::_make(CDC& dc, const ZoCellKey& key, HBITMAP 
     }
     Entry& entry = m_entries[m_nNext];
     m_nNext = (m_nNext + 1) % kEntries;
-    if (entry.hBitmap)
+    if (entry.hBitmap) {
+        if (m_hDC && m_hOldBitmap)
+            ::SelectObject(m_hDC, m_hOldBitmap);
+        m_hOldBitmap = NULL;
         ::DeleteObject(entry.hBitmap);
+    }
     entry.key = key;
     entry.hBitmap = hBitmap;
     entry.showsKey = ZoPixelsHoldColor(bits, key.w * key.h, key.transparent);
@@ -128,14 +138,20 @@ CZoCellCache::Entry* CZoCellCache::_make(CDC& dc, const ZoCellKey& key, HBITMAP 
 
 void CZoCellCache::_drawEntry(CDC& dc, int x, int y, const Entry& entry)
 {
-    CZoImageSourceDC cell(dc, entry.hBitmap);
-    if (!cell.IsReady())
+    if (!m_hDC)
+        m_hDC = ::CreateCompatibleDC(NULL);
+    if (!m_hDC)
         return;
+    const HGDIOBJ hPrevious = ::SelectObject(m_hDC, entry.hBitmap);
+    if (!hPrevious)
+        return;
+    if (!m_hOldBitmap)
+        m_hOldBitmap = hPrevious;
     const ZoCellKey& key = entry.key;
     if (entry.showsKey)
-        dc.TransparentBlt(x, y, key.w, key.h, cell.GetDC(), 0, 0, key.w, key.h, key.transparent);
+        ::TransparentBlt(dc.GetSafeHdc(), x, y, key.w, key.h, m_hDC, 0, 0, key.w, key.h, key.transparent);
     else
-        dc.BitBlt(x, y, key.w, key.h, cell.GetDC(), 0, 0, SRCCOPY);
+        ::BitBlt(dc.GetSafeHdc(), x, y, key.w, key.h, m_hDC, 0, 0, SRCCOPY);
 }
 
 } // namespace ZoControls

@@ -51,10 +51,14 @@ private:
 
     Entry* _find(const ZoCellKey& key);
     Entry* _make(CDC& dc, const ZoCellKey& key, HBITMAP hSource);
-    static void _drawEntry(CDC& dc, int x, int y, const Entry& entry);
+    void _drawEntry(CDC& dc, int x, int y, const Entry& entry);
 
     Entry m_entries[kEntries];
     int m_nNext; // entry replaced next when all are used
+    // A memory DC kept for copying the cells, made at the first draw: one per cell drawn would
+    // cost more than the copy.
+    HDC m_hDC;
+    HGDIOBJ m_hOldBitmap;
 };
 
 } // namespace ZoControls

@@ -100,6 +100,17 @@ BYTE ZoComposeChannel(BYTE value, BYTE alpha, BYTE background)
 void ZoComposePixel(const BYTE* src, COLORREF background, BYTE alphaOut, BYTE* dst)
 {
     const BYTE alpha = src[3];
+    // The common pixels short-cut the arithmetic, which gives exactly these for them.
+    if (alpha == 0 || alpha == 255) {
+        const BYTE blue = alpha ? src[0] : GetBValue(background);
+        const BYTE green = alpha ? src[1] : GetGValue(background);
+        const BYTE red = alpha ? src[2] : GetRValue(background);
+        dst[0] = blue;
+        dst[1] = green;
+        dst[2] = red;
+        dst[3] = alphaOut;
+        return;
+    }
     dst[0] = ZoComposeChannel(src[0], alpha, GetBValue(background));
     dst[1] = ZoComposeChannel(src[1], alpha, GetGValue(background));
     dst[2] = ZoComposeChannel(src[2], alpha, GetRValue(background));

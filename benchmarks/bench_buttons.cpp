@@ -8,6 +8,8 @@
 // window (all the work of one exposure). For the push button a third, the BM_GETSTATE round
 // trip, shows what one message costs on its way through the framework's window procedure; a
 // paint sends several (state, margins, text, images).
+// Creation: creating and destroying each control (push button, check box, static, progress bar)
+// against the native control of the same class and style.
 #include <afxwin.h>
 #include <gdiplus.h>
 
@@ -24,6 +26,7 @@ namespace {
 
 const int kRuns = 5;
 const int kPaintsPerRun = 200;
+const int kCreationsPerRun = 20;
 
 // The native control, in the font the library's control of the same kind draws with.
 HWND CreateNative(HWND host, const wchar_t* className, const wchar_t* text, DWORD style, const CRect& rect,
@@ -166,6 +169,63 @@ void RunStatic(HWND host)
     ::DestroyWindow(nativeLabel);
 }
 
+// Seconds per creation and destruction of a control of class T.
+template <class T>
+double ZoCreateTime(HWND host, const wchar_t* text, DWORD style, const CRect& rect)
+{
+    CWnd* pHost = CWnd::FromHandle(host);
+    return TimePerCall(kCreationsPerRun, [pHost, text, style, &rect] {
+        T control;
+        control.Create(text, WS_CHILD | WS_VISIBLE | style, rect, pHost, 10);
+        control.DestroyWindow();
+    });
+}
+
+double ZoProgressCreateTime(HWND host, const CRect& rect)
+{
+    CWnd* pHost = CWnd::FromHandle(host);
+    return TimePerCall(kCreationsPerRun, [pHost, &rect] {
+        CZoProgressCtrl control;
+        control.Create(WS_CHILD | WS_VISIBLE, rect, pHost, 10);
+        control.DestroyWindow();
+    });
+}
+
+double NativeCreateTime(HWND host, const wchar_t* className, const wchar_t* text, DWORD style, const CRect& rect,
+                        E_ZoThemeFont font)
+{
+    return TimePerCall(kCreationsPerRun, [host, className, text, style, &rect, font] {
+        ::DestroyWindow(CreateNative(host, className, text, style, rect, font));
+    });
+}
+
+void RunCreation(HWND host)
+{
+    const CRect rect(10, 200, 150, 228);
+    printf("Creation and destruction:\n");
+    Report("ZoButton push", "create", "BUTTON",
+           CompareInTurns(kRuns, [host, &rect] { return ZoCreateTime<CZoButton>(host, L"Push", BS_PUSHBUTTON, rect); },
+                          [host, &rect] {
+                              return NativeCreateTime(host, L"BUTTON", L"Push", BS_PUSHBUTTON, rect, ZoThemeFont_9);
+                          }));
+    Report("ZoButton check box", "create", "BUTTON",
+           CompareInTurns(
+               kRuns, [host, &rect] { return ZoCreateTime<CZoButton>(host, L"Check box", BS_AUTOCHECKBOX, rect); },
+               [host, &rect] {
+                   return NativeCreateTime(host, L"BUTTON", L"Check box", BS_AUTOCHECKBOX, rect, ZoThemeFont_1);
+               }));
+    Report("ZoStatic text", "create", "STATIC",
+           CompareInTurns(kRuns, [host, &rect] { return ZoCreateTime<CZoStatic>(host, L"Static", SS_LEFT, rect); },
+                          [host, &rect] {
+                              return NativeCreateTime(host, L"STATIC", L"Static", SS_LEFT, rect, ZoThemeFont_1);
+                          }));
+    Report("ZoProgressCtrl", "create", PROGRESS_CLASSA,
+           CompareInTurns(kRuns, [host, &rect] { return ZoProgressCreateTime(host, rect); },
+                          [host, &rect] {
+                              return NativeCreateTime(host, PROGRESS_CLASSW, L"", 0, rect, ZoThemeFont_1);
+                          }));
+}
+
 } // namespace
 
 int wmain()
@@ -174,5 +234,6 @@ int wmain()
         printf("bench_buttons (best of %d runs of %d paints each)\n", kRuns, kPaintsPerRun);
         RunButtons(host);
         RunStatic(host);
+        RunCreation(host);
     });
 }

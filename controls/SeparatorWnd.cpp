@@ -1,5 +1,6 @@
 #include "controls/SeparatorWnd.h"
 
+#include "controls/ZoControlColors.h"
 #include "controls/ZoControlTheme.h"
 #include "controls/ZoWindowHelpers.h"
 #include "core/ZoThemeMath.h"
@@ -8,7 +9,6 @@ namespace ZoControls {
 
 namespace {
 
-const int kLineSlot = 64;
 const int kRubberBandWidth = 3;
 const int kRubberBandInset = 3;
 
@@ -116,7 +116,7 @@ COLORREF CSeparatorWnd::_lineColor() const
     if (m_bCustomColor)
         return (COLORREF)ZoArgbToColorRef(m_color);
     // Converted once more than anywhere else: red and blue come out exchanged, as intended.
-    return swapRedBlue(ZoSlotColor(kLineSlot, ZoTheme_Default));
+    return swapRedBlue(ZoSlotColor(ZoColor_Separator, ZoTheme_Default));
 }
 
 void CSeparatorWnd::DrawClient(CDC& dc)

@@ -2,8 +2,8 @@
 // Classes in this file:
 //   CZoButton   push, default push, check box, radio, push-like and group-box buttons painted
 //               with per-state colour tables, skins, images, a tooltip and hover tracking
-// plus the plain rules behind its painting (state, cells, text flags, image and text placement,
-// group-box geometry) as functions of numbers.
+// The plain rules behind its painting are in ZoButtonRules.h; the window's life cycle, setters
+// and input are in ZoButton.cpp, its painting in ZoButtonPaint.cpp.
 #pragma once
 #include <afxwin.h>
 #include <afxcmn.h>
@@ -12,77 +12,12 @@
 #include "core/ZoPaintedWnd.h"
 #include "core/ZoThemeTypes.h"
 #include "core/ZoMenuRouting.h"
+#include "ZoButtonRules.h"
 
 namespace ZoControls {
 
 class CZoResourceImage;
 class CZoResourceBMPImage;
-
-// The state every colour table and state-following image cell is indexed by.
-enum E_ZoButtonStates
-{
-    BS_ZO_NORMAL = 0,
-    BS_ZO_HOT = 1,
-    BS_ZO_PRESSED = 2,
-    BS_ZO_DISABLED = 3,
-    BS_ZO_COUNT = 4
-};
-
-// The four border lines of a push button.
-enum E_ZoFlatButtonLines
-{
-    LINE_LEFT = 0,
-    LINE_TOP = 1,
-    LINE_RIGHT = 2,
-    LINE_BOTTOM = 3,
-    LINE_COUNT = 4
-};
-
-// A line colour that means "this line is not drawn".
-const COLORREF ZO_LINE_NOT_DRAWN = 0x00FF00FF;
-
-// State of a push button from IsWindowEnabled, BM_GETSTATE and the hovering flag.
-ZOCTRL_API E_ZoButtonStates ZoPushButtonState(bool enabled, UINT buttonState, bool hovering);
-
-// Cell of the check-box/radio strip: the row is the box kind and check state, the column the state.
-ZOCTRL_API int ZoCheckCellRow(bool isCheckbox, UINT buttonState);
-ZOCTRL_API int ZoCheckCellColumn(bool enabled, UINT buttonState, bool hovering);
-// Top-left corner of the box cell of size `unit` in `client`.
-ZOCTRL_API CPoint ZoCheckCellOrigin(const CRect& client, int unit, DWORD style);
-
-// DrawText flags of a push button's caption. Each alignment bit is tested alone, so BS_CENTER
-// aligns left and BS_VCENTER aligns top; only the absence of both bits centres.
-ZOCTRL_API UINT ZoPushButtonTextFormat(DWORD style);
-// DrawText flags of a check box, radio or plain caption; `centreByDefault` decides what no
-// horizontal bit means.
-ZOCTRL_API UINT ZoCaptionTextFormat(DWORD style, bool centreByDefault);
-// Where text measured as `measured` goes in `rect` for `format`.
-ZOCTRL_API CRect ZoPlaceMeasuredText(const CRect& rect, const CSize& measured, UINT format);
-
-// Cell index of an image axis: the fixed index, or the state when the axis follows it.
-ZOCTRL_API int ZoImageCellColumn(int column, int state);
-// As above for rows; while row 3 is not allowed it is drawn as row 4.
-ZOCTRL_API int ZoImageCellRow(int row, int state, bool rowThreeAllowed);
-
-// Where an image and a push button's caption go.
-struct ZoImageTextLayout
-{
-    CPoint image;  // top-left corner of the image
-    CRect text;    // rectangle the caption is drawn in (pressed offset included)
-};
-
-// `textRect` is the button less its text margins, `image` the image or cell size (0 x 0 for no
-// image), `textWidth` and `lineHeight` the caption's width and the height of "Hy".
-ZOCTRL_API ZoImageTextLayout ZoLayoutImageAndText(const CRect& textRect, const CSize& image, bool hasText,
-                                                  int textWidth, int lineHeight, DWORD style, bool centerAligned,
-                                                  int textGap, bool pressed);
-
-// Group box: the frame below half the caption height, and the caption's indent at `zoom`.
-ZOCTRL_API CRect ZoGroupBoxFrame(const CRect& client, int lineHeight);
-ZOCTRL_API int ZoGroupBoxIndent(float zoom);
-
-// The background skin of every push kind and theme: "BMP_ZO_BTNDEFPUSH_NORMAL".
-ZOCTRL_API CString ZoPushButtonResourceId(bool isDefault, E_ZoTheme theme);
 
 #ifdef _MSC_VER
 #pragma warning(push)
@@ -201,6 +136,11 @@ private:
     void _drawImage(CDC& dc, int x, int y, int state);
     CRect _textMarginRect(const CRect& rect);
     int _lineHeight(CDC& dc);
+    // The platform button's answers asked of its own window procedure, not sent: a paint asks
+    // several of them, and each sent message costs a trip through hooks and message maps.
+    LRESULT _ask(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+    UINT _buttonState();
+    CString _caption();
 
     E_ZoTheme m_eTheme;
     E_ZoThemeFont m_eFont;
@@ -221,6 +161,9 @@ private:
     int m_nImageColumn;
     int m_nImageRow;
     CToolTipCtrl* m_pToolTip;
+    // The height of "Hy" in the font it was last measured with.
+    HFONT m_hLineHeightFont;
+    int m_nLineHeight;
 };
 
 #ifdef _MSC_VER

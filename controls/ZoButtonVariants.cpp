@@ -2,15 +2,10 @@
 #include <commctrl.h>
 
 #include "ZoButtonVariants.h"
+#include "ZoControlColors.h"
 #include "ZoControlTheme.h"
 
 namespace ZoControls {
-
-namespace {
-const int kSlotLine = 18;
-const int kSlotHotLine = 19;
-const int kSlotPressedLine = 20;
-} // namespace
 
 // ---------------------------------------------------------------------------------------------
 // CZoFlatButton
@@ -23,9 +18,9 @@ END_MESSAGE_MAP()
 CZoFlatButton::CZoFlatButton() : CZoButton()
 {
     // Init sets the lines again from the theme; these only show before it runs.
-    Set4LineColors(ZoSlotColor(kSlotLine, ZoTheme_Default), false);
-    const COLORREF hot = ZoSlotColor(kSlotHotLine, ZoTheme_Default);
-    const COLORREF pressed = ZoSlotColor(kSlotPressedLine, ZoTheme_Default);
+    Set4LineColors(ZoSlotColor(ZoColor_ButtonLine, ZoTheme_Default), false);
+    const COLORREF hot = ZoSlotColor(ZoColor_ButtonLineHot, ZoTheme_Default);
+    const COLORREF pressed = ZoSlotColor(ZoColor_ButtonLinePressed, ZoTheme_Default);
     SetLTRBLineColors(BS_ZO_HOT, hot, hot, true);
     SetLTRBLineColors(BS_ZO_PRESSED, pressed, pressed, true);
 }

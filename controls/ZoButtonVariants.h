@@ -20,12 +20,12 @@ class ZOCTRL_API CZoFlatButton : public CZoButton
 public:
     CZoFlatButton();
     explicit CZoFlatButton(E_ZoThemeFont font);
-    virtual ~CZoFlatButton();
+    ~CZoFlatButton() override;
 
 protected:
-    virtual void Init();
-    virtual void DrawPushButtonFocusRect(CDC& dc, const CRect& rect);
-    virtual void LoadResource();
+    void Init() override;
+    void DrawPushButtonFocusRect(CDC& dc, const CRect& rect) override;
+    void LoadResource() override;
 
     DECLARE_MESSAGE_MAP()
 };
@@ -36,25 +36,25 @@ class ZOCTRL_API CZoToggleButton : public CZoFlatButton
 
 public:
     CZoToggleButton();
-    virtual ~CZoToggleButton();
+    ~CZoToggleButton() override;
 
 protected:
-    virtual void Init();
-    virtual void DrawCheckBoxBackground(CDC& dc, const CRect& rect);
-    virtual void DrawCheckBoxFocusRect(CDC& dc, const CRect& rect);
+    void Init() override;
+    void DrawCheckBoxBackground(CDC& dc, const CRect& rect) override;
+    void DrawCheckBoxFocusRect(CDC& dc, const CRect& rect) override;
 };
 
 class ZOCTRL_API CZoButton4MsgBox : public CZoButton
 {
 public:
     CZoButton4MsgBox();
-    virtual ~CZoButton4MsgBox();
+    ~CZoButton4MsgBox() override;
 
     // Only before the window exists: records the push kind Init applies; false afterwards.
     bool SetAsDefault(bool isDefault);
 
 protected:
-    virtual void Init();
+    void Init() override;
 
 private:
     bool m_bPushKindRequested;

@@ -1,5 +1,6 @@
 #include "controls/ZoProgressCtrl.h"
 
+#include "controls/ZoControlColors.h"
 #include "controls/ZoControlTheme.h"
 #include "core/ZoThemeManager.h"
 #include "images/ZoResourceImage.h"
@@ -9,8 +10,6 @@ namespace ZoControls {
 namespace {
 
 const COLORREF kTransparent = RGB(255, 0, 255);
-const int kBackgroundSlot = 66;
-const int kTextSlot = 67;
 const int kEnabledColumn = 0;
 const int kDisabledColumn = 3;
 
@@ -116,15 +115,23 @@ void CZoProgressCtrl::DrawClient(CDC& dc)
     DrawPercentage(dc, client);
 }
 
+void CZoProgressCtrl::_readRange(int& lo, int& hi, int& pos)
+{
+    lo = static_cast<int>(DefWindowProc(PBM_GETRANGE, TRUE, 0));
+    hi = static_cast<int>(DefWindowProc(PBM_GETRANGE, FALSE, 0));
+    pos = static_cast<int>(DefWindowProc(PBM_GETPOS, 0, 0));
+}
+
 void CZoProgressCtrl::DrawBar(CDC& dc, const CRect& rect)
 {
     int lo = 0;
     int hi = 0;
-    GetRange(lo, hi);
+    int pos = 0;
+    _readRange(lo, hi, pos);
     if (lo >= hi)
         return;
-    const COLORREF background = ZoSlotColor(kBackgroundSlot, m_eTheme);
-    const float fraction = ZoProgressFraction(lo, hi, GetPos());
+    const COLORREF background = ZoSlotColor(ZoColor_ProgressBack, m_eTheme);
+    const float fraction = ZoProgressFraction(lo, hi, pos);
     const int column = IsWindowEnabled() ? kEnabledColumn : kDisabledColumn;
     const bool loaded = m_pSkin && m_pSkin->IsLoaded();
     if ((GetStyle() & PBS_VERTICAL) == 0)
@@ -155,13 +162,14 @@ void CZoProgressCtrl::DrawPercentage(CDC& dc, const CRect& rect)
 {
     int lo = 0;
     int hi = 0;
-    GetRange(lo, hi);
+    int pos = 0;
+    _readRange(lo, hi, pos);
     if (lo >= hi)
         return;
     CString text;
-    text.Format(L"%d%%", ZoProgressPercent(lo, hi, GetPos()));
+    text.Format(L"%d%%", ZoProgressPercent(lo, hi, pos));
     const int oldMode = dc.SetBkMode(TRANSPARENT);
-    const COLORREF oldColor = dc.SetTextColor(ZoSlotColor(kTextSlot, m_eTheme));
+    const COLORREF oldColor = dc.SetTextColor(ZoSlotColor(ZoColor_ProgressText, m_eTheme));
     CRect area = rect;
     dc.DrawText(text, &area, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
     dc.SetTextColor(oldColor);

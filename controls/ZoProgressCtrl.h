@@ -54,6 +54,10 @@ protected:
     E_ZoMonitorSize m_eMonitorSize;
 
 private:
+    // Range and position asked of the platform control's own window procedure: a paint needs
+    // them twice, and each sent message costs a trip through hooks and message maps.
+    void _readRange(int& lo, int& hi, int& pos);
+
     CZoProgressCtrl(const CZoProgressCtrl&);
     CZoProgressCtrl& operator=(const CZoProgressCtrl&);
 };

@@ -1,5 +1,6 @@
 #include "controls/ZoScrollBar.h"
 
+#include "controls/ZoControlColors.h"
 #include "controls/ZoWindowHelpers.h"
 #include "core/ZoThemeManager.h"
 #include "core/ZoThemeMath.h"
@@ -147,7 +148,7 @@ void CZoScrollBar::_init()
     {
         // Theme 0's slot 0 whatever the control's theme.
         const CZoThemeManager* pManager = CZoThemeManager::GetInstance();
-        m_crBackground = pManager ? pManager->GetGDIColor((E_ZoThemeColors)0, ZoTheme_Default) : kFallbackBackground;
+        m_crBackground = pManager ? pManager->GetGDIColor(ZoThemeSlot(ZoColor_ControlBack), ZoTheme_Default) : kFallbackBackground;
     }
     m_bInitialized = true;
     _initDimensions();

@@ -1,5 +1,6 @@
 #include "controls/ZoSpinButtonCtrl.h"
 
+#include "controls/ZoControlColors.h"
 #include "controls/ZoControlTheme.h"
 #include "controls/ZoWindowHelpers.h"
 
@@ -7,9 +8,6 @@ namespace ZoControls {
 
 namespace {
 
-const int kBackSlot = 92;
-const int kArrowSlot = 93;
-const int kBorderSlot = 94;
 const COLORREF kPressedBack = RGB(255, 255, 255);
 
 COLORREF themeColor(int slot) { return ZoSlotColor(slot, ZoTheme_Default); }
@@ -103,7 +101,7 @@ void CZoSpinButtonCtrl::CheckRange(BtnState& first, BtnState& second)
 
 void CZoSpinButtonCtrl::DrawButtonBack(CDC* pDC, const CRect& rect, BtnState state)
 {
-    pDC->FillSolidRect(&rect, state == BtnState_Pressed ? kPressedBack : themeColor(kBackSlot));
+    pDC->FillSolidRect(&rect, state == BtnState_Pressed ? kPressedBack : themeColor(ZoColor_SpinFace));
 }
 
 void CZoSpinButtonCtrl::DrawButtonArrow(CDC* pDC, const CRect& rect, BtnState, bool first)
@@ -113,13 +111,13 @@ void CZoSpinButtonCtrl::DrawButtonArrow(CDC* pDC, const CRect& rect, BtnState, b
     CRgn region;
     if (!region.CreatePolygonRgn(points, 3, ALTERNATE))
         return;
-    CBrush brush(themeColor(kArrowSlot));
+    CBrush brush(themeColor(ZoColor_SpinArrow));
     pDC->FillRgn(&region, &brush);
 }
 
 void CZoSpinButtonCtrl::DrawButtonBorder(CDC* pDC, const CRect& rect)
 {
-    const COLORREF color = themeColor(kBorderSlot);
+    const COLORREF color = themeColor(ZoColor_SpinOutline);
     pDC->Draw3dRect(&rect, color, color);
 }
 

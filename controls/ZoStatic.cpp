@@ -2,6 +2,7 @@
 #include <commctrl.h>
 
 #include "ZoStatic.h"
+#include "ZoControlColors.h"
 #include "ZoControlTheme.h"
 #include "ZoWindowHelpers.h"
 #include "core/ZoThemeManager.h"
@@ -10,13 +11,6 @@
 namespace ZoControls {
 
 namespace {
-
-const int kSlotPictureBack = 0;
-const int kSlotBorderEdge = 28;
-const int kSlotDisabledText = 32;
-const int kSlotBackground = 48;
-const int kSlotFrame = 49;
-const int kSlotText = 50;
 
 const DWORD kEndEllipsisBit = 0x4000;
 const DWORD kPathEllipsisBit = 0x8000;
@@ -117,9 +111,9 @@ int ZoStaticFrameTopShift(LONG lfHeight)
 int ZoStaticBorderSlot(DWORD style, DWORD exStyle)
 {
     if (exStyle & (WS_EX_STATICEDGE | WS_EX_CLIENTEDGE))
-        return kSlotBorderEdge;
+        return ZoColor_EditBack;
     if (style & WS_BORDER)
-        return kSlotFrame;
+        return ZoColor_GroupFrame;
     return -1;
 }
 
@@ -140,8 +134,8 @@ ZO_IMPLEMENT_MENUXP_FORWARDING(CZoStatic, CStatic)
 
 CZoStatic::CZoStatic(E_ZoThemeFont font)
     : m_eTheme(ZoTheme_Default), m_eMonitorSize(ZoMonitorSize_Unknown), m_eFont(font),
-      m_eTextColor(static_cast<E_ZoThemeColors>(kSlotText)),
-      m_clrBackground(ZoSlotColor(kSlotBackground, ZoTheme_Default))
+      m_eTextColor(ZoThemeSlot(ZoColor_GroupText)),
+      m_clrBackground(ZoSlotColor(ZoColor_GroupBack, ZoTheme_Default))
 {
 }
 
@@ -265,13 +259,14 @@ void CZoStatic::_drawStaticText(CDC& dc)
 {
     const CRect client = ClientRectOf(*this);
     dc.FillSolidRect(client, m_clrBackground);
-    CString text;
-    GetWindowText(text);
+    CString text = ZoQueryWindowText(
+        [this](UINT message, WPARAM wParam, LPARAM lParam) { return DefWindowProc(message, wParam, lParam); });
     if (text.IsEmpty())
         return;
     const DWORD style = GetStyle();
     const UINT format = ZoStaticTextFormat(style);
-    const COLORREF color = ZoSlotColor(IsWindowEnabled() ? m_eTextColor : kSlotDisabledText, m_eTheme);
+    const E_ZoThemeColors slot = IsWindowEnabled() ? m_eTextColor : ZoThemeSlot(ZoColor_EditDisabledText);
+    const COLORREF color = ZoSlotColor(slot, m_eTheme);
     CZoTextScope scope(dc, ZoCachedFont(m_eFont, m_eMonitorSize), color, dc.GetBkMode());
     // DT_MODIFYSTRING may write into the buffer: give it room for an added ellipsis.
     const int capacity = text.GetLength() + 5;
@@ -290,7 +285,7 @@ void CZoStatic::_drawStaticText(CDC& dc)
 void CZoStatic::_drawBitmap(CDC& dc)
 {
     const CRect client = ClientRectOf(*this);
-    _fillClient(dc, ZoSlotColor(kSlotPictureBack, m_eTheme));
+    _fillClient(dc, ZoSlotColor(ZoColor_ControlBack, m_eTheme));
     const HBITMAP hBitmap = reinterpret_cast<HBITMAP>(SendMessage(STM_GETIMAGE, IMAGE_BITMAP, 0));
     if (!hBitmap)
         return;
@@ -304,7 +299,7 @@ void CZoStatic::_drawBitmap(CDC& dc)
 void CZoStatic::_drawIcon(CDC& dc)
 {
     const CRect client = ClientRectOf(*this);
-    _fillClient(dc, ZoSlotColor(kSlotPictureBack, m_eTheme));
+    _fillClient(dc, ZoSlotColor(ZoColor_ControlBack, m_eTheme));
     const HICON hIcon = reinterpret_cast<HICON>(SendMessage(STM_GETICON, 0, 0));
     if (hIcon)
         dc.DrawIcon(client.left, client.top, hIcon);
@@ -320,15 +315,15 @@ void CZoStatic::_drawFrame(CDC& dc)
     CRect client = ClientRectOf(*this);
     CRect frame = client;
     frame.top += shift;
-    const COLORREF frameColor = ZoSlotColor(kSlotFrame, m_eTheme);
+    const COLORREF frameColor = ZoSlotColor(ZoColor_GroupFrame, m_eTheme);
     dc.Draw3dRect(&frame, frameColor, frameColor);
 
     CString text;
     GetWindowText(text);
     // The caption is drawn opaque in the DC's current font so that it cuts the top line.
     const int oldMode = dc.SetBkMode(OPAQUE);
-    const COLORREF oldBack = dc.SetBkColor(ZoSlotColor(kSlotBackground, m_eTheme));
-    const COLORREF oldText = dc.SetTextColor(ZoSlotColor(kSlotText, m_eTheme));
+    const COLORREF oldBack = dc.SetBkColor(ZoSlotColor(ZoColor_GroupBack, m_eTheme));
+    const COLORREF oldText = dc.SetTextColor(ZoSlotColor(ZoColor_GroupText, m_eTheme));
     dc.DrawText(text.GetBuffer(text.GetLength() + 5), -1, &client, kWrappingText);
     text.ReleaseBuffer();
     dc.SetTextColor(oldText);

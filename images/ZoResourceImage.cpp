@@ -1,6 +1,7 @@
 // Skin pictures cut into equal cells; bitmap strips drawn with a key colour.
 #include <afxwin.h>
 
+#include "ZoCellCache.h"
 #include "ZoImageDC.h"
 #include "ZoResourceImage.h"
 
@@ -151,17 +152,18 @@ CZoImageSourceDC::~CZoImageSourceDC()
 
 // ---- CZoResourceBMPImage --------------------------------------------------------------------
 
-CZoResourceBMPImage::CZoResourceBMPImage()
+CZoResourceBMPImage::CZoResourceBMPImage() : m_pCellCache(NULL)
 {
 }
 
 CZoResourceBMPImage::CZoResourceBMPImage(HBITMAP hBitmap, bool bDeleteOnDestroy)
-    : CZoResourceImage(hBitmap, bDeleteOnDestroy)
+    : CZoResourceImage(hBitmap, bDeleteOnDestroy), m_pCellCache(NULL)
 {
 }
 
 CZoResourceBMPImage::~CZoResourceBMPImage()
 {
+    delete m_pCellCache;
 }
 
 CString CZoResourceBMPImage::_makeResourceId(const wchar_t* name, E_ZoMonitorSize size)
@@ -181,6 +183,8 @@ HBITMAP CZoResourceBMPImage::_loadBitmap(const wchar_t* name)
 bool CZoResourceBMPImage::LoadResourceImage(const wchar_t* name, E_ZoMonitorSize size, int nHorzUnits,
                                             int nVertUnits)
 {
+    delete m_pCellCache;
+    m_pCellCache = NULL;
     _releaseBitmap();
     if (name == NULL)
         return false;
@@ -198,6 +202,7 @@ bool CZoResourceBMPImage::LoadResourceImage(const wchar_t* name, E_ZoMonitorSize
         return false;
 
     _takeBitmap(hBitmap, nHorzUnits, nVertUnits);
+    m_pCellCache = new CZoCellCache();
     return true;
 }
 
@@ -218,6 +223,11 @@ void CZoResourceBMPImage::DrawImage(CDC& dc, int x, int y, int w, int h, int src
 {
     if (!IsLoaded())
         return;
+    if (m_pCellCache) {
+        const ZoCellKey key = {srcX, srcY, srcW, srcH, w, h, transparent};
+        if (m_pCellCache->Draw(dc, x, y, key, m_hBitmap))
+            return;
+    }
     CZoImageSourceDC source(dc, m_hBitmap);
     if (!source.IsReady())
         return;

@@ -11,6 +11,8 @@
 
 namespace ZoControls {
 
+class CZoCellCache;
+
 // A rectangle given by origin and size, the way the blitting functions take it.
 struct ZoBlitRect
 {
@@ -107,6 +109,10 @@ public:
 private:
     static CString _makeResourceId(const wchar_t* name, E_ZoMonitorSize size);
     static HBITMAP _loadBitmap(const wchar_t* name);
+
+    // The cells already drawn, kept for a picture loaded from the resources (a skin drawn at
+    // every paint), not for an adopted one; null without.
+    CZoCellCache* m_pCellCache;
 };
 
 } // namespace ZoControls

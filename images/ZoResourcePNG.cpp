@@ -39,6 +39,52 @@ BYTE* ReadPicturePixels(HBITMAP hbm, int width, int height)
     return pixels;
 }
 
+// Every composition and release in the process, counted.
+unsigned g_compositionCount = 0;
+
+// A bitmap like `hbm` (a section with the same header, else a bitmap of the same format)
+// holding `pixels` as GetBitmapBits gives them; null when it cannot be made.
+HBITMAP CreatePictureLike(HBITMAP hbm, const BYTE* pixels)
+{
+    DIBSECTION section;
+    ::ZeroMemory(&section, sizeof(section));
+    const int got = ::GetObjectW(hbm, sizeof(section), &section);
+    if (got < static_cast<int>(sizeof(BITMAP)))
+        return NULL;
+    const BITMAP& bm = section.dsBm;
+    HBITMAP copy = NULL;
+    if (got == static_cast<int>(sizeof(DIBSECTION))) {
+        BITMAPINFO info;
+        ::ZeroMemory(&info, sizeof(info));
+        info.bmiHeader = section.dsBmih;
+        void* bits = NULL;
+        copy = ::CreateDIBSection(NULL, &info, DIB_RGB_COLORS, &bits, NULL, 0);
+    } else {
+        copy = ::CreateBitmap(bm.bmWidth, bm.bmHeight, bm.bmPlanes, bm.bmBitsPixel, NULL);
+    }
+    const LONG byteCount = bm.bmWidthBytes * bm.bmHeight;
+    if (copy && pixels && ::SetBitmapBits(copy, byteCount, pixels) != byteCount) {
+        ::DeleteObject(copy);
+        copy = NULL;
+    }
+    return copy;
+}
+
+// A picture of its own with the pixels of `hbm`.
+HBITMAP CopyPicture(HBITMAP hbm)
+{
+    BITMAP bm;
+    if (::GetObjectW(hbm, sizeof(bm), &bm) == 0 || bm.bmWidthBytes <= 0 || bm.bmHeight <= 0)
+        return NULL;
+    const LONG byteCount = bm.bmWidthBytes * bm.bmHeight;
+    BYTE* pixels = new BYTE[byteCount];
+    HBITMAP copy = NULL;
+    if (::GetBitmapBits(hbm, byteCount, pixels) == byteCount)
+        copy = CreatePictureLike(hbm, pixels);
+    delete[] pixels;
+    return copy;
+}
+
 BLENDFUNCTION SourceAlphaBlend()
 {
     BLENDFUNCTION blend = {AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
@@ -58,6 +104,17 @@ BYTE ZoComposeChannel(BYTE value, BYTE alpha, BYTE background)
 void ZoComposePixel(const BYTE* src, COLORREF background, BYTE alphaOut, BYTE* dst)
 {
     const BYTE alpha = src[3];
+    // The common pixels short-cut the arithmetic, which gives exactly these for them.
+    if (alpha == 0 || alpha == 255) {
+        const BYTE blue = alpha ? src[0] : GetBValue(background);
+        const BYTE green = alpha ? src[1] : GetGValue(background);
+        const BYTE red = alpha ? src[2] : GetRValue(background);
+        dst[0] = blue;
+        dst[1] = green;
+        dst[2] = red;
+        dst[3] = alphaOut;
+        return;
+    }
     dst[0] = ZoComposeChannel(src[0], alpha, GetBValue(background));
     dst[1] = ZoComposeChannel(src[1], alpha, GetGValue(background));
     dst[2] = ZoComposeChannel(src[2], alpha, GetRValue(background));
@@ -97,6 +154,26 @@ CZoResourcePNGData* CZoResourcePNGData::_pSelf = NULL;
 CZoResourcePNGData::CZoResourcePNGData() : m_mapImageData(10)
 {
     m_mapImageData.InitHashTable(17);
+}
+
+unsigned CZoResourcePNGData::GetCompositionCount()
+{
+    return g_compositionCount;
+}
+
+HBITMAP CZoResourcePNGData::CopyDecodedPicture(UINT nID)
+{
+    HBITMAP decoded = NULL;
+    if (!m_mapDecoded.Lookup(nID, decoded)) {
+        CPngImage png;
+        if (!png.Load(nID))
+            return NULL;
+        decoded = static_cast<HBITMAP>(png.Detach());
+        if (decoded == NULL)
+            return NULL;
+        m_mapDecoded.SetAt(nID, decoded);
+    }
+    return CopyPicture(decoded);
 }
 
 CZoResourcePNGData::~CZoResourcePNGData()
@@ -158,6 +235,7 @@ void CZoResourcePNGData::ReleaseImageData(HBITMAP hbm)
         delete[] data.ppBuffers[i];
     delete[] data.ppBuffers;
     m_mapImageData.RemoveKey(hbm);
+    ++g_compositionCount;
 }
 
 void CZoResourcePNGData::_freeAll()
@@ -172,6 +250,15 @@ void CZoResourcePNGData::_freeAll()
         delete[] data.ppBuffers;
     }
     m_mapImageData.RemoveAll();
+    pos = m_mapDecoded.GetStartPosition();
+    while (pos != NULL) {
+        UINT id = 0;
+        HBITMAP decoded = NULL;
+        m_mapDecoded.GetNextAssoc(pos, id, decoded);
+        ::DeleteObject(decoded);
+    }
+    m_mapDecoded.RemoveAll();
+    ++g_compositionCount;
 }
 
 void CZoResourcePNGData::_doDyeBackgroundColor(HBITMAP hbm, int nStates)
@@ -198,23 +285,27 @@ void CZoResourcePNGData::_doDyeBackgroundColor(HBITMAP hbm, int nStates)
         }
         m_mapImageData.SetAt(hbm, data);
         delete[] raw;
+        ++g_compositionCount;
     }
     m_aPendingColors.RemoveAll();
 }
 
 // ---- CZoResourcePNGImage --------------------------------------------------------------------
 
-CZoResourcePNGImage::CZoResourcePNGImage()
+CZoResourcePNGImage::CZoResourcePNGImage() : m_nStatesComposition(0), m_bStatesValid(false)
 {
+    ::ZeroMemory(m_ahStates, sizeof(m_ahStates));
 }
 
 CZoResourcePNGImage::CZoResourcePNGImage(HBITMAP hBitmap, bool bDeleteOnDestroy)
-    : CZoResourceImage(hBitmap, bDeleteOnDestroy)
+    : CZoResourceImage(hBitmap, bDeleteOnDestroy), m_nStatesComposition(0), m_bStatesValid(false)
 {
+    ::ZeroMemory(m_ahStates, sizeof(m_ahStates));
 }
 
 CZoResourcePNGImage::~CZoResourcePNGImage()
 {
+    _clearStateBitmaps();
     CZoResourcePNGData* store = CZoResourcePNGData::GetInstance();
     if (store != NULL && m_hBitmap != NULL)
         store->ReleaseImageData(m_hBitmap);
@@ -222,16 +313,13 @@ CZoResourcePNGImage::~CZoResourcePNGImage()
 
 HBITMAP CZoResourcePNGImage::_loadPNG(UINT nID, int nStates)
 {
-    CPngImage png;
-    if (!png.Load(nID))
+    // Each picture is decoded once per store; every image gets a bitmap of its own, so that
+    // each composes over its own colours.
+    if (!CZoResourcePNGData::InitInstance())
         return NULL;
-    HBITMAP hbm = static_cast<HBITMAP>(png.Detach());
+    HBITMAP hbm = CZoResourcePNGData::GetInstance()->CopyDecodedPicture(nID);
     if (hbm == NULL)
         return NULL;
-    if (!CZoResourcePNGData::InitInstance()) {
-        ::DeleteObject(hbm);
-        return NULL;
-    }
     CZoResourcePNGData::GetInstance()->SetImageData(hbm, nStates);
     return hbm;
 }
@@ -244,6 +332,7 @@ bool CZoResourcePNGImage::LoadResourceImage(UINT nID, int nHorzUnits, int nVertU
         if (store != NULL)
             store->ReleaseImageData(m_hBitmap);
     }
+    _clearStateBitmaps();
     _releaseBitmap();
     HBITMAP hbm = _loadPNG(nID, nVertUnits);
     if (hbm == NULL)
@@ -274,6 +363,18 @@ void CZoResourcePNGImage::_drawImageAlpha(CDC& dc, int x, int y, int w, int h, i
     const BYTE* stateBuffer = store->GetImageData(m_hBitmap, static_cast<E_ToolButtonStates>(state));
     if (stateBuffer == NULL)
         return;
+    const HBITMAP hState = _stateBitmap(state, stateBuffer);
+    if (hState != NULL) {
+        // The composed pixels are opaque: at the cell's own size, blending them is a copy.
+        CZoImageSourceDC source(dc, hState);
+        if (!source.IsReady())
+            return;
+        if (w == srcW && h == srcH)
+            dc.BitBlt(x, y, w, h, source.GetDC(), srcX, srcY, SRCCOPY);
+        else
+            dc.AlphaBlend(x, y, w, h, source.GetDC(), srcX, srcY, srcW, srcH, SourceAlphaBlend());
+        return;
+    }
     const LONG byteCount = m_nWidth * m_nHeight * 4;
     ::SetBitmapBits(m_hBitmap, byteCount, stateBuffer);
     {
@@ -285,6 +386,35 @@ void CZoResourcePNGImage::_drawImageAlpha(CDC& dc, int x, int y, int w, int h, i
     const BYTE* restingBuffer = store->GetImageData(m_hBitmap, ToolButton_Normal);
     if (restingBuffer != NULL)
         ::SetBitmapBits(m_hBitmap, byteCount, restingBuffer);
+}
+
+HBITMAP CZoResourcePNGImage::_stateBitmap(int state, const BYTE* buffer) const
+{
+    if (state < 0 || state >= kKeptStates)
+        return NULL;
+    const unsigned composition = CZoResourcePNGData::GetCompositionCount();
+    if (!m_bStatesValid || m_nStatesComposition != composition) {
+        _clearStateBitmaps();
+        m_nStatesComposition = composition;
+        m_bStatesValid = true;
+        // As after every draw, the bitmap itself holds the resting state from now on.
+        const BYTE* resting = CZoResourcePNGData::GetInstance()->GetImageData(m_hBitmap, ToolButton_Normal);
+        if (resting != NULL)
+            ::SetBitmapBits(m_hBitmap, m_nWidth * m_nHeight * 4, resting);
+    }
+    if (m_ahStates[state] == NULL)
+        m_ahStates[state] = CreatePictureLike(m_hBitmap, buffer);
+    return m_ahStates[state];
+}
+
+void CZoResourcePNGImage::_clearStateBitmaps() const
+{
+    for (int i = 0; i < kKeptStates; ++i) {
+        if (m_ahStates[i] != NULL)
+            ::DeleteObject(m_ahStates[i]);
+        m_ahStates[i] = NULL;
+    }
+    m_bStatesValid = false;
 }
 
 void CZoResourcePNGImage::_setImageData(int nStates)
@@ -342,6 +472,8 @@ void CZoResourcePNGImage::DrawImageOnImage(CDC& dc, int x, int y)
     }
     ::SetBitmapBits(m_hBitmap, width * height * 4, pixels);
     delete[] pixels;
+    // The next draw writes the resting state back into the bitmap, as it always did.
+    _clearStateBitmaps();
     CZoImageSourceDC source(dc, m_hBitmap);
     if (source.IsReady())
         dc.AlphaBlend(x, y, width, height, source.GetDC(), 0, 0, width, height, SourceAlphaBlend());

@@ -68,6 +68,13 @@ public:
     const BYTE* GetImageData(HBITMAP hbm, E_ToolButtonStates state) const;
     void ReleaseImageData(HBITMAP hbm);
 
+    // A picture of its own for the caller (who deletes it) with the pixels of PNG resource
+    // `nID`, decoded only the first time it is asked for; null when the resource is missing.
+    HBITMAP CopyDecodedPicture(UINT nID);
+    // Counts every composition and release of any picture in the process, so that a copy made
+    // from composed buffers can tell that it is out of date.
+    static unsigned GetCompositionCount();
+
 private:
     CZoResourcePNGData();
     ~CZoResourcePNGData();
@@ -79,6 +86,8 @@ private:
 
     CMap<HBITMAP, HBITMAP, stImgData, stImgData&> m_mapImageData;
     CArray<COLORREF, COLORREF> m_aPendingColors;
+    // The decoded pictures by resource id, owned; handed out only as copies.
+    CMap<UINT, UINT, HBITMAP, HBITMAP> m_mapDecoded;
 
     static CZoResourcePNGData* _pSelf;
 };
@@ -120,6 +129,18 @@ private:
     void _drawImageAlpha(CDC& dc, int x, int y, int w, int h, int srcX, int srcY, int srcW, int srcH,
                          int state) const;
     void _setImageData(int nStates);
+    // The composed picture of `state` as a bitmap of its own, made once per composition; null
+    // for a state beyond the kept ones.
+    HBITMAP _stateBitmap(int state, const BYTE* buffer) const;
+    void _clearStateBitmaps() const;
+
+    enum { kKeptStates = 8 };
+    // Bitmaps of the composed states, so that a draw copies a cell instead of writing the
+    // whole picture into the bitmap twice; made from the compositions counted up to
+    // m_nStatesComposition.
+    mutable HBITMAP m_ahStates[kKeptStates];
+    mutable unsigned m_nStatesComposition;
+    mutable bool m_bStatesValid;
 };
 
 } // namespace ZoControls

@@ -57,6 +57,8 @@ inline void UseCoreTypes(CObject* object, CString& text)
     LPWSTR buffer = text.GetBuffer(260);
     buffer[0] = 0;
     text.ReleaseBuffer();
+    (void)text.GetBuffer(4);
+    text.ReleaseBuffer(0);
     LPCWSTR raw = text;
     (void)raw;
     CString joined = text + L"  " + CString(L"x");
@@ -160,6 +162,18 @@ inline void UseFilesAndCollections(CFile* file, CList<CWnd*, CWnd*>& windows)
     }
     (void)registry.GetCount();
     registry.RemoveAll();
+
+    // The PNG store's decoded pictures by resource id.
+    CMap<UINT, UINT, HBITMAP, HBITMAP> pictures;
+    HBITMAP picture = nullptr;
+    pictures.SetAt(808u, picture);
+    (void)pictures.Lookup(808u, picture);
+    pos = pictures.GetStartPosition();
+    while (pos) {
+        UINT id;
+        pictures.GetNextAssoc(pos, id, picture);
+    }
+    pictures.RemoveAll();
 
     windows.AddTail(static_cast<CWnd*>(nullptr));
     pos = windows.GetHeadPosition();

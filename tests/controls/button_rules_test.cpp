@@ -139,6 +139,10 @@ TEST(ButtonRules, GroupBoxGeometry)
     EXPECT_EQ(ZoGroupBoxIndent(1.0f), 7);
     EXPECT_EQ(ZoGroupBoxIndent(1.2f), 8);
     EXPECT_EQ(ZoGroupBoxIndent(1.6f), 11);
+    EXPECT_EQ(ZoGroupBoxCaptionAlign(0), static_cast<UINT>(TA_LEFT));
+    EXPECT_EQ(ZoGroupBoxCaptionAlign(BS_LEFT), static_cast<UINT>(TA_LEFT));
+    EXPECT_EQ(ZoGroupBoxCaptionAlign(BS_RIGHT), static_cast<UINT>(TA_RIGHT));
+    EXPECT_EQ(ZoGroupBoxCaptionAlign(BS_CENTER), static_cast<UINT>(TA_CENTER));
 }
 
 TEST(ButtonRules, EveryPushKindAndThemeSharesOneSkin)
@@ -148,6 +152,24 @@ TEST(ButtonRules, EveryPushKindAndThemeSharesOneSkin)
         EXPECT_EQ(ZoPushButtonResourceId(false, static_cast<E_ZoTheme>(theme)), CString(L"BMP_ZO_BTNDEFPUSH_NORMAL"));
     }
     EXPECT_EQ(ZoPushButtonResourceId(false, static_cast<E_ZoTheme>(17)), CString(L"BMP_ZO_BTNDEFPUSH_NORMAL"));
+}
+
+// A one-pixel pen line sets every pixel from its start up to, not including, its end.
+TEST(ButtonRules, BorderLinePixels)
+{
+    const struct
+    {
+        POINT from, to;
+        CRect pixels;
+    } rows[] = {
+        {{2, 3}, {2, 9}, CRect(2, 3, 3, 9)},  // down
+        {{2, 9}, {2, 3}, CRect(2, 4, 3, 10)}, // up
+        {{1, 5}, {7, 5}, CRect(1, 5, 7, 6)},  // right
+        {{7, 5}, {1, 5}, CRect(2, 5, 8, 6)},  // left
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(ZoAxisLinePixels(row.from, row.to), row.pixels) << row.from.x << "," << row.from.y;
+    EXPECT_TRUE(ZoAxisLinePixels(POINT{4, 4}, POINT{4, 4}).IsRectEmpty());
 }
 
 TEST(ButtonRules, Kinds)

@@ -522,3 +522,44 @@ TEST_F(PngTest, LoadDrawFreeCyclesKeepGdiCount)
         },
         zotest::count_gdi | zotest::count_heap);
 }
+
+// The store decodes a picture once and hands every caller a bitmap of its own with its pixels.
+TEST_F(PngTest, DecodedPictureIsHandedOutAsCopies)
+{
+    int width = 0, height = 0;
+    const std::vector<DWORD> raw = CheckRadioPixels(width, height);
+    ASSERT_EQ(raw.size(), 60u * 75u);
+    const HBITMAP first = store().CopyDecodedPicture(kCheckRadioPng);
+    const HBITMAP second = store().CopyDecodedPicture(kCheckRadioPng);
+    ASSERT_NE(first, nullptr);
+    ASSERT_NE(second, nullptr);
+    EXPECT_NE(first, second);
+    DeleteObject(first);
+    std::vector<DWORD> pixels(raw.size());
+    ASSERT_EQ(GetBitmapBits(second, 60 * 75 * 4, pixels.data()), 60 * 75 * 4);
+    EXPECT_EQ(pixels, raw);
+    DeleteObject(second);
+    EXPECT_EQ(store().CopyDecodedPicture(9999u), nullptr);
+}
+
+// Two images of one picture composed over different colours each draw their own.
+TEST_F(PngTest, ImagesOfOnePictureKeepTheirOwnCompositions)
+{
+    int width = 0, height = 0;
+    const std::vector<DWORD> raw = CheckRadioPixels(width, height);
+    ASSERT_EQ(raw.size(), 60u * 75u);
+    CZoResourcePNGImage red, green;
+    ASSERT_TRUE(red.LoadResourceImage(kCheckRadioPng, 4, 5));
+    ASSERT_TRUE(green.LoadResourceImage(kCheckRadioPng, 4, 5));
+    red.SetBackgroundColor(RGB(250, 0, 0));
+    green.SetBackgroundColor(RGB(0, 250, 0));
+    for (int pass = 0; pass < 2; ++pass) {
+        DibCanvas canvas(40, 20);
+        red.DrawUnitImage(canvas.dc(), 0, 0, 1, 1, 0);
+        green.DrawUnitImage(canvas.dc(), 20, 0, 1, 1, 0);
+        EXPECT_TRUE(CellShowsPicture(canvas.dib(), POINT{0, 0}, raw, 15, 15, 15, RGB(250, 0, 0))) << pass;
+        EXPECT_TRUE(CellShowsPicture(canvas.dib(), POINT{20, 0}, raw, 15, 15, 15, RGB(0, 250, 0))) << pass;
+        // Recomposing one of them leaves the other as it was.
+        red.SetBackgroundColor(RGB(250, 0, 0));
+    }
+}

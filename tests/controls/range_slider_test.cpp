@@ -272,3 +272,19 @@ TEST_F(RangeSliderTest, ResetMenuSelectsTheWholeRangeAndTellsTheParent)
     const zotest::ExpectedMessage reset[] = {RangeChanged(ZoRangeChange_Reset)};
     ZOTEST_EXPECT_SEQUENCE(recorder_, reset);
 }
+
+TEST_F(RangeSliderTest, EmptyRangeOrNoChannelConvertsToZero)
+{
+    Create(50, 50);
+    EXPECT_EQ(slider_.ConvertSliderPos2WindowX(50), 0);
+    EXPECT_EQ(slider_.ConvertWindowX2SliderPos(100), 0);
+    slider_.SetRange(0, 100, TRUE);
+    slider_.MoveWindow(0, 0, 0, 0);
+    slider_.GetChannelRect(&channel_);
+    if (channel_.Width() <= 0) {
+        EXPECT_EQ(slider_.ConvertSliderPos2WindowX(50), 0);
+        EXPECT_EQ(slider_.ConvertWindowX2SliderPos(100), 0);
+    }
+    slider_.SetSelection(20, 60);
+    EXPECT_EQ(slider_.GetLeftBoundPt().x, channel_.left + slider_.ConvertSliderPos2WindowX(20));
+}

@@ -8,6 +8,7 @@
 
 #include "controls/ZoTabCtrl.h"
 #include "core/ZoThemeManager.h"
+#include "images/ZoResourceImage.h"
 
 using namespace ZoControls;
 using controltest::ControlTest;
@@ -277,4 +278,38 @@ TEST_F(TabTest, AttachedPlatformTabControlIsSkinned)
     const CRect page = Page();
     ZOTEST_EXPECT_CELL(zotest::RenderClient(native), CPoint(page.right, page.bottom), frame,
                        zotest::CellRect(frame, 3, 9, 2, 2), controltest::kMagenta);
+}
+
+namespace {
+
+// Tab and frame strips that did not load.
+class UnskinnedTabs : public CZoTabCtrl
+{
+public:
+    void DropSkins()
+    {
+        delete m_pTabSkin;
+        m_pTabSkin = new CZoResourceBMPImage();
+        delete m_pFrameSkin;
+        m_pFrameSkin = new CZoResourceBMPImage();
+    }
+};
+
+} // namespace
+
+TEST_F(TabTest, StripsThatDidNotLoadLeaveBackgroundAndCaptions)
+{
+    UnskinnedTabs tabs;
+    ASSERT_TRUE(tabs.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), parentWnd(), 9));
+    tabs.InsertItem(0, L"One");
+    tabs.DropSkins();
+    const zotest::Dib dib = zotest::RenderClient(tabs.m_hWnd);
+    CRect page;
+    tabs.GetClientRect(&page);
+    tabs.AdjustRect(FALSE, &page);
+    ZOTEST_EXPECT_FILL(dib, CRect(page.left - 3, page.bottom, page.right + 3, page.bottom + 3), Slot(kBackground));
+    CRect item;
+    tabs.GetItemRect(0, &item);
+    EXPECT_GT(controltest::CountPixels(dib, item, Slot(7)), 0);
+    tabs.DestroyWindow();
 }

@@ -125,7 +125,7 @@ int CZoRangeSliderCtrl::HitTest(CPoint point) const
 
 void CZoRangeSliderCtrl::NotifyChangedSelectionToParent(int code) const
 {
-    ::SendMessageW(::GetParent(m_hWnd), WM_ZO_RANGE_CHANGED, (WPARAM)code, 0);
+    ::SendMessageW(::GetParent(m_hWnd), ZoMsg_RangeChanged, (WPARAM)code, 0);
 }
 
 void CZoRangeSliderCtrl::_notifyScroll(UINT code, int pos) const

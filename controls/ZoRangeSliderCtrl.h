@@ -12,7 +12,7 @@
 namespace ZoControls {
 
 // Sent to the parent when the selection changed; wParam says how.
-const UINT WM_ZO_RANGE_CHANGED = WM_APP + 4;
+const UINT ZoMsg_RangeChanged = WM_APP + 4;
 enum E_ZoRangeChange
 {
     ZoRangeChange_Reset = 0,

@@ -51,7 +51,7 @@ const CRect kRangeReadout(424, 430, 824, 450);
 BEGIN_MESSAGE_MAP(CSlidersPage, CGalleryPage)
     ON_WM_HSCROLL()
     ON_WM_CONTEXTMENU()
-    ON_MESSAGE(WM_ZO_RANGE_CHANGED, &CSlidersPage::OnRangeChanged)
+    ON_MESSAGE(ZoMsg_RangeChanged, &CSlidersPage::OnRangeChanged)
 END_MESSAGE_MAP()
 
 CSlidersPage::CSlidersPage() {}

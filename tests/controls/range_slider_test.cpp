@@ -62,7 +62,7 @@ protected:
     }
     static zotest::ExpectedMessage RangeChanged(WPARAM how)
     {
-        return {WM_ZO_RANGE_CHANGED, zotest::sent | zotest::parent | zotest::wparam | zotest::lparam, how, 0};
+        return {ZoMsg_RangeChanged, zotest::sent | zotest::parent | zotest::wparam | zotest::lparam, how, 0};
     }
 
     CZoRangeSliderCtrl slider_;
@@ -204,7 +204,7 @@ TEST_F(RangeSliderTest, LosingTheCaptureEndsTheDragSilently)
         slider_.GetSelection(start, end);
         EXPECT_EQ(start, 30) << c.how;
         EXPECT_EQ(recorder_.Count(WM_HSCROLL, zotest::WindowRole::Parent) +
-                      recorder_.Count(WM_ZO_RANGE_CHANGED, zotest::WindowRole::Parent),
+                      recorder_.Count(ZoMsg_RangeChanged, zotest::WindowRole::Parent),
                   0u)
             << c.how;
         ::ReleaseCapture();
@@ -220,22 +220,10 @@ const int kMaxMenuTicks = 40;
 int g_menuTicks = 0;
 CString g_menuText;
 
-HWND FindOpenPopup()
-{
-    HWND window = nullptr;
-    while ((window = ::FindWindowExW(nullptr, window, L"#32768", nullptr)) != nullptr) {
-        DWORD process = 0;
-        ::GetWindowThreadProcessId(window, &process);
-        if (process == ::GetCurrentProcessId() && ::IsWindowVisible(window))
-            return window;
-    }
-    return nullptr;
-}
-
 // Reads the open menu's item and chooses it with the keyboard.
 void CALLBACK ChooseFirstItem(HWND window, UINT, UINT_PTR id, DWORD)
 {
-    const HWND popup = FindOpenPopup();
+    const HWND popup = zotest::FindOpenPopupMenu();
     if (!popup && ++g_menuTicks < kMaxMenuTicks)
         return;
     ::KillTimer(window, id);
@@ -287,4 +275,21 @@ TEST_F(RangeSliderTest, EmptyRangeOrNoChannelConvertsToZero)
     }
     slider_.SetSelection(20, 60);
     EXPECT_EQ(slider_.GetLeftBoundPt().x, channel_.left + slider_.ConvertSliderPos2WindowX(20));
+}
+
+TEST_F(RangeSliderTest, AttachedPlatformTrackbarGetsThumbAndBounds)
+{
+    HWND native = MakeNative(TRACKBAR_CLASSW, TBS_ENABLESELRANGE | TBS_BOTH | TBS_NOTICKS, RECT{0, 0, 320, 60});
+    ASSERT_TRUE(slider_.SubclassWindow(native));
+    slider_.SetRange(0, 100, TRUE);
+    slider_.SetSelection(20, 60);
+    slider_.GetThumbRect(&thumb_);
+    const zotest::Dib dib = zotest::RenderClient(native);
+    const CPoint l = slider_.GetLeftBoundPt();
+    ZOTEST_EXPECT_PIXEL(dib, l.x - 2, l.y + thumb_.Width() - 2, kBound);
+    HBITMAP strip = controltest::LoadLibraryBitmap(L"BMP_ZO_SLIDERNORMAL_HOR_BOTH");
+    const zotest::Dib cell = controltest::StretchedCell(strip, 4, 1, 0, 0, thumb_.Width(), thumb_.Height(),
+                                                        dib.Pixel(thumb_.left, thumb_.top));
+    EXPECT_TRUE(controltest::AreaMatches(dib, thumb_, cell));
+    ::DeleteObject(strip);
 }

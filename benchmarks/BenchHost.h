@@ -25,7 +25,8 @@ int RunWithHost(const wchar_t* name, WNDPROC hostProc, Body body)
         printf("%ls: GDI+ did not start\n", name);
         return 1;
     }
-    INITCOMMONCONTROLSEX controls = {sizeof(INITCOMMONCONTROLSEX), ICC_PROGRESS_CLASS | ICC_STANDARD_CLASSES};
+    INITCOMMONCONTROLSEX controls = {sizeof(INITCOMMONCONTROLSEX),
+                                     ICC_PROGRESS_CLASS | ICC_STANDARD_CLASSES | ICC_BAR_CLASSES | ICC_TAB_CLASSES};
     ::InitCommonControlsEx(&controls);
     ::InitializeZoCtrl();
 

@@ -6,7 +6,6 @@
 // Paint is WM_PRINTCLIENT into a memory DC of the control's size (the drawing alone; left out
 // for a native control that draws nothing on it); repaint is RedrawWindow with invalidate +
 // erase + update-now on the visible window (all the work of one exposure).
-#include "core/ZoMemDC.h"
 #include <afxwin.h>
 #include <afxcmn.h>
 #include <commctrl.h>
@@ -17,11 +16,17 @@
 #include <vector>
 
 #include "BenchHost.h"
+#include "BenchPaint.h"
 #include "BenchTiming.h"
 #include "ZoCtrl.h"
 
 using namespace ZoControls;
 using zobench::Pair;
+using zobench::Report;
+using zobench::Twins;
+using zobench::kNoNativePaint;
+using zobench::kNoNativeTime;
+using zobench::kRuns;
 
 namespace {
 
@@ -29,25 +34,9 @@ const int kBarThickness = 19;
 const int kBarLength = 200;
 const int kProgressLength = 240;
 const int kProgressThickness = 18;
-// Each figure is the best of several alternating runs of the two windows, so that load from
-// elsewhere on the machine falls on both alike.
-const int kRuns = 5;
-const int kPaintsPerRun = 60;
 const int kDragSteps = 100;
 // Two rows of the vertical bar far enough apart that every step changes the position.
 const int kDragRows[2] = {60, 140};
-const char* const kNoNativePaint = "the native control draws nothing on WM_PRINTCLIENT";
-const char* const kNoNativeTime = "the native control was not measured";
-
-// `missing` says why there is no native figure when `native` is 0.
-void Report(const char* what, double seconds, double native, const char* missing)
-{
-    if (native > 0)
-        printf("%-46s %10.3f us   ratio %8.2f x native (%.3f us)\n", what, seconds * 1e6, seconds / native,
-               native * 1e6);
-    else
-        printf("%-46s %10.3f us   (%s)\n", what, seconds * 1e6, missing);
-}
 
 // The host: a plain window that timestamps the thumb-tracking notifications of one bar.
 struct TrackLog
@@ -80,54 +69,6 @@ void SetProgressState(HWND progress)
     ::SendMessageW(progress, PBM_SETPOS, 50, 0);
 }
 
-double RepaintTime(HWND hWnd)
-{
-    return zobench::TimePerCall(
-        kPaintsPerRun, [hWnd] { ::RedrawWindow(hWnd, NULL, NULL, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW); });
-}
-
-double PaintTime(HWND hWnd, CDC& dc)
-{
-    return zobench::TimePerCall(kPaintsPerRun, [hWnd, &dc] {
-        ::SendMessageW(hWnd, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.GetSafeHdc()), PRF_CLIENT | PRF_ERASEBKGND);
-    });
-}
-
-// Whether `hWnd` draws anything on WM_PRINTCLIENT into `dc` of `size`.
-bool DrawsOnPrintClient(HWND hWnd, CDC& dc, const CSize& size)
-{
-    const COLORREF unpainted = RGB(255, 0, 255);
-    dc.FillSolidRect(0, 0, size.cx, size.cy, unpainted);
-    ::SendMessageW(hWnd, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.GetSafeHdc()), PRF_CLIENT | PRF_ERASEBKGND);
-    for (int y = 0; y < size.cy; ++y)
-        for (int x = 0; x < size.cx; ++x)
-            if (dc.GetPixel(x, y) != unpainted)
-                return true;
-    return false;
-}
-
-// Best paint times of `zo` and `native`, measured in turns; the native time stays 0 when that
-// control draws nothing on WM_PRINTCLIENT.
-Pair ComparePaints(HWND zo, HWND native)
-{
-    CRect client;
-    ::GetClientRect(zo, &client);
-    CClientDC screen(NULL);
-    CZoMemDC target(&screen, client.Width(), client.Height());
-    if (!target.GetSafeHdc())
-        return Pair();
-    if (!DrawsOnPrintClient(native, target, client.Size()))
-        return zobench::CompareInTurns(kRuns, [zo, &target] { return PaintTime(zo, target); }, [] { return 0.0; });
-    return zobench::CompareInTurns(kRuns, [zo, &target] { return PaintTime(zo, target); },
-                                   [native, &target] { return PaintTime(native, target); });
-}
-
-// Best repaint times of `zo` and `native`, measured in turns.
-Pair CompareRepaints(HWND zo, HWND native)
-{
-    return zobench::CompareInTurns(kRuns, [zo] { return RepaintTime(zo); }, [native] { return RepaintTime(native); });
-}
-
 // Seconds per drag step of a vertical bar: the moves and the release are queued before the press
 // on the thumb, so a bar that tracks in a modal loop of its own (Windows' native one) and a bar
 // that tracks through ordinary messages (ours) see the same input. The step time is the spacing
@@ -154,38 +95,6 @@ double DragStepTime(HWND bar, size_t& notifications)
         return 0;
     return (times.back() - times.front()) / static_cast<double>(times.size() - 1);
 }
-
-// A skinned control and the native one it stands in for, side by side on the host.
-template <class TControl>
-class Twins
-{
-public:
-    Twins(HWND host, const wchar_t* nativeClass, DWORD style, const CRect& rect, UINT id)
-    {
-        const DWORD child = WS_CHILD | WS_VISIBLE | style;
-        m_zo.Create(child, rect, CWnd::FromHandle(host), id);
-        const CRect beside = rect + CPoint(300, 0);
-        m_hNative = ::CreateWindowExW(0, nativeClass, L"", child, beside.left, beside.top, beside.Width(),
-                                      beside.Height(), host, NULL, ::GetModuleHandleW(NULL), NULL);
-    }
-    ~Twins()
-    {
-        m_zo.DestroyWindow();
-        if (m_hNative)
-            ::DestroyWindow(m_hNative);
-    }
-    HWND Zo() const { return m_zo.GetSafeHwnd(); }
-    HWND Native() const { return m_hNative; }
-    Pair BestPaints() const { return ComparePaints(Zo(), m_hNative); }
-    Pair BestRepaints() const { return CompareRepaints(Zo(), m_hNative); }
-
-private:
-    Twins(const Twins&);
-    Twins& operator=(const Twins&);
-
-    TControl m_zo;
-    HWND m_hNative;
-};
 
 void RunScrollBars(HWND host)
 {

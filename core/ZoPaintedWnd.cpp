@@ -7,7 +7,7 @@ namespace ZoControls {
 
 namespace {
 
-void paintInto(CWnd& wnd, IZoPaintedWnd& painted, E_ZoPaintMode mode, CDC& dc)
+void drawInto(CWnd& wnd, IZoPaintedWnd& painted, E_ZoPaintMode mode, CDC& dc)
 {
     if (mode != ZoPaint_Offscreen)
     {
@@ -23,6 +23,21 @@ void paintInto(CWnd& wnd, IZoPaintedWnd& painted, E_ZoPaintMode mode, CDC& dc)
         return;
     painted.DrawClient(memDC);
     memDC.CopyToTarget();
+}
+
+void paintInto(CWnd& wnd, IZoPaintedWnd& painted, E_ZoPaintMode mode, CDC& dc)
+{
+    CRect kept;
+    if (!painted.GetKeptRect(kept) || kept.IsRectEmpty())
+    {
+        drawInto(wnd, painted, mode, dc);
+        return;
+    }
+    // The caller's DC (WM_PRINTCLIENT, WM_PAINT with a DC) gets its clipping back.
+    const int saved = dc.SaveDC();
+    dc.ExcludeClipRect(&kept);
+    drawInto(wnd, painted, mode, dc);
+    dc.RestoreDC(saved);
 }
 
 } // namespace

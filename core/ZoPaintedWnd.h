@@ -27,6 +27,9 @@ public:
     virtual E_ZoPaintMode GetPaintMode() = 0;
     // Draws the client area into `dc`, whose origin is the client area's top-left corner.
     virtual void DrawClient(CDC& dc) = 0;
+    // A part of the client area that painting leaves as it is (a tab control's page belongs to
+    // the host's page windows); false when the whole client area is painted.
+    virtual bool GetKeptRect(CRect& rect) = 0;
 
 protected:
     ~IZoPaintedWnd() {}
@@ -49,6 +52,7 @@ public:
     void RepaintNow() { ZoRepaintNow(this->GetSafeHwnd()); }
 
     E_ZoPaintMode GetPaintMode() override { return ZoPaint_Offscreen; }
+    bool GetKeptRect(CRect&) override { return false; }
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override

@@ -6,7 +6,9 @@
 #include "MenusPage.h"
 #include "ScrollingPage.h"
 #include "SkinsPage.h"
+#include "SlidersPage.h"
 #include "StaticsPage.h"
+#include "TabsPage.h"
 #include "ThemePage.h"
 
 namespace {
@@ -19,6 +21,8 @@ const GalleryPageEntry kPages[] = {
     {L"Scrolling", &CreateGalleryPage<CScrollingPage>},
     {L"Buttons", &CreateGalleryPage<CButtonsPage>},
     {L"Statics", &CreateGalleryPage<CStaticsPage>},
+    {L"Sliders", &CreateGalleryPage<CSlidersPage>},
+    {L"Tabs", &CreateGalleryPage<CTabsPage>},
 };
 } // namespace
 

@@ -18,4 +18,8 @@
 #include "controls/ZoButton.h"
 #include "controls/ZoButtonVariants.h"
 #include "controls/ZoStatic.h"
+#include "controls/ZoSliderMath.h"
+#include "controls/ZoSliderCtrl.h"
+#include "controls/ZoRangeSliderCtrl.h"
+#include "controls/ZoTabCtrl.h"
 #include "frames/ZoMenuXP.h"

@@ -387,6 +387,9 @@ inline void UseDrawing(CWnd* wnd, CDC& dc, HBITMAP bitmap)
     (void)dc.GetPixel(0, 0);
     (void)dc.SetPixel(0, 0, RGB(1, 2, 3));
     (void)dc.ExcludeClipRect(&rect);
+    const int saved = dc.SaveDC();
+    (void)dc.RestoreDC(saved);
+    (void)dc.GetTextColor();
     (void)dc.IntersectClipRect(&rect);
     (void)dc.GetClipBox(&rect);
     (void)dc.DrawIcon(0, 0, ::LoadIcon(nullptr, IDI_APPLICATION));
@@ -502,6 +505,8 @@ protected:
     { CWnd::OnDrawItem(nIDCtl, lpDrawItemStruct); }
     afx_msg void OnMouseMove(UINT nFlags, CPoint point) { CWnd::OnMouseMove(nFlags, point); }
     afx_msg void OnMouseLeave() { CWnd::OnMouseLeave(); }
+    afx_msg void OnCaptureChanged(CWnd* pWnd) { CWnd::OnCaptureChanged(pWnd); }
+    afx_msg void OnCancelMode() { CWnd::OnCancelMode(); }
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt) { return CWnd::OnMouseWheel(nFlags, zDelta, pt); }
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point) { CWnd::OnLButtonDown(nFlags, point); }
     afx_msg void OnLButtonUp(UINT nFlags, CPoint point) { CWnd::OnLButtonUp(nFlags, point); }
@@ -549,6 +554,8 @@ BEGIN_MESSAGE_MAP(SurfaceWnd, CWnd)
     ON_WM_DRAWITEM()
     ON_WM_MOUSEMOVE()
     ON_WM_MOUSELEAVE()
+    ON_WM_CAPTURECHANGED()
+    ON_WM_CANCELMODE()
     ON_WM_MOUSEWHEEL()
     ON_WM_LBUTTONDOWN()
     ON_WM_LBUTTONUP()
@@ -653,6 +660,8 @@ inline void UseWindow(CWnd* wnd, CWnd* parent)
     (void)CWnd::GetCapture();
     wnd->SetWindowText(L"Dialog");
     (void)wnd->SetFocus();
+    (void)wnd->SetCapture();
+    (void)CWnd::GetCapture();
     (void)CWnd::GetFocus();
     CDC* dc = wnd->GetDC();
     wnd->ReleaseDC(dc);

@@ -12,9 +12,12 @@
 #include "controls/ZoButtonVariants.h"
 #include "frames/ZoMenuXP.h"
 #include "controls/ZoProgressCtrl.h"
+#include "controls/ZoRangeSliderCtrl.h"
 #include "controls/ZoScrollBar.h"
 #include "controls/ZoSpinButtonCtrl.h"
+#include "controls/ZoSliderCtrl.h"
 #include "controls/ZoStatic.h"
+#include "controls/ZoTabCtrl.h"
 
 using namespace ZoControls;
 using controltest::Slot;
@@ -103,6 +106,34 @@ std::unique_ptr<CWnd> MakeSpin(CWnd* parent)
     return Keep(std::move(spin), created);
 }
 
+// Ticks, a selection and (for the range slider) its bound markers.
+template <class TSlider>
+std::unique_ptr<CWnd> MakeSlider(CWnd* parent)
+{
+    auto slider = std::make_unique<TSlider>();
+    const BOOL created = slider->Create(WS_CHILD | TBS_AUTOTICKS | TBS_BOTH | TBS_ENABLESELRANGE, kRect, parent, kId);
+    if (created) {
+        slider->SetRange(0, 100, FALSE);
+        slider->SetTicFreq(20);
+        slider->SetTic(55);
+        slider->SetSelection(20, 60);
+    }
+    return Keep(std::move(slider), created);
+}
+
+// Side tabs own rotated fonts.
+template <DWORD style>
+std::unique_ptr<CWnd> MakeTabs(CWnd* parent)
+{
+    auto tabs = std::make_unique<CZoTabCtrl>();
+    const BOOL created = tabs->Create(WS_CHILD | style, CRect(5, 5, 205, 125), parent, kId);
+    if (created) {
+        tabs->InsertItem(0, L"One");
+        tabs->InsertItem(1, L"Two");
+    }
+    return Keep(std::move(tabs), created);
+}
+
 // A movable separator, dragged once: the rubber band draws on the parent.
 std::unique_ptr<CWnd> MakeSeparator(CWnd* parent)
 {
@@ -138,6 +169,8 @@ const ControlCase kPaintingControls[] = {
     {"ScrollBar", MakeScrollBar},
     {"Progress", MakeProgress},
     {"Spin", MakeSpin},
+    {"Slider", MakeSlider<CZoSliderCtrl>},
+    {"Tabs", MakeTabs<0>},
 };
 
 using EraseTest = ControlCaseTest;
@@ -236,6 +269,8 @@ const ControlCase kMenuForwarders[] = {
     {"ScrollBar", MakeScrollBar},
     {"Progress", MakeProgress},
     {"Separator", MakeSeparator},
+    {"Slider", MakeSlider<CZoSliderCtrl>},
+    {"Tabs", MakeTabs<0>},
 };
 
 class MenuForwardingTest : public ControlCaseTest
@@ -355,6 +390,10 @@ const ControlCase kEveryControl[] = {
     {"Progress", MakeProgress},
     {"Spin", MakeSpin},
     {"Separator", MakeSeparator},
+    {"Slider", MakeSlider<CZoSliderCtrl>},
+    {"RangeSlider", MakeSlider<CZoRangeSliderCtrl>},
+    {"TopTabs", MakeTabs<0>},
+    {"SideTabs", MakeTabs<TCS_VERTICAL | TCS_MULTILINE | TCS_RIGHT>},
 };
 
 using LeakTest = ControlCaseTest;

@@ -32,18 +32,6 @@ HMENU g_trackedMenu = nullptr;
 const UINT_PTR kProbeTimer = 77;
 const int kMaxTicks = 40;
 
-HWND FindOpenPopup()
-{
-    HWND window = nullptr;
-    while ((window = ::FindWindowExW(nullptr, window, L"#32768", nullptr)) != nullptr) {
-        DWORD process = 0;
-        ::GetWindowThreadProcessId(window, &process);
-        if (process == ::GetCurrentProcessId() && ::IsWindowVisible(window))
-            return window;
-    }
-    return nullptr;
-}
-
 // The frame's diagonal pixels (0,0), (1,1), (2,2) of a picture of the whole popup window.
 void ReadDiagonal(const zotest::Dib& dib, COLORREF (&out)[3])
 {
@@ -53,7 +41,7 @@ void ReadDiagonal(const zotest::Dib& dib, COLORREF (&out)[3])
 
 void CALLBACK ProbeTimer(HWND window, UINT, UINT_PTR id, DWORD)
 {
-    const HWND popup = FindOpenPopup();
+    const HWND popup = zotest::FindOpenPopupMenu();
     if (!popup && ++g_probe.ticks < kMaxTicks)
         return;
     ::KillTimer(window, id);

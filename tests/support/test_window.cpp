@@ -91,6 +91,18 @@ bool RunningUnderWine()
     return wine;
 }
 
+HWND FindOpenPopupMenu()
+{
+    HWND window = nullptr;
+    while ((window = ::FindWindowExW(nullptr, window, L"#32768", nullptr)) != nullptr) {
+        DWORD process = 0;
+        ::GetWindowThreadProcessId(window, &process);
+        if (process == ::GetCurrentProcessId() && ::IsWindowVisible(window))
+            return window;
+    }
+    return nullptr;
+}
+
 HWND CreateSolidWindow(const RECT& rect, COLORREF color, HWND parent, DWORD extraStyle, DWORD exStyle)
 {
     if (!RegisterSolidClass())

@@ -5,6 +5,7 @@
 //   SolidWindowColor / SetSolidWindowColor
 //   ScopedWindow              destroys its window at scope end (if it still exists)
 //   ScopedCommonControls6     activates a comctl32 version 6 context for windows created in scope
+//   FindOpenPopupMenu         the visible popup-menu window ("#32768") of this process, if any
 //
 // Test executables carry no manifest: BUTTON, EDIT, STATIC, COMBOBOX, LISTBOX and SCROLLBAR are
 // then the system's classic classes (under Wine: user32's, button face RGB(245,245,245)). Inside a
@@ -17,6 +18,9 @@
 namespace zotest {
 
 bool RunningUnderWine();
+
+// The visible popup-menu window of this process (a menu that TrackPopupMenu shows); null for none.
+HWND FindOpenPopupMenu();
 
 // `parent` null: a visible WS_POPUP top-level window at `rect` (screen coordinates); otherwise a
 // visible WS_CHILD at `rect` in the parent's client coordinates. `extraStyle` is or-ed in.

@@ -177,7 +177,7 @@ void CZoSliderCtrl::DrawThumb(CDC& dc, const CRect& rect) const
 
 void CZoSliderCtrl::DrawTicks(CDC& dc, const CRect&, const CRect& channel, const CRect& thumb) const
 {
-    const int count = (int)SendMessage(TBM_GETNUMTICS);
+    const int count = (int)::SendMessageW(m_hWnd, TBM_GETNUMTICS, 0, 0);
     if (count < 1)
         return;
     const float zoom = ZoCurrentZoom(m_eMonitorSize);
@@ -191,6 +191,8 @@ void CZoSliderCtrl::DrawTicks(CDC& dc, const CRect&, const CRect& channel, const
     // Ticks before the thumb (above or left of it) and after it.
     const bool before = m_bTopOrLeft || m_bBoth;
     const bool after = !m_bTopOrLeft || m_bBoth;
+    const TickAxis axis = _readTickAxis();
+    m_pPaintingAxis = &axis;
     const int beforeFrom = (m_bHorizontal ? thumb.top : thumb.left) - length - gap;
     const int afterFrom = (m_bHorizontal ? thumb.bottom : thumb.right) + gap;
     for (int i = 0; i < count; ++i)
@@ -201,7 +203,7 @@ void CZoSliderCtrl::DrawTicks(CDC& dc, const CRect&, const CRect& channel, const
         else if (i == count - 1)
             at = ZoSliderLastTickPixel(end, thumbLength);
         else
-            at = (int)SendMessage(TBM_GETTICPOS, i - 1);
+            at = (int)::SendMessageW(m_hWnd, TBM_GETTICPOS, i - 1, 0);
         const int froms[2] = {beforeFrom, afterFrom};
         const bool drawn[2] = {before, after};
         for (int side = 0; side < 2; ++side)
@@ -220,6 +222,7 @@ void CZoSliderCtrl::DrawTicks(CDC& dc, const CRect&, const CRect& channel, const
             }
         }
     }
+    m_pPaintingAxis = nullptr;
     dc.SelectObject(pOldPen);
 }
 
@@ -355,14 +358,24 @@ LRESULT CZoSliderCtrl::OnGetTicPos(WPARAM wParam, LPARAM)
 {
     if (wParam >= m_ticks.count)
         return -1;
+    const TickAxis axis = m_pPaintingAxis ? *m_pPaintingAxis : _readTickAxis();
+    return ZoSliderTickPixel(m_ticks.pTicks[wParam], axis.rangeMin, axis.rangeMax, axis.start, axis.end,
+                             axis.thumbLength);
+}
+
+CZoSliderCtrl::TickAxis CZoSliderCtrl::_readTickAxis() const
+{
     CRect thumb;
     GetThumbRect(&thumb);
     CRect channel;
     GetChannelRect(&channel);
-    const int tick = m_ticks.pTicks[wParam];
-    if (m_bHorizontal)
-        return ZoSliderTickPixel(tick, GetRangeMin(), GetRangeMax(), channel.left, channel.right, thumb.Width());
-    return ZoSliderTickPixel(tick, GetRangeMin(), GetRangeMax(), channel.top, channel.bottom, thumb.Height());
+    TickAxis axis;
+    axis.rangeMin = GetRangeMin();
+    axis.rangeMax = GetRangeMax();
+    axis.start = m_bHorizontal ? channel.left : channel.top;
+    axis.end = m_bHorizontal ? channel.right : channel.bottom;
+    axis.thumbLength = m_bHorizontal ? thumb.Width() : thumb.Height();
+    return axis;
 }
 
 LRESULT CZoSliderCtrl::OnGetNumTics(WPARAM, LPARAM)

@@ -94,6 +94,20 @@ protected:
     int m_nSelEnd;
 
 private:
+    // What a tick's pixel depends on, read from the platform control.
+    struct TickAxis
+    {
+        int rangeMin;
+        int rangeMax;
+        int start;
+        int end;
+        int thumbLength;
+    };
+    TickAxis _readTickAxis() const;
+    // Set while DrawTicks runs: its TBM_GETTICPOS calls answer from one reading instead of four
+    // messages each.
+    mutable const TickAxis* m_pPaintingAxis = nullptr;
+
     CZoSliderCtrl(const CZoSliderCtrl&);
     CZoSliderCtrl& operator=(const CZoSliderCtrl&);
 };

@@ -18,4 +18,8 @@
 #include "controls/ZoButton.h"
 #include "controls/ZoButtonVariants.h"
 #include "controls/ZoStatic.h"
+#include "controls/ZoSkinFrame.h"
+#include "controls/ZoEdit.h"
+#include "controls/ZoEditInPlace.h"
+#include "controls/ZoComboBox.h"
 #include "frames/ZoMenuXP.h"

@@ -41,6 +41,7 @@ BEGIN_MESSAGE_MAP(CZoEdit, CEdit)
     ON_WM_CREATE()
     ON_WM_DESTROY()
     ON_WM_NCPAINT()
+    ON_MESSAGE(WM_PRINT, &CZoEdit::OnPrint)
     ON_WM_CTLCOLOR_REFLECT()
     ON_CONTROL_REFLECT_EX(EN_KILLFOCUS, &CZoEdit::OnEnKillfocus)
     ON_CONTROL_REFLECT_EX(EN_SETFOCUS, &CZoEdit::OnEnSetfocus)
@@ -161,11 +162,11 @@ void CZoEdit::OnNcPaint()
     _paintBorderInto(dc);
 }
 
-LRESULT CZoEdit::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+LRESULT CZoEdit::OnPrint(WPARAM wParam, LPARAM lParam)
 {
-    const LRESULT result = CEdit::WindowProc(message, wParam, lParam);
+    const LRESULT result = Default();
     // Printing the frame (screenshots, previews) shows the same band as the screen.
-    if (message == WM_PRINT && wParam && (lParam & PRF_NONCLIENT))
+    if (wParam && (lParam & PRF_NONCLIENT))
     {
         CZoBorrowedDC dc(wParam);
         _paintBorderInto(dc);

@@ -38,8 +38,6 @@ protected:
 
     void PreSubclassWindow() override;
 
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
-
     // The border band: slot 0 under eight skin pieces of the current state.
     void _drawNcEdit(CDC& dc, const CRect& rect);
     // Draws the band into `dc`, whose origin is the window's top-left corner, leaving the inside.
@@ -52,6 +50,7 @@ protected:
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnDestroy();
     afx_msg void OnNcPaint();
+    afx_msg LRESULT OnPrint(WPARAM wParam, LPARAM lParam);
     afx_msg HBRUSH CtlColor(CDC* pDC, UINT nCtlColor);
     afx_msg BOOL OnEnKillfocus();
     afx_msg BOOL OnEnSetfocus();

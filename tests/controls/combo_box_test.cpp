@@ -95,6 +95,15 @@ protected:
         combo.AddString(L"Second");
     }
 
+    // What the platform's GetComboBoxInfo reports (through the control's own answer).
+    static COMBOBOXINFO Info(const CWnd& combo)
+    {
+        COMBOBOXINFO info = {};
+        info.cbSize = sizeof(info);
+        EXPECT_TRUE(::GetComboBoxInfo(combo.GetSafeHwnd(), &info));
+        return info;
+    }
+
     static CRect Client(const CWnd& wnd)
     {
         CRect client;
@@ -134,9 +143,7 @@ TEST_F(ComboTest, ReportsTheSkinsButton)
 {
     CZoComboBox combo;
     Create(combo, CBS_DROPDOWNLIST);
-    COMBOBOXINFO info = {};
-    info.cbSize = sizeof(info);
-    ASSERT_TRUE(::GetComboBoxInfo(combo.GetSafeHwnd(), &info));
+    const COMBOBOXINFO info = Info(combo);
     EXPECT_EQ(CRect(info.rcButton), ZoComboButtonRect(Client(combo), 1.0f));
     // PLATFORM-NOTE: under Wine stateButton is always 0; the state rule then rests on the
     // dropped state and the focus.
@@ -191,9 +198,7 @@ TEST_F(ComboTest, DropDownInnerEditIsABorderlessSkinnedEditOffTheButton)
 {
     CZoComboBox combo;
     Create(combo, CBS_DROPDOWN);
-    COMBOBOXINFO info = {};
-    info.cbSize = sizeof(info);
-    ASSERT_TRUE(combo.GetComboBoxInfo(&info));
+    const COMBOBOXINFO info = Info(combo);
     CWnd* inner = CWnd::FromHandlePermanent(info.hwndItem);
     ASSERT_TRUE(inner && inner->IsKindOf(RUNTIME_CLASS(CZoEdit)));
     EXPECT_FALSE(inner->GetStyle() & WS_BORDER);
@@ -212,9 +217,7 @@ TEST_F(ComboTest, ChildrenTakeTheThemeColours)
 {
     CZoComboBox combo;
     Create(combo, CBS_DROPDOWN);
-    COMBOBOXINFO info = {};
-    info.cbSize = sizeof(info);
-    ASSERT_TRUE(combo.GetComboBoxInfo(&info));
+    const COMBOBOXINFO info = Info(combo);
     const struct
     {
         UINT message;
@@ -240,11 +243,7 @@ TEST_F(ComboTest, SimpleComboIsLeftToThePlatform)
     ::SendMessageW(native, WM_SETFONT, combo.SendMessage(WM_GETFONT), TRUE);
     for (const wchar_t* text : {L"WWWW", L"Second"})
         ::SendMessageW(native, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
-    COMBOBOXINFO ours = {}, theirs = {};
-    ours.cbSize = theirs.cbSize = sizeof(COMBOBOXINFO);
-    ASSERT_TRUE(::GetComboBoxInfo(combo.GetSafeHwnd(), &ours));
-    ASSERT_TRUE(::GetComboBoxInfo(native, &theirs));
-    EXPECT_EQ(CRect(ours.rcButton), CRect(theirs.rcButton));
+    EXPECT_EQ(CRect(Info(combo).rcButton), CRect(Info(*CWnd::FromHandle(native)).rcButton));
     EXPECT_EQ(controltest::Differences(zotest::RenderClient(combo.GetSafeHwnd()), zotest::RenderClient(native)), 0);
     ::DestroyWindow(native);
 }
@@ -254,9 +253,7 @@ TEST_F(ComboTest, AttachedDropDownGetsItsInnerEditToo)
     HWND native = MakeNative(L"COMBOBOX", CBS_DROPDOWN, CRect(10, 10, 150, 200));
     CZoComboBox combo;
     ASSERT_TRUE(combo.SubclassWindow(native));
-    COMBOBOXINFO info = {};
-    info.cbSize = sizeof(info);
-    ASSERT_TRUE(combo.GetComboBoxInfo(&info));
+    const COMBOBOXINFO info = Info(combo);
     CWnd* inner = CWnd::FromHandlePermanent(info.hwndItem);
     EXPECT_TRUE(inner && inner->IsKindOf(RUNTIME_CLASS(CZoEdit)));
     ::SetFocus(parent());
@@ -277,9 +274,7 @@ TEST_F(ComboTest, ZeroSizeComboPaintsWithoutHarm)
     CZoComboBox combo;
     Create(combo, CBS_DROPDOWN, CRect(10, 10, 10, 10));
     combo.SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOZORDER);
-    COMBOBOXINFO info = {};
-    info.cbSize = sizeof(info);
-    EXPECT_TRUE(combo.GetComboBoxInfo(&info));
+    const COMBOBOXINFO info = Info(combo);
     EXPECT_LE(info.rcButton.right, Client(combo).right);
     zotest::RenderClient(combo.GetSafeHwnd());
     EXPECT_TRUE(::IsWindow(combo.GetSafeHwnd()));

@@ -77,9 +77,9 @@ protected:
     }
 
     // The frame band (window less client) as shown on screen matches `state`'s pieces.
-    testing::AssertionResult BorderShows(int state)
+    testing::AssertionResult BorderShows(int state, zotest::RenderPath path = zotest::RenderPath::Screen)
     {
-        const zotest::Dib shown = zotest::RenderWindow(edit_.GetSafeHwnd(), zotest::RenderPath::Screen);
+        const zotest::Dib shown = zotest::RenderWindow(edit_.GetSafeHwnd(), path);
         const zotest::Dib expected = ExpectedBorder(state);
         CRect window, client;
         edit_.GetWindowRect(&window);
@@ -110,6 +110,8 @@ TEST_F(EditTest, BorderFollowsEnabledFocusAndReadOnly)
 {
     Create(0);
     EXPECT_TRUE(BorderShows(BS_ZO_NORMAL));
+    // Printing the frame shows the same band.
+    EXPECT_TRUE(BorderShows(BS_ZO_NORMAL, zotest::RenderPath::PrintClient));
     edit_.SetFocus();
     EXPECT_TRUE(BorderShows(BS_ZO_HOT));
     edit_.EnableWindow(FALSE);
@@ -159,8 +161,9 @@ TEST_F(EditTest, TextAndBackgroundColoursPerState)
         CRect client;
         edit_.GetClientRect(&client);
         ZOTEST_EXPECT_FILL(dib, CRect(client.right - 10, 0, client.right, client.bottom), Slot(row.back));
-        if (row.enabled)
+        if (row.enabled) {
             EXPECT_GT(controltest::CountPixels(dib, Slot(row.text)), 10) << row.style;
+        }
         edit_.DestroyWindow();
     }
 }

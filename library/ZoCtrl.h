@@ -22,4 +22,8 @@
 #include "controls/ZoSliderCtrl.h"
 #include "controls/ZoRangeSliderCtrl.h"
 #include "controls/ZoTabCtrl.h"
+#include "controls/ZoSkinFrame.h"
+#include "controls/ZoEdit.h"
+#include "controls/ZoEditInPlace.h"
+#include "controls/ZoComboBox.h"
 #include "frames/ZoMenuXP.h"

@@ -391,6 +391,9 @@ inline void UseDrawing(CWnd* wnd, CDC& dc, HBITMAP bitmap)
     (void)dc.RestoreDC(saved);
     (void)dc.GetTextColor();
     (void)dc.IntersectClipRect(&rect);
+    Pin<int (CDC::*)()>(&CDC::SaveDC);
+    Pin<BOOL (CDC::*)(int)>(&CDC::RestoreDC);
+    (void)dc.RestoreDC(dc.SaveDC());
     (void)dc.GetClipBox(&rect);
     (void)dc.DrawIcon(0, 0, ::LoadIcon(nullptr, IDI_APPLICATION));
     (void)dc.DrawFrameControl(&rect, DFC_BUTTON, DFCS_BUTTONCHECK);
@@ -1022,12 +1025,14 @@ public:
 protected:
     afx_msg HBRUSH CtlColor(CDC*, UINT) { return nullptr; }
     afx_msg BOOL OnEnKillfocus() { return FALSE; }
+    afx_msg BOOL OnEnSetfocus() { return FALSE; }
     DECLARE_MESSAGE_MAP()
 };
 
 BEGIN_MESSAGE_MAP(SurfaceEdit, CEdit)
     ON_WM_CTLCOLOR_REFLECT()
     ON_CONTROL_REFLECT_EX(EN_KILLFOCUS, &SurfaceEdit::OnEnKillfocus)
+    ON_CONTROL_REFLECT_EX(EN_SETFOCUS, &SurfaceEdit::OnEnSetfocus)
 END_MESSAGE_MAP()
 
 inline void UseEdit(CEdit& edit, CWnd* parent)
@@ -1074,11 +1079,13 @@ public:
     void DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct) override { CComboBox::DeleteItem(lpDeleteItemStruct); }
 protected:
     afx_msg void OnCbnSetfocus() {}
+    afx_msg BOOL OnCbnKillfocus() { return FALSE; }
     DECLARE_MESSAGE_MAP()
 };
 
 BEGIN_MESSAGE_MAP(SurfaceCombo, CComboBox)
     ON_CONTROL_REFLECT(CBN_SETFOCUS, &SurfaceCombo::OnCbnSetfocus)
+    ON_CONTROL_REFLECT_EX(CBN_KILLFOCUS, &SurfaceCombo::OnCbnKillfocus)
 END_MESSAGE_MAP()
 
 inline void UseCombo(CComboBox& combo, CWnd* parent)

@@ -9,6 +9,9 @@
 #include <string>
 
 #include "controls/SeparatorWnd.h"
+#include "controls/ZoComboBox.h"
+#include "controls/ZoEdit.h"
+#include "controls/ZoEditInPlace.h"
 #include "controls/ZoButtonVariants.h"
 #include "frames/ZoMenuXP.h"
 #include "controls/ZoProgressCtrl.h"
@@ -148,6 +151,43 @@ std::unique_ptr<CWnd> MakeSeparator(CWnd* parent)
     return Keep(std::move(sep), created);
 }
 
+// Edits paint their border in the non-client area: the cycle paints it too.
+template <class TEdit, DWORD style>
+std::unique_ptr<CWnd> MakeEdit(CWnd* parent)
+{
+    auto edit = std::make_unique<TEdit>();
+    const BOOL created = edit->Create(WS_CHILD | style, kRect, parent, kId);
+    if (created) {
+        edit->SetWindowText(L"Cycle");
+        edit->SendMessage(WM_NCPAINT, 1);
+    }
+    return Keep(std::move(edit), created);
+}
+
+// The editor reports to the parent and asks it to cancel; a plain parent ignores both.
+std::unique_ptr<CWnd> MakeEditInPlace(CWnd* parent)
+{
+    auto editor = std::make_unique<CZoEditInPlace>(parent->GetSafeHwnd(), 0, 0, L"Cycle");
+    const BOOL created = editor->Create(WS_CHILD | ES_AUTOHSCROLL, kRect, parent, kId);
+    if (created) {
+        editor->SendMessage(WM_CHAR, L'x', 1);
+        editor->SendMessage(WM_CHAR, L'\r', 1);
+    }
+    return Keep(std::move(editor), created);
+}
+
+template <class TCombo, DWORD style>
+std::unique_ptr<CWnd> MakeCombo(CWnd* parent)
+{
+    auto combo = std::make_unique<TCombo>();
+    const BOOL created = combo->Create(WS_CHILD | style, CRect(5, 5, 125, 200), parent, kId);
+    if (created) {
+        combo->AddString(L"Cycle");
+        combo->SetCurSel(0);
+    }
+    return Keep(std::move(combo), created);
+}
+
 struct ControlCase
 {
     const char* name;
@@ -171,6 +211,7 @@ const ControlCase kPaintingControls[] = {
     {"Spin", MakeSpin},
     {"Slider", MakeSlider<CZoSliderCtrl>},
     {"Tabs", MakeTabs<0>},
+    {"Combo", MakeCombo<CZoComboBox, CBS_DROPDOWNLIST>},
 };
 
 using EraseTest = ControlCaseTest;
@@ -271,6 +312,8 @@ const ControlCase kMenuForwarders[] = {
     {"Separator", MakeSeparator},
     {"Slider", MakeSlider<CZoSliderCtrl>},
     {"Tabs", MakeTabs<0>},
+    {"Edit", MakeEdit<CZoEdit, ES_AUTOHSCROLL>},
+    {"Combo", MakeCombo<CZoComboBox, CBS_DROPDOWNLIST>},
 };
 
 class MenuForwardingTest : public ControlCaseTest
@@ -374,7 +417,8 @@ INSTANTIATE_TEST_SUITE_P(Controls, MenuForwardingTest, testing::ValuesIn(kMenuFo
 // --- Resources ---------------------------------------------------------------------------------
 
 // Every class, and the button kinds that load or paint differently: a default push button and a
-// push-like check box load and paint as a push button does, a radio button as a check box.
+// push-like check box load and paint as a push button does, a radio button as a check box; the
+// text-dark combo loads and paints as its base does, and a simple combo is the platform's.
 const ControlCase kEveryControl[] = {
     {"PushButtonWithToolTip", MakeButtonWithToolTip},
     {"CheckBox", MakeButton<CZoButton, BS_AUTOCHECKBOX>},
@@ -394,6 +438,11 @@ const ControlCase kEveryControl[] = {
     {"RangeSlider", MakeSlider<CZoRangeSliderCtrl>},
     {"TopTabs", MakeTabs<0>},
     {"SideTabs", MakeTabs<TCS_VERTICAL | TCS_MULTILINE | TCS_RIGHT>},
+    {"Edit", MakeEdit<CZoEdit, ES_AUTOHSCROLL>},
+    {"EditInPlace", MakeEditInPlace},
+    {"DropDownCombo", MakeCombo<CZoComboBox, CBS_DROPDOWN>},
+    {"DropListCombo", MakeCombo<CZoComboBox, CBS_DROPDOWNLIST>},
+    {"BtnFeelCombo", MakeCombo<CZoComboBoxBtnFeel, CBS_DROPDOWNLIST>},
 };
 
 using LeakTest = ControlCaseTest;

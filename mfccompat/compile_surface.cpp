@@ -536,8 +536,6 @@ protected:
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor) { return CWnd::OnCtlColor(pDC, pWnd, nCtlColor); }
     afx_msg void OnHeaderItemClick(NMHDR*, LRESULT* pResult) { *pResult = 0; }
     afx_msg void OnCheckClicked() { (void)Default(); }
-    afx_msg void OnCaptureChanged(CWnd* pWnd) { CWnd::OnCaptureChanged(pWnd); }
-    afx_msg void OnCancelMode() { CWnd::OnCancelMode(); }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -583,8 +581,6 @@ BEGIN_MESSAGE_MAP(SurfaceWnd, CWnd)
     ON_WM_SHOWWINDOW()
     ON_WM_SETCURSOR()
     ON_WM_CTLCOLOR()
-    ON_WM_CAPTURECHANGED()
-    ON_WM_CANCELMODE()
     ON_NOTIFY(HDN_ITEMCLICKW, 0, &SurfaceWnd::OnHeaderItemClick)
     ON_BN_CLICKED(805, &SurfaceWnd::OnCheckClicked)
 END_MESSAGE_MAP()

@@ -55,7 +55,7 @@ protected:
     {
         CRect page;
         tabs_.GetClientRect(&page);
-        tabs_.SendMessage(TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&page));
+        ::SendMessageW(tabs_.GetSafeHwnd(), TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&page));
         return page;
     }
     // The outer columns of cap `piece` (0 left, 2 right) of tab `index` (top tabs) show the cell

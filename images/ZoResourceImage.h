@@ -89,13 +89,13 @@ class ZOCTRL_API CZoResourceBMPImage : public CZoResourceImage
 public:
     CZoResourceBMPImage();
     CZoResourceBMPImage(HBITMAP hBitmap, bool bDeleteOnDestroy);
-    virtual ~CZoResourceBMPImage();
+    ~CZoResourceBMPImage() override;
 
     using CZoResourceImage::LoadResourceImage;
     // Bitmap `name` for `size`, falling back to the plain name and then to `name` as given.
-    virtual bool LoadResourceImage(const wchar_t* name, E_ZoMonitorSize size, int nHorzUnits, int nVertUnits);
-    virtual void DrawUnitImage(CDC& dc, int x, int y, int ux, int uy, COLORREF transparent) const;
-    virtual void DrawUnitImage(CDC& dc, int x, int y, int w, int h, int ux, int uy, COLORREF transparent) const;
+    bool LoadResourceImage(const wchar_t* name, E_ZoMonitorSize size, int nHorzUnits, int nVertUnits) override;
+    void DrawUnitImage(CDC& dc, int x, int y, int ux, int uy, COLORREF transparent) const override;
+    void DrawUnitImage(CDC& dc, int x, int y, int w, int h, int ux, int uy, COLORREF transparent) const override;
 
     // Source (srcX, srcY, srcW, srcH) into (x, y, w, h), leaving out `transparent`.
     void DrawImage(CDC& dc, int x, int y, int w, int h, int srcX, int srcY, int srcW, int srcH,

@@ -102,15 +102,15 @@ public:
     CZoResourcePNGImage();
     // Adopts a 32-bit picture with alpha as one cell (compose it with SetBackgroundColor).
     CZoResourcePNGImage(HBITMAP hBitmap, bool bDeleteOnDestroy);
-    virtual ~CZoResourcePNGImage();
+    ~CZoResourcePNGImage() override;
 
     using CZoResourceImage::LoadResourceImage;
     // PNG resource `nID`, its rows composed as states over the queued colours.
-    virtual bool LoadResourceImage(UINT nID, int nHorzUnits, int nVertUnits);
+    bool LoadResourceImage(UINT nID, int nHorzUnits, int nVertUnits) override;
     // The colour is ignored: the picture carries its own alpha.
-    virtual void DrawUnitImage(CDC& dc, int x, int y, int ux, int uy, COLORREF transparent) const;
+    void DrawUnitImage(CDC& dc, int x, int y, int ux, int uy, COLORREF transparent) const override;
     // Column ux of state uy's composition stretched into (x, y, w, h).
-    virtual void DrawUnitImage(CDC& dc, int x, int y, int w, int h, int ux, int uy, COLORREF transparent) const;
+    void DrawUnitImage(CDC& dc, int x, int y, int w, int h, int ux, int uy, COLORREF transparent) const override;
 
     // One colour for every row.
     void SetBackgroundColor(COLORREF clr);

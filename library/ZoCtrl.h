@@ -18,4 +18,8 @@
 #include "controls/ZoButton.h"
 #include "controls/ZoButtonVariants.h"
 #include "controls/ZoStatic.h"
+#include "lists/ZoListSort.h"
+#include "lists/ZoListGeometry.h"
+#include "lists/ZoHeaderCtrl.h"
+#include "lists/ZoListCtrl.h"
 #include "frames/ZoMenuXP.h"

@@ -9,6 +9,9 @@
 #include <string>
 
 #include "controls/SeparatorWnd.h"
+#include "controls/ZoComboBox.h"
+#include "controls/ZoEdit.h"
+#include "controls/ZoEditInPlace.h"
 #include "controls/ZoButtonVariants.h"
 #include "frames/ZoMenuXP.h"
 #include "controls/ZoProgressCtrl.h"
@@ -117,6 +120,43 @@ std::unique_ptr<CWnd> MakeSeparator(CWnd* parent)
     return Keep(std::move(sep), created);
 }
 
+// Edits paint their border in the non-client area: the cycle paints it too.
+template <class TEdit, DWORD style>
+std::unique_ptr<CWnd> MakeEdit(CWnd* parent)
+{
+    auto edit = std::make_unique<TEdit>();
+    const BOOL created = edit->Create(WS_CHILD | style, kRect, parent, kId);
+    if (created) {
+        edit->SetWindowText(L"Cycle");
+        edit->SendMessage(WM_NCPAINT, 1);
+    }
+    return Keep(std::move(edit), created);
+}
+
+// The editor reports to the parent and asks it to cancel; a plain parent ignores both.
+std::unique_ptr<CWnd> MakeEditInPlace(CWnd* parent)
+{
+    auto editor = std::make_unique<CZoEditInPlace>(parent->GetSafeHwnd(), 0, 0, L"Cycle");
+    const BOOL created = editor->Create(WS_CHILD | ES_AUTOHSCROLL, kRect, parent, kId);
+    if (created) {
+        editor->SendMessage(WM_CHAR, L'x', 1);
+        editor->SendMessage(WM_CHAR, L'\r', 1);
+    }
+    return Keep(std::move(editor), created);
+}
+
+template <class TCombo, DWORD style>
+std::unique_ptr<CWnd> MakeCombo(CWnd* parent)
+{
+    auto combo = std::make_unique<TCombo>();
+    const BOOL created = combo->Create(WS_CHILD | style, CRect(5, 5, 125, 200), parent, kId);
+    if (created) {
+        combo->AddString(L"Cycle");
+        combo->SetCurSel(0);
+    }
+    return Keep(std::move(combo), created);
+}
+
 struct ControlCase
 {
     const char* name;
@@ -138,6 +178,7 @@ const ControlCase kPaintingControls[] = {
     {"ScrollBar", MakeScrollBar},
     {"Progress", MakeProgress},
     {"Spin", MakeSpin},
+    {"Combo", MakeCombo<CZoComboBox, CBS_DROPDOWNLIST>},
 };
 
 using EraseTest = ControlCaseTest;
@@ -236,6 +277,8 @@ const ControlCase kMenuForwarders[] = {
     {"ScrollBar", MakeScrollBar},
     {"Progress", MakeProgress},
     {"Separator", MakeSeparator},
+    {"Edit", MakeEdit<CZoEdit, ES_AUTOHSCROLL>},
+    {"Combo", MakeCombo<CZoComboBox, CBS_DROPDOWNLIST>},
 };
 
 class MenuForwardingTest : public ControlCaseTest
@@ -355,6 +398,14 @@ const ControlCase kEveryControl[] = {
     {"Progress", MakeProgress},
     {"Spin", MakeSpin},
     {"Separator", MakeSeparator},
+    {"Edit", MakeEdit<CZoEdit, ES_AUTOHSCROLL>},
+    {"MultiLineEdit", MakeEdit<CZoEdit, ES_MULTILINE | WS_VSCROLL>},
+    {"EditInPlace", MakeEditInPlace},
+    {"DropDownCombo", MakeCombo<CZoComboBox, CBS_DROPDOWN>},
+    {"DropListCombo", MakeCombo<CZoComboBox, CBS_DROPDOWNLIST>},
+    {"SimpleCombo", MakeCombo<CZoComboBox, CBS_SIMPLE>},
+    {"BtnFeelCombo", MakeCombo<CZoComboBoxBtnFeel, CBS_DROPDOWNLIST>},
+    {"TextDarkCombo", MakeCombo<CZoComboBoxTextDark, CBS_DROPDOWN>},
 };
 
 using LeakTest = ControlCaseTest;

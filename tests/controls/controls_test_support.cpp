@@ -60,6 +60,19 @@ HWND ControlTest::MakeNative(const wchar_t* windowClass, DWORD style, const RECT
                              reinterpret_cast<HMENU>(static_cast<INT_PTR>(kNativeId)), nullptr, nullptr);
 }
 
+void ReflectingParentTest::SetUp()
+{
+    ControlTest::SetUp();
+    ASSERT_TRUE(host_.SubclassWindow(parent()));
+}
+
+void ReflectingParentTest::TearDown()
+{
+    if (host_.GetSafeHwnd())
+        host_.UnsubclassWindow();
+    ControlTest::TearDown();
+}
+
 COLORREF Slot(int slot)
 {
     const ZoControls::CZoThemeManager* manager = ZoControls::CZoThemeManager::GetInstance();

@@ -34,6 +34,20 @@ private:
     zotest::ScopedWindow parent_;
 };
 
+// ControlTest whose parent is also an MFC window, so that it reflects WM_CTLCOLOR and control
+// notifications to the MFC controls in it, as an MFC dialog does.
+class ReflectingParentTest : public ControlTest
+{
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    CWnd* host() { return &host_; }
+
+private:
+    CWnd host_;
+};
+
 // Theme 0's colour of `slot`, as the controls read it.
 COLORREF Slot(int slot);
 

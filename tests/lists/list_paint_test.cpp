@@ -271,3 +271,27 @@ TEST_F(HeaderPaintTest, DragRules)
 }
 
 } // namespace
+
+namespace {
+
+// Create, fill, sort, paint (cells through custom draw, the header) and destroy: nothing stays
+// behind. The controls' shared leak table has no MFC parent to reflect custom draw, so the list
+// runs its cycles here, under the reflecting test parent.
+TEST_F(ListPaintTest, NoGrowthOverCreateFillPaintDestroyCycles)
+{
+    zotest::Dib canvas(330, 250);
+    ZOTEST_EXPECT_NO_LEAKS(30, [this, &canvas]() {
+        CZoListCtrl& list = MakeList(LVS_EDITLABELS, kRows);
+        list.SetItemState(0, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+        list.SortOnColumn(1, false);
+        list.SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(canvas.dc()), PRF_CLIENT);
+        ::SendMessageW(header(), WM_PRINTCLIENT, reinterpret_cast<WPARAM>(canvas.dc()), PRF_CLIENT);
+        list.SendMessage(LVM_EDITLABELW, 1);
+        list.DestroyWindow();
+        list_.reset();
+    });
+    // The cycles did paint the cells.
+    EXPECT_GT(controltest::CountPixels(canvas, Slot(kSelectedFocusRow)), 0);
+}
+
+} // namespace

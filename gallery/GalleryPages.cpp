@@ -2,6 +2,7 @@
 #include <afxwin.h>
 
 #include "ButtonsPage.h"
+#include "EditsPage.h"
 #include "GalleryPage.h"
 #include "MenusPage.h"
 #include "ScrollingPage.h"
@@ -19,6 +20,7 @@ const GalleryPageEntry kPages[] = {
     {L"Scrolling", &CreateGalleryPage<CScrollingPage>},
     {L"Buttons", &CreateGalleryPage<CButtonsPage>},
     {L"Statics", &CreateGalleryPage<CStaticsPage>},
+    {L"Edits and combos", &CreateGalleryPage<CEditsPage>},
 };
 } // namespace
 

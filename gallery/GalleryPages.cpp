@@ -4,6 +4,7 @@
 #include "ButtonsPage.h"
 #include "EditsPage.h"
 #include "GalleryPage.h"
+#include "ListsPage.h"
 #include "MenusPage.h"
 #include "ScrollingPage.h"
 #include "SkinsPage.h"
@@ -21,6 +22,7 @@ const GalleryPageEntry kPages[] = {
     {L"Buttons", &CreateGalleryPage<CButtonsPage>},
     {L"Statics", &CreateGalleryPage<CStaticsPage>},
     {L"Edits and combos", &CreateGalleryPage<CEditsPage>},
+    {L"Lists", &CreateGalleryPage<CListsPage>},
 };
 } // namespace
 

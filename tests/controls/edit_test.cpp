@@ -160,7 +160,9 @@ TEST_F(EditTest, TextAndBackgroundColoursPerState)
         edit_.GetClientRect(&client);
         ZOTEST_EXPECT_FILL(dib, CRect(client.right - 10, 0, client.right, client.bottom), Slot(row.back));
         if (row.enabled)
+        {
             EXPECT_GT(controltest::CountPixels(dib, Slot(row.text)), 10) << row.style;
+        }
         edit_.DestroyWindow();
     }
 }

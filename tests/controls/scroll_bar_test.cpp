@@ -282,7 +282,9 @@ TEST_F(ScrollBarTest, LosingTheMouseEndsAPressWithoutAWord)
             EXPECT_EQ(recorder_.Count(WM_VSCROLL, zotest::WindowRole::Parent), 0u);
             // The dragged thumb is back where the position is, in its normal look.
             if (y == thumbY)
+            {
                 EXPECT_EQ(controltest::Differences(atRest, zotest::RenderClient(bar_.GetSafeHwnd())), 0);
+            }
             ::ReleaseCapture();
             recorder_.UnwatchAll();
             bar_.DestroyWindow();

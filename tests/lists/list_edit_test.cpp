@@ -161,18 +161,20 @@ TEST_F(ListEditTest, DownMovesTheEditToTheNextRow)
 TEST_F(ListEditTest, MovingAndCancellingLeaveNothingBehind)
 {
     MakeEditableList();
-    ZOTEST_EXPECT_NO_LEAKS(
-        10,
-        [this]() {
-            CZoEditInPlace* editor = PressF2();
-            if (!editor)
-                return;
-            PreTranslate(*editor, VK_DOWN);
-            if (CZoEditInPlace* next = list_->GetInPlaceEditor())
-                zotest::SendKey(next->GetSafeHwnd(), VK_ESCAPE, 27);
-            zotest::PumpUntilIdle(100);
-        },
-        zotest::count_heap | zotest::count_user | zotest::count_gdi);
+    const auto cycle = [this]() {
+        CZoEditInPlace* editor = PressF2();
+        if (!editor)
+            return;
+        PreTranslate(*editor, VK_DOWN);
+        if (CZoEditInPlace* next = list_->GetInPlaceEditor())
+            zotest::SendKey(next->GetSafeHwnd(), VK_ESCAPE, 27);
+        // The retired editors go once the queue is served.
+        zotest::PumpUntilIdle();
+    };
+    // Wine creates a few objects of its own over the first edits of a process.
+    for (int i = 0; i < 3; ++i)
+        cycle();
+    ZOTEST_EXPECT_NO_LEAKS(10, cycle, zotest::count_heap | zotest::count_user | zotest::count_gdi);
 }
 
 TEST_F(ListEditTest, ScrollWheelHeaderClickAndCancelEndTheEdit)

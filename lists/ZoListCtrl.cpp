@@ -294,33 +294,29 @@ void CZoListCtrl::_scrollToPosition(bool vertical, int target)
 
 void CZoListCtrl::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
 {
-    _cancelEdit();
-    // The thumb's place comes from the skinned bar in 32 bits; the platform's own handling of
-    // SB_THUMBPOSITION is not relied upon (it does not move the list everywhere).
-    if ((nSBCode == SB_THUMBTRACK || nSBCode == SB_THUMBPOSITION) && pScrollBar &&
-        pScrollBar->GetSafeHwnd() == m_pHorzBar->GetSafeHwnd())
-    {
-        _scrollToPosition(false, m_pHorzBar->GetThumbTrackPosition());
-        if (nSBCode == SB_THUMBPOSITION)
-            _copyScrollInfo();
-        return;
-    }
-    DefWindowProc(WM_HSCROLL, MAKEWPARAM(nSBCode, nPos), 0);
-    _copyScrollInfo();
+    _onScroll(false, nSBCode, nPos, pScrollBar);
 }
 
 void CZoListCtrl::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
 {
+    _onScroll(true, nSBCode, nPos, pScrollBar);
+}
+
+void CZoListCtrl::_onScroll(bool vertical, UINT code, UINT pos, CScrollBar* pScrollBar)
+{
     _cancelEdit();
-    if ((nSBCode == SB_THUMBTRACK || nSBCode == SB_THUMBPOSITION) && pScrollBar &&
-        pScrollBar->GetSafeHwnd() == m_pVertBar->GetSafeHwnd())
+    CZoScrollBar* pBar = vertical ? m_pVertBar : m_pHorzBar;
+    // The thumb's place comes from the skinned bar in 32 bits; the platform's own handling of
+    // SB_THUMBPOSITION is not relied upon (it does not move the list everywhere).
+    if ((code == SB_THUMBTRACK || code == SB_THUMBPOSITION) && pScrollBar &&
+        pScrollBar->GetSafeHwnd() == pBar->GetSafeHwnd())
     {
-        _scrollToPosition(true, m_pVertBar->GetThumbTrackPosition());
-        if (nSBCode == SB_THUMBPOSITION)
+        _scrollToPosition(vertical, pBar->GetThumbTrackPosition());
+        if (code == SB_THUMBPOSITION)
             _copyScrollInfo();
         return;
     }
-    DefWindowProc(WM_VSCROLL, MAKEWPARAM(nSBCode, nPos), 0);
+    DefWindowProc(vertical ? WM_VSCROLL : WM_HSCROLL, MAKEWPARAM(code, pos), 0);
     _copyScrollInfo();
 }
 

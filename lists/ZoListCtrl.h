@@ -100,6 +100,8 @@ protected:
     // The list's scroll state into the skinned bar of every direction it scrolls in.
     void _copyScrollInfo();
     void _scrollToPosition(bool vertical, int target);
+    // A scroll notification from a skinned bar (or any other sender).
+    void _onScroll(bool vertical, UINT code, UINT pos, CScrollBar* pScrollBar);
     int _rowHeight() const;
     bool _isReport() const;
     void _cancelEdit();

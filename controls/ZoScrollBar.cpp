@@ -83,6 +83,13 @@ CRect CZoScrollBar::GetPartRect(E_SBHitCode part) const
     return m_aRects[part];
 }
 
+int CZoScrollBar::GetThumbTrackPosition()
+{
+    if (!::IsWindow(m_hWnd))
+        return 0;
+    return _calcScrollPosFromThumbPos(m_nThumbPos);
+}
+
 int CZoScrollBar::GetButtonGapSize()
 {
     return ZoScrollGapSize(isLoaded(m_pButtons), ZoZoomFactorOf(m_eMonitorSize));

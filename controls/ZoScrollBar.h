@@ -64,6 +64,9 @@ public:
     CRect GetPartRect(E_SBHitCode part) const;
     int GetThumbPos() const { return m_nThumbPos; }
     int GetThumbLength() const { return m_nThumbLength; }
+    // The scroll position the thumb stands for where it is drawn now: during a drag, where the
+    // drag has taken it, in 32 bits (a notification's high word holds only 16).
+    int GetThumbTrackPosition();
 
     virtual int GetButtonGapSize();
 

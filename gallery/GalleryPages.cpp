@@ -4,6 +4,7 @@
 #include "ButtonsPage.h"
 #include "EditsPage.h"
 #include "GalleryPage.h"
+#include "ListsPage.h"
 #include "MenusPage.h"
 #include "ScrollingPage.h"
 #include "SkinsPage.h"
@@ -25,6 +26,7 @@ const GalleryPageEntry kPages[] = {
     {L"Edits and combos", &CreateGalleryPage<CEditsPage>},
     {L"Sliders", &CreateGalleryPage<CSlidersPage>},
     {L"Tabs", &CreateGalleryPage<CTabsPage>},
+    {L"Lists", &CreateGalleryPage<CListsPage>},
 };
 } // namespace
 

@@ -26,4 +26,8 @@
 #include "controls/ZoEdit.h"
 #include "controls/ZoEditInPlace.h"
 #include "controls/ZoComboBox.h"
+#include "lists/ZoListSort.h"
+#include "lists/ZoListGeometry.h"
+#include "lists/ZoHeaderCtrl.h"
+#include "lists/ZoListCtrl.h"
 #include "frames/ZoMenuXP.h"

@@ -1239,6 +1239,7 @@ inline void UseLists(CListCtrl& list, CHeaderCtrl& header, CTreeCtrl& tree, CWnd
     (void)list.GetCheck(0);
     (void)list.DeleteItem(0);
     (void)list.DeleteAllItems();
+    (void)list.SetWindowPos(&CWnd::wndTop, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 
     (void)header.GetItemCount();
     HDITEM headerItem = {};

@@ -1,0 +1,814 @@
+#include "lists/ZoListCtrl.h"
+
+#include "controls/ZoControlTheme.h"
+#include "controls/ZoEditInPlace.h"
+#include "controls/ZoScrollBar.h"
+#include "core/ZoThemeManager.h"
+#include "lists/ZoListGeometry.h"
+#include "lists/ZoListSort.h"
+
+namespace ZoControls {
+
+namespace {
+
+// Theme colour slots of the list.
+enum
+{
+    kSlotBackground = 38,
+    kSlotGrid = 39,
+    kSlotSelectedRow = 40,
+    kSlotNativeText = 41, // handed to the native list only
+    kSlotCellText = 42,
+    kSlotSelectedFocusRow = 43,
+    kSlotFocusFrame = 44
+};
+
+const DWORD kReportExtendedStyle = LVS_EX_FULLROWSELECT | LVS_EX_LABELTIP | LVS_EX_BORDERSELECT | LVS_EX_DOUBLEBUFFER;
+// The deliberate pause before a click on a selected row's editable cell opens the editor.
+const DWORD kClickEditDelayMs = 400;
+const int kSortMapHashSize = 17;
+const int kSortMapBlockSize = 10;
+
+// Posted to the list to delete editors retired while one of their handlers was running.
+UINT deleteEditorsMessage()
+{
+    static const UINT message = ::RegisterWindowMessageW(L"ZoControls.CZoListCtrl.DeleteRetiredEditors");
+    return message;
+}
+
+// One row while a sort runs: where it was, its own item data, and its cell read and parsed once.
+struct SortSlot
+{
+    int index;
+    DWORD_PTR data;
+    ZoSortKey key;
+};
+
+struct SortContext
+{
+    int column;
+    CZoListCtrl* pList;
+    bool ascending;
+    int method;
+};
+
+int CALLBACK compareSlots(LPARAM lParam1, LPARAM lParam2, LPARAM lParamSort)
+{
+    const SortSlot* pSlot1 = reinterpret_cast<const SortSlot*>(lParam1);
+    const SortSlot* pSlot2 = reinterpret_cast<const SortSlot*>(lParam2);
+    const SortContext* pContext = reinterpret_cast<const SortContext*>(lParamSort);
+    return ZoDirected(ZoCompareSortKeys(pContext->method, pSlot1->key, pSlot2->key), pContext->ascending);
+}
+
+} // namespace
+
+IMPLEMENT_DYNAMIC(CZoListCtrl, CListCtrl)
+
+BEGIN_MESSAGE_MAP(CZoListCtrl, CListCtrl)
+    ON_WM_LBUTTONDOWN()
+    ON_WM_HSCROLL()
+    ON_WM_VSCROLL()
+    ON_WM_DESTROY()
+    ON_WM_NCCALCSIZE()
+    ON_WM_SIZE()
+    ON_WM_NCPAINT()
+    ON_WM_MOUSEWHEEL()
+    ON_MESSAGE(LVM_EDITLABELW, &CZoListCtrl::OnEditLabel)
+    ON_MESSAGE(LVM_GETEDITCONTROL, &CZoListCtrl::OnGetEditControl)
+    ON_MESSAGE(LVM_CANCELEDITLABEL, &CZoListCtrl::OnCancelEditLabel)
+    ON_MESSAGE(LVM_ENSUREVISIBLE, &CZoListCtrl::OnEnsureVisible)
+    ON_NOTIFY(HDN_ITEMCLICKA, 0, &CZoListCtrl::OnHeaderItemClick)
+    ON_NOTIFY(HDN_ITEMCLICKW, 0, &CZoListCtrl::OnHeaderItemClick)
+    ON_NOTIFY_REFLECT(NM_CUSTOMDRAW, &CZoListCtrl::OnCustomDraw)
+    ON_NOTIFY_REFLECT_EX(LVN_ITEMCHANGED, &CZoListCtrl::OnItemChanged)
+    ZO_ON_MENUXP_MESSAGES()
+END_MESSAGE_MAP()
+
+ZO_IMPLEMENT_MENUXP_FORWARDING(CZoListCtrl, CListCtrl)
+
+CZoListCtrl::CZoListCtrl()
+    : m_bSortEnabled(true), m_bInitialized(false), m_bCreating(false), m_eMonitorSize(ZoMonitorSize_Unknown),
+      m_eFont(ZoThemeFont_4), m_eTheme(ZoTheme_Default), m_nEditableColumn(-1), m_pEditor(NULL), m_crBackground(0),
+      m_crGrid(0), m_crSelectedRow(0), m_crCellText(0), m_crSelectedFocusRow(0), m_crFocusFrame(0),
+      m_bSortingFromHeader(false), m_sortMethods(kSortMapBlockSize), m_childSortMethods(kSortMapBlockSize),
+      m_pHorzBar(new CZoScrollBar(CZoScrollBar::ScrollBarTheme_1)),
+      m_pVertBar(new CZoScrollBar(CZoScrollBar::ScrollBarTheme_1)), m_bRedrawSuspended(false)
+{
+    m_sortMethods.InitHashTable(kSortMapHashSize);
+    m_childSortMethods.InitHashTable(kSortMapHashSize);
+}
+
+CZoListCtrl::~CZoListCtrl()
+{
+    if (m_pEditor)
+    {
+        if (::IsWindow(m_pEditor->GetSafeHwnd()))
+            m_pEditor->DestroyWindow();
+        delete m_pEditor;
+        m_pEditor = NULL;
+    }
+    _deleteRetiredEditors();
+    delete m_pHorzBar;
+    delete m_pVertBar;
+}
+
+// --- Creation and initialisation -------------------------------------------------------------
+
+BOOL CZoListCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
+{
+    m_bCreating = true;
+    const BOOL created = CListCtrl::Create(dwStyle, rect, pParentWnd, nID);
+    if (created)
+        _init();
+    m_bCreating = false;
+    return created;
+}
+
+BOOL CZoListCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
+{
+    m_bCreating = true;
+    const BOOL created = CListCtrl::CreateEx(dwExStyle, dwStyle, rect, pParentWnd, nID);
+    if (created)
+        _init();
+    m_bCreating = false;
+    return created;
+}
+
+void CZoListCtrl::PreSubclassWindow()
+{
+    if (!m_bCreating)
+        _init();
+    CListCtrl::PreSubclassWindow();
+}
+
+bool CZoListCtrl::_isReport() const
+{
+    return ::IsWindow(m_hWnd) && (GetStyle() & LVS_TYPEMASK) == LVS_REPORT;
+}
+
+void CZoListCtrl::_init()
+{
+    if (!::IsWindow(m_hWnd))
+        return;
+    m_eMonitorSize = ZoGetCurrentMonitorSize(this, false);
+    m_eTheme = ZoGetCurrentThemeIndex(this);
+    ZoMenuOptIn(this);
+    if (m_bInitialized)
+        return;
+
+    if (_isReport())
+        SetExtendedStyle(GetExtendedStyle() | kReportExtendedStyle);
+
+    HWND hHeader = ::GetDlgItem(m_hWnd, 0);
+    if (!hHeader)
+        hHeader = (HWND)::SendMessageW(m_hWnd, LVM_GETHEADER, 0, 0);
+    if (hHeader && !m_header.GetSafeHwnd())
+        m_header.SubclassWindow(hHeader);
+    if (GetStyle() & LVS_NOSORTHEADER)
+        m_header.SetNoSortHeader(true);
+
+    CFont* pFont = ZoCachedFont(m_eFont, m_eMonitorSize);
+    if (pFont)
+        SetFont(pFont, TRUE);
+
+    m_crBackground = ZoSlotColor(kSlotBackground, m_eTheme);
+    m_crGrid = ZoSlotColor(kSlotGrid, m_eTheme);
+    m_crSelectedRow = ZoSlotColor(kSlotSelectedRow, m_eTheme);
+    m_crCellText = ZoSlotColor(kSlotCellText, m_eTheme);
+    m_crSelectedFocusRow = ZoSlotColor(kSlotSelectedFocusRow, m_eTheme);
+    m_crFocusFrame = ZoSlotColor(kSlotFocusFrame, m_eTheme);
+    SetBkColor(m_crBackground);
+    SetTextBkColor(m_crBackground);
+    SetTextColor(ZoSlotColor(kSlotNativeText, m_eTheme));
+
+    // The native label editor never opens: the in-place editor takes its place.
+    if (GetStyle() & LVS_EDITLABELS)
+    {
+        if (m_nEditableColumn < 0)
+            m_nEditableColumn = 0;
+        ModifyStyle(LVS_EDITLABELS, 0);
+    }
+    ModifyStyle(0, WS_CLIPSIBLINGS);
+    _createScrollBars();
+    m_bInitialized = true;
+}
+
+void CZoListCtrl::_createScrollBars()
+{
+    CWnd* pParent = GetParent();
+    if (!pParent)
+        return;
+    const CRect horz(0, 0, 100, ::GetSystemMetrics(SM_CYHSCROLL));
+    const CRect vert(0, 0, ::GetSystemMetrics(SM_CXVSCROLL), 100);
+    if (!m_pHorzBar->GetSafeHwnd())
+        m_pHorzBar->Create(WS_CHILD | SBS_HORZ, horz, pParent, HorzBarId);
+    if (!m_pVertBar->GetSafeHwnd())
+        m_pVertBar->Create(WS_CHILD | SBS_VERT, vert, pParent, VertBarId);
+    CZoScrollBar* bars[] = {m_pHorzBar, m_pVertBar};
+    for (int i = 0; i < 2; ++i)
+    {
+        if (!bars[i]->GetSafeHwnd())
+            continue;
+        bars[i]->SetBuddy(this);
+        bars[i]->SetWindowPos(&CWnd::wndTop, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    }
+    _placeScrollBars(true);
+    _copyScrollInfo();
+    _showScrollBars();
+}
+
+// --- Skinned scroll bars -------------------------------------------------------------------------
+
+void CZoListCtrl::_placeScrollBars(bool move)
+{
+    if (!m_pHorzBar->GetSafeHwnd() || !m_pVertBar->GetSafeHwnd() || !GetParent())
+        return;
+    CRect list;
+    GetWindowRect(&list);
+    GetParent()->ScreenToClient(&list);
+    CRect horz, vert;
+    m_pHorzBar->GetWindowRect(&horz);
+    m_pVertBar->GetWindowRect(&vert);
+    const DWORD style = GetStyle();
+    const ZoListBarPlacement placement =
+        ZoPlaceListBars(list, (style & WS_HSCROLL) != 0, (style & WS_VSCROLL) != 0, horz.Height(), vert.Width());
+    const UINT flags = SWP_NOZORDER | SWP_NOACTIVATE | (move ? 0 : SWP_NOMOVE);
+    const CRect h(placement.horz), v(placement.vert);
+    m_pHorzBar->SetWindowPos(NULL, h.left, h.top, h.Width(), h.Height(), flags);
+    m_pVertBar->SetWindowPos(NULL, v.left, v.top, v.Width(), v.Height(), flags);
+}
+
+void CZoListCtrl::_showScrollBars()
+{
+    const DWORD style = GetStyle();
+    if (m_pHorzBar->GetSafeHwnd())
+        m_pHorzBar->ShowWindow((style & WS_HSCROLL) ? SW_SHOWNA : SW_HIDE);
+    if (m_pVertBar->GetSafeHwnd())
+        m_pVertBar->ShowWindow((style & WS_VSCROLL) ? SW_SHOWNA : SW_HIDE);
+}
+
+void CZoListCtrl::_copyScrollInfo()
+{
+    if (!::IsWindow(m_hWnd) || m_bRedrawSuspended)
+        return;
+    const DWORD style = GetStyle();
+    const struct
+    {
+        DWORD styleBit;
+        int bar;
+        CZoScrollBar* pBar;
+    } directions[] = {{WS_HSCROLL, SB_HORZ, m_pHorzBar}, {WS_VSCROLL, SB_VERT, m_pVertBar}};
+    for (int i = 0; i < 2; ++i)
+    {
+        if ((style & directions[i].styleBit) == 0 || !directions[i].pBar->GetSafeHwnd())
+            continue;
+        SCROLLINFO info = {};
+        info.cbSize = sizeof(info);
+        info.fMask = SIF_ALL;
+        if (!::GetScrollInfo(m_hWnd, directions[i].bar, &info))
+            continue;
+        SCROLLINFO shown = {};
+        shown.cbSize = sizeof(shown);
+        shown.fMask = SIF_ALL;
+        directions[i].pBar->GetScrollInfo(&shown, SIF_ALL);
+        if (shown.nMin != info.nMin || shown.nMax != info.nMax || shown.nPage != info.nPage || shown.nPos != info.nPos)
+            directions[i].pBar->SetScrollInfo(&info, TRUE);
+    }
+}
+
+int CZoListCtrl::_rowHeight() const
+{
+    CRect row;
+    if (GetItemCount() <= 0 || !GetItemRect(0, &row, LVIR_BOUNDS))
+        return 0;
+    return row.Height();
+}
+
+void CZoListCtrl::_scrollToPosition(bool vertical, int target)
+{
+    const int current = ::GetScrollPos(m_hWnd, vertical ? SB_VERT : SB_HORZ);
+    const int pixels = ZoListScrollPixels(current, target, vertical, vertical ? _rowHeight() : 1);
+    if (pixels != 0)
+        Scroll(vertical ? CSize(0, pixels) : CSize(pixels, 0));
+}
+
+void CZoListCtrl::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
+{
+    _onScroll(false, nSBCode, nPos, pScrollBar);
+}
+
+void CZoListCtrl::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
+{
+    _onScroll(true, nSBCode, nPos, pScrollBar);
+}
+
+void CZoListCtrl::_onScroll(bool vertical, UINT code, UINT pos, CScrollBar* pScrollBar)
+{
+    _cancelEdit();
+    CZoScrollBar* pBar = vertical ? m_pVertBar : m_pHorzBar;
+    // The thumb's place comes from the skinned bar in 32 bits; the platform's own handling of
+    // SB_THUMBPOSITION is not relied upon (it does not move the list everywhere).
+    if ((code == SB_THUMBTRACK || code == SB_THUMBPOSITION) && pScrollBar &&
+        pScrollBar->GetSafeHwnd() == pBar->GetSafeHwnd())
+    {
+        _scrollToPosition(vertical, pBar->GetThumbTrackPosition());
+        if (code == SB_THUMBPOSITION)
+            _copyScrollInfo();
+        return;
+    }
+    DefWindowProc(vertical ? WM_VSCROLL : WM_HSCROLL, MAKEWPARAM(code, pos), 0);
+    _copyScrollInfo();
+}
+
+BOOL CZoListCtrl::OnMouseWheel(UINT nFlags, short zDelta, CPoint pt)
+{
+    const BOOL result = CListCtrl::OnMouseWheel(nFlags, zDelta, pt);
+    _copyScrollInfo();
+    _cancelEdit();
+    return result;
+}
+
+void CZoListCtrl::OnSize(UINT nType, int cx, int cy)
+{
+    CListCtrl::OnSize(nType, cx, cy);
+    _placeScrollBars(true);
+    _copyScrollInfo();
+}
+
+void CZoListCtrl::OnNcCalcSize(BOOL bCalcValidRects, NCCALCSIZE_PARAMS* lpncsp)
+{
+    CListCtrl::OnNcCalcSize(bCalcValidRects, lpncsp);
+    if (!m_pHorzBar->GetSafeHwnd() || !m_pVertBar->GetSafeHwnd())
+        return;
+    _placeScrollBars(false);
+    _copyScrollInfo();
+    _showScrollBars();
+}
+
+void CZoListCtrl::OnNcPaint()
+{
+    CListCtrl::OnNcPaint();
+    if (!m_pHorzBar->GetSafeHwnd() || !m_pVertBar->GetSafeHwnd() || !m_pHorzBar->IsWindowVisible() ||
+        !m_pVertBar->IsWindowVisible())
+        return;
+    CRect window, horz, vert;
+    GetWindowRect(&window);
+    m_pHorzBar->GetWindowRect(&horz);
+    m_pVertBar->GetWindowRect(&vert);
+    window.OffsetRect(-window.left, -window.top);
+    const CRect corner(ZoPlaceListBars(window, true, true, horz.Height(), vert.Width()).corner);
+    CWindowDC dc(this);
+    dc.FillSolidRect(&corner, m_crBackground);
+}
+
+LRESULT CZoListCtrl::OnEnsureVisible(WPARAM wParam, LPARAM)
+{
+    if (!_isReport())
+        return Default();
+    const int item = (int)wParam;
+    if (item < 0 || item >= GetItemCount())
+        return FALSE;
+    SCROLLINFO info = {};
+    info.cbSize = sizeof(info);
+    info.fMask = SIF_ALL;
+    if (!::GetScrollInfo(m_hWnd, SB_VERT, &info))
+    {
+        info.nPage = (UINT)GetCountPerPage();
+        info.nPos = GetTopIndex();
+    }
+    // The item always ends up as the last visible row, even when it was visible already.
+    _scrollToPosition(true, ZoEnsureVisibleTop(item, (int)info.nPage));
+    _copyScrollInfo();
+    return TRUE;
+}
+
+LRESULT CZoListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == deleteEditorsMessage())
+    {
+        _deleteRetiredEditors();
+        return 0;
+    }
+    UINT headerCode = 0;
+    if (message == WM_NOTIFY && lParam && m_header.GetSafeHwnd())
+    {
+        const NMHDR* pHeader = reinterpret_cast<const NMHDR*>(lParam);
+        if (pHeader->hwndFrom == m_header.GetSafeHwnd())
+            headerCode = pHeader->code;
+    }
+    if (message == WM_SETREDRAW)
+        m_bRedrawSuspended = wParam == FALSE;
+    const LRESULT result = CListCtrl::WindowProc(message, wParam, lParam);
+    if (ZoListMessageChangesScrollState(message, wParam, headerCode) || (message == WM_SETREDRAW && wParam))
+        _copyScrollInfo();
+    return result;
+}
+
+void CZoListCtrl::OnDestroy()
+{
+    _cancelEdit();
+    if (m_pHorzBar->GetSafeHwnd())
+        m_pHorzBar->DestroyWindow();
+    if (m_pVertBar->GetSafeHwnd())
+        m_pVertBar->DestroyWindow();
+    CListCtrl::OnDestroy();
+}
+
+// --- Sorting -------------------------------------------------------------------------------------
+
+void CZoListCtrl::SetColumnSortMethod(int column, E_SortColumnMethod method, E_SortColumnMethod childMethod)
+{
+    m_sortMethods.SetAt(column, method);
+    m_childSortMethods.SetAt(column, childMethod == SCM_AsMethod ? method : childMethod);
+}
+
+CZoListCtrl::E_SortColumnMethod CZoListCtrl::GetColumnSortMethod(int column) const
+{
+    E_SortColumnMethod method = SCM_TextSensitive;
+    return m_sortMethods.Lookup(column, method) ? method : SCM_TextSensitive;
+}
+
+CZoListCtrl::E_SortColumnMethod CZoListCtrl::GetColumnSortChildMethod(int column) const
+{
+    E_SortColumnMethod method = SCM_TextSensitive;
+    return m_childSortMethods.Lookup(column, method) ? method : SCM_TextSensitive;
+}
+
+void CZoListCtrl::SetSortOption(int column, bool ascending) { m_header.SetSortOption(column, ascending); }
+
+bool CZoListCtrl::GetSortOption(int& column, bool& ascending) const
+{
+    return m_header.GetSortOption(column, ascending);
+}
+
+void CZoListCtrl::DoSortNow()
+{
+    int column = -1;
+    bool ascending = false;
+    if (::IsWindow(m_hWnd) && GetSortOption(column, ascending))
+        SortOnColumn(column, ascending);
+}
+
+void CZoListCtrl::SortOnColumn(int column, bool ascending)
+{
+    // A virtual list's rows are the host's: it orders them itself.
+    if (!m_bSortEnabled || !::IsWindow(m_hWnd) || (GetStyle() & LVS_OWNERDATA))
+        return;
+    CWaitCursor wait;
+    const int count = GetItemCount();
+    if (count <= 0)
+        return;
+    const int method = ZoNormalizeSortMethod(GetColumnSortMethod(column));
+    // Each row's cell is read and parsed once; the comparisons then touch no window.
+    std::vector<SortSlot> slots(count);
+    for (int i = 0; i < count; ++i)
+    {
+        slots[i].index = i;
+        slots[i].data = GetItemData(i);
+        slots[i].key = ZoMakeSortKey(method, GetItemText(i, column));
+        SetItemData(i, reinterpret_cast<DWORD_PTR>(&slots[i]));
+    }
+    SortContext context = {column, this, ascending, method};
+    SortItems(&compareSlots, reinterpret_cast<DWORD_PTR>(&context));
+    for (int i = 0; i < count; ++i)
+    {
+        const SortSlot* pSlot = reinterpret_cast<const SortSlot*>(GetItemData(i));
+        if (pSlot)
+            SetItemData(i, pSlot->data);
+    }
+}
+
+void CZoListCtrl::OnHeaderItemClick(NMHDR* pNMHDR, LRESULT* pResult)
+{
+    *pResult = 0;
+    if (!_isReport())
+        return;
+    const NMHEADERW* pHeader = reinterpret_cast<const NMHEADERW*>(pNMHDR);
+    _cancelEdit();
+    const int column = pHeader->iItem;
+    const bool virtualList = (GetStyle() & LVS_OWNERDATA) != 0;
+    if (!m_bSortEnabled)
+    {
+        *pResult = 1;
+        if (virtualList)
+            Default();
+        return;
+    }
+    // The first click on a column sorts descending; a further click turns the direction round.
+    int shown = -1;
+    bool shownAscending = false;
+    bool ascending = false;
+    if (GetSortOption(shown, shownAscending) && shown == column)
+        ascending = !shownAscending;
+    SetSortOption(column, ascending);
+    if (virtualList)
+    {
+        // The host orders a virtual list when the platform tells it of the column click.
+        *pResult = Default();
+        return;
+    }
+    m_bSortingFromHeader = true;
+    SortOnColumn(column, ascending);
+    m_bSortingFromHeader = false;
+}
+
+BOOL CZoListCtrl::OnItemChanged(NMHDR*, LRESULT* pResult)
+{
+    *pResult = 0;
+    // Changes a header sort makes to the rows are no news to the parent.
+    return m_bSortingFromHeader ? TRUE : FALSE;
+}
+
+// --- Cell drawing --------------------------------------------------------------------------------
+
+void CZoListCtrl::OnCustomDraw(NMHDR* pNMHDR, LRESULT* pResult)
+{
+    NMLVCUSTOMDRAW* pDraw = reinterpret_cast<NMLVCUSTOMDRAW*>(pNMHDR);
+    switch (pDraw->nmcd.dwDrawStage)
+    {
+    case CDDS_PREPAINT:
+        *pResult = _isReport() ? CDRF_NOTIFYITEMDRAW : CDRF_DODEFAULT;
+        break;
+    case CDDS_ITEMPREPAINT:
+        *pResult = CDRF_NOTIFYSUBITEMDRAW;
+        break;
+    case CDDS_ITEMPREPAINT | CDDS_SUBITEM:
+    {
+        CDC dc;
+        dc.Attach(pDraw->nmcd.hdc);
+        DrawSubItem(dc, (int)pDraw->nmcd.dwItemSpec, pDraw->iSubItem);
+        dc.Detach();
+        *pResult = CDRF_SKIPDEFAULT;
+        break;
+    }
+    default:
+        *pResult = CDRF_DODEFAULT;
+        break;
+    }
+}
+
+int CZoListCtrl::GetItemImageIndex(const LVITEMW& item) const { return item.iImage; }
+
+void CZoListCtrl::DrawSubItem(CDC& dc, int item, int subItem)
+{
+    CRect label, icon;
+    GetSubItemRect(item, subItem, LVIR_LABEL, label);
+    GetSubItemRect(item, subItem, LVIR_ICON, icon);
+    const CRect cell(ZoCellRect(label, icon));
+
+    LVITEMW lvItem = {};
+    lvItem.mask = LVIF_IMAGE | LVIF_STATE;
+    lvItem.iItem = item;
+    lvItem.stateMask = LVIS_FOCUSED | LVIS_SELECTED;
+    GetItem(&lvItem);
+    const bool selected = (lvItem.state & LVIS_SELECTED) != 0;
+    const bool focused = (lvItem.state & LVIS_FOCUSED) != 0;
+
+    CHeaderCtrl* pHeader = GetHeaderCtrl();
+    const int columns = pHeader ? pHeader->GetItemCount() : 0;
+    const bool firstShown = pHeader && pHeader->OrderToIndex(0) == subItem;
+    const bool lastShown = pHeader && columns > 0 && pHeader->OrderToIndex(columns - 1) == subItem;
+
+    COLORREF back = m_crBackground;
+    CRect fill = cell;
+    if (selected)
+    {
+        back = focused ? m_crSelectedFocusRow : m_crSelectedRow;
+        if (focused && firstShown)
+            fill.left -= 1;
+    }
+    dc.FillSolidRect(&fill, back);
+    if (!selected)
+        dc.FillSolidRect(cell.left, cell.bottom - 1, cell.Width(), 1, m_crGrid);
+
+    CRect text(ZoCellTextRect(cell, -1));
+    HIMAGELIST hImages = subItem == 0 ? ListView_GetImageList(m_hWnd, LVSIL_SMALL) : NULL;
+    const int image = hImages ? GetItemImageIndex(lvItem) : -1;
+    if (hImages && image >= 0)
+    {
+        int imageWidth = 0, imageHeight = 0;
+        ::ImageList_GetIconSize(hImages, &imageWidth, &imageHeight);
+        ::ImageList_DrawEx(hImages, image, dc.GetSafeHdc(), cell.left - 1, cell.top + (cell.Height() - imageHeight) / 2,
+                           0, 0, CLR_NONE, CLR_DEFAULT, ILD_NORMAL);
+        text = ZoCellTextRect(cell, imageWidth);
+    }
+
+    if (subItem == 0 && (GetExtendedStyle() & LVS_EX_CHECKBOXES))
+    {
+        const int side = label.Height();
+        CRect box(2, label.top, 2 + side, label.top + side);
+        UINT state = DFCS_BUTTONCHECK | DFCS_FLAT | DFCS_TRANSPARENT;
+        if (GetCheck(item))
+            state |= DFCS_CHECKED;
+        dc.DrawFrameControl(&box, DFC_BUTTON, state);
+    }
+
+    DrawSubitemText(dc, item, subItem, selected, text, back);
+
+    // Grid lines left and right of the label.
+    const int gridHeight = label.bottom - (label.top - 1);
+    dc.FillSolidRect(label.left - 1, label.top - 1, 1, gridHeight, m_crGrid);
+    dc.FillSolidRect(label.right - 1, label.top - 1, 1, gridHeight, m_crGrid);
+
+    // The focus frame runs round the whole row: top and bottom in every cell, the sides in the
+    // first and last column on screen.
+    if (focused)
+    {
+        const int frameHeight = cell.Height() - 1;
+        dc.FillSolidRect(cell.left, cell.top, cell.Width(), 1, m_crFocusFrame);
+        dc.FillSolidRect(cell.left, cell.bottom - 2, cell.Width(), 1, m_crFocusFrame);
+        if (firstShown)
+            dc.FillSolidRect(cell.left, cell.top, 1, frameHeight, m_crFocusFrame);
+        if (lastShown)
+            dc.FillSolidRect(cell.right - 1, cell.top, 1, frameHeight, m_crFocusFrame);
+    }
+}
+
+void CZoListCtrl::DrawSubitemText(CDC& dc, int item, int subItem, bool, CRect rect, DWORD backColour)
+{
+    const CString text = GetItemText(item, subItem);
+    if (text.IsEmpty())
+        return;
+    LVCOLUMNW column = {};
+    column.mask = LVCF_FMT;
+    UINT format = DT_VCENTER | DT_SINGLELINE;
+    if (GetColumn(subItem, &column))
+    {
+        const int justify = column.fmt & LVCFMT_JUSTIFYMASK;
+        if (justify == LVCFMT_CENTER)
+            format |= DT_CENTER;
+        else if (justify == LVCFMT_RIGHT)
+            format |= DT_RIGHT;
+    }
+    const COLORREF oldText = dc.SetTextColor(m_crCellText);
+    const COLORREF oldBack = dc.SetBkColor(backColour);
+    dc.DrawText(text, &rect, format);
+    dc.SetBkColor(oldBack);
+    dc.SetTextColor(oldText);
+}
+
+// --- In-place editing ----------------------------------------------------------------------------
+
+CZoEditInPlace* CZoListCtrl::EditSubLabel(int item, int column)
+{
+    if (!_isReport())
+        return NULL;
+    _cancelEdit();
+    if (column < 0 || column >= GetColumnCount())
+        return NULL;
+    if (!SendMessage(LVM_ENSUREVISIBLE, item, FALSE))
+        return NULL;
+    CRect rect;
+    if (!GetSubItemRect(item, column, LVIR_LABEL, rect))
+        return NULL;
+    rect.right = rect.left + GetColumnWidth(column);
+
+    DWORD style = WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL;
+    LVCOLUMNW info = {};
+    info.mask = LVCF_FMT;
+    if (GetColumn(column, &info))
+    {
+        const int justify = info.fmt & LVCFMT_JUSTIFYMASK;
+        if (justify == LVCFMT_RIGHT)
+            style |= ES_RIGHT;
+        else if (justify == LVCFMT_CENTER)
+            style |= ES_CENTER;
+    }
+    const HWND hNotify = ::GetParent(m_hWnd);
+    CZoEditInPlace* pEditor = new CZoEditInPlace(hNotify, item, column, GetItemText(item, column));
+    // Kept before the window exists: its creation takes the focus, which may already report.
+    m_pEditor = pEditor;
+    if (!pEditor->Create(style, rect, this, EditorId))
+    {
+        if (m_pEditor == pEditor)
+            m_pEditor = NULL;
+        delete pEditor;
+        return NULL;
+    }
+    return m_pEditor == pEditor ? pEditor : NULL;
+}
+
+void CZoListCtrl::_cancelEdit()
+{
+    CZoEditInPlace* pEditor = m_pEditor;
+    if (!pEditor)
+        return;
+    // Cleared first: destroying the editor takes its focus, and its report of that comes back here.
+    m_pEditor = NULL;
+    if (::IsWindow(pEditor->GetSafeHwnd()))
+        pEditor->DestroyWindow();
+    // The editor may be the one asking (it ends its edit from its own handlers): it is deleted
+    // once the message loop runs again, never under its own feet.
+    m_retiredEditors.push_back(pEditor);
+    if (::IsWindow(m_hWnd))
+        PostMessage(deleteEditorsMessage());
+}
+
+void CZoListCtrl::_deleteRetiredEditors()
+{
+    std::vector<CZoEditInPlace*> editors;
+    editors.swap(m_retiredEditors);
+    for (size_t i = 0; i < editors.size(); ++i)
+        delete editors[i];
+}
+
+LRESULT CZoListCtrl::OnEditLabel(WPARAM wParam, LPARAM)
+{
+    const int column = m_nEditableColumn >= 0 ? m_nEditableColumn : 0;
+    CZoEditInPlace* pEditor = EditSubLabel((int)wParam, column);
+    return (LRESULT)(pEditor ? pEditor->GetSafeHwnd() : NULL);
+}
+
+LRESULT CZoListCtrl::OnGetEditControl(WPARAM, LPARAM)
+{
+    return (LRESULT)(m_pEditor ? m_pEditor->GetSafeHwnd() : NULL);
+}
+
+LRESULT CZoListCtrl::OnCancelEditLabel(WPARAM, LPARAM)
+{
+    _cancelEdit();
+    return 0;
+}
+
+void CZoListCtrl::OnLButtonDown(UINT nFlags, CPoint point)
+{
+    if (_isReport() && m_nEditableColumn >= 0 && GetSelectedCount() == 1)
+    {
+        LVHITTESTINFO hit = {};
+        hit.pt = point;
+        SubItemHitTest(&hit);
+        if (hit.iItem >= 0 && hit.iSubItem == m_nEditableColumn &&
+            (GetItemState(hit.iItem, LVIS_SELECTED) & LVIS_SELECTED))
+        {
+            ::Sleep(kClickEditDelayMs);
+            EditSubLabel(hit.iItem, m_nEditableColumn);
+            return;
+        }
+    }
+    CListCtrl::OnLButtonDown(nFlags, point);
+}
+
+BOOL CZoListCtrl::PreTranslateMessage(MSG* pMsg)
+{
+    if (pMsg->message == WM_KEYDOWN)
+    {
+        if (pMsg->wParam == VK_F2 && m_nEditableColumn >= 0)
+        {
+            const int focused = GetFocusedItemIndex();
+            if (focused >= 0)
+            {
+                EditSubLabel(focused, m_nEditableColumn);
+                return TRUE;
+            }
+        }
+        // Dialog keys go to the dialog.
+        if ((pMsg->wParam == VK_ESCAPE || pMsg->wParam == VK_RETURN) && GetParent())
+        {
+            GetParent()->PostMessage(WM_KEYDOWN, pMsg->wParam, pMsg->lParam);
+            return TRUE;
+        }
+    }
+    return CListCtrl::PreTranslateMessage(pMsg);
+}
+
+// --- Queries -------------------------------------------------------------------------------------
+
+int CZoListCtrl::SearchString(int startItem, const wchar_t* text, bool forward, bool caseSensitive) const
+{
+    const int count = ::IsWindow(m_hWnd) ? GetItemCount() : 0;
+    if (!text || startItem < 0 || startItem >= count)
+        return -1;
+    const int columns = GetColumnCount();
+    CString needle(text);
+    if (!caseSensitive)
+        needle.MakeLower();
+    const int step = forward ? 1 : -1;
+    for (int row = startItem; row >= 0 && row < count; row += step)
+    {
+        for (int column = 0; column < columns; ++column)
+        {
+            CString cell = GetItemText(row, column);
+            if (!caseSensitive)
+                cell.MakeLower();
+            if (cell.Find(needle) >= 0)
+                return row;
+        }
+    }
+    return -1;
+}
+
+int CZoListCtrl::GetColumnCount() const
+{
+    if (!_isReport())
+        return 0;
+    const HWND hHeader = (HWND)::SendMessageW(m_hWnd, LVM_GETHEADER, 0, 0);
+    return hHeader ? (int)::SendMessageW(hHeader, HDM_GETITEMCOUNT, 0, 0) : 0;
+}
+
+int CZoListCtrl::GetFocusedItemIndex() const
+{
+    // At most one row has the focus: the platform finds it without visiting every row.
+    return ::IsWindow(m_hWnd) ? GetNextItem(-1, LVNI_FOCUSED) : -1;
+}
+
+} // namespace ZoControls

@@ -18,4 +18,6 @@
 #include "controls/ZoButton.h"
 #include "controls/ZoButtonVariants.h"
 #include "controls/ZoStatic.h"
+#include "lists/ZoTreeFile.h"
+#include "lists/ZoTreeListCtrlItem.h"
 #include "frames/ZoMenuXP.h"

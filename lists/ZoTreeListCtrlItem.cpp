@@ -20,6 +20,21 @@ bool RowBefore(const CZoTreeListCtrlItem* a, const CZoTreeListCtrlItem* b)
     return a->GetTempItemNumber() < b->GetTempItemNumber();
 }
 
+// Calls visit(node) on `top` and every node below it, without recursion.
+template <class Visit>
+void VisitSubtree(CZoTreeListCtrlItem* top, Visit visit)
+{
+    std::vector<CZoTreeListCtrlItem*> pending(1, top);
+    while (!pending.empty())
+    {
+        CZoTreeListCtrlItem* node = pending.back();
+        pending.pop_back();
+        visit(node);
+        for (POSITION pos = node->GetFirstChildPosition(); pos != NULL;)
+            pending.push_back(node->GetNextChild(pos));
+    }
+}
+
 } // namespace
 
 CZoTreeListCtrlItem::CZoTreeListCtrlItem() : CZoTreeListCtrlItem(NULL, -1)
@@ -201,15 +216,7 @@ bool CZoTreeListCtrlItem::IsCollapsed() const
 
 void CZoTreeListCtrlItem::ExpandAll(bool expand)
 {
-    std::vector<CZoTreeListCtrlItem*> pending(1, this);
-    while (!pending.empty())
-    {
-        CZoTreeListCtrlItem* node = pending.back();
-        pending.pop_back();
-        node->m_bExpanded = expand;
-        for (POSITION pos = node->GetFirstChildPosition(); pos != NULL;)
-            pending.push_back(node->GetNextChild(pos));
-    }
+    VisitSubtree(this, [expand](CZoTreeListCtrlItem* node) { node->Expand(expand); });
 }
 
 CString CZoTreeListCtrlItem::GetSubItemText(int column) const
@@ -282,15 +289,7 @@ int CZoTreeListCtrlItem::GetTempItemNumber() const
 
 void CZoTreeListCtrlItem::ResetTempItemNumber()
 {
-    std::vector<CZoTreeListCtrlItem*> pending(1, this);
-    while (!pending.empty())
-    {
-        CZoTreeListCtrlItem* node = pending.back();
-        pending.pop_back();
-        node->m_nTempItemNumber = -1;
-        for (POSITION pos = node->GetFirstChildPosition(); pos != NULL;)
-            pending.push_back(node->GetNextChild(pos));
-    }
+    VisitSubtree(this, [](CZoTreeListCtrlItem* node) { node->SetTempItemNumber(-1); });
 }
 
 void CZoTreeListCtrlItem::SortChildren()

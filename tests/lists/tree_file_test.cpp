@@ -247,23 +247,6 @@ TEST(TreeFileRead, OlderRecordsAreRefusedAfterTheVersionAndNewerOnesRead)
         EXPECT_EQ(node.GetTempItemNumber(), row.loads ? 12 : -1);
         EXPECT_EQ(node.IsExpanded() && node.GetBold() && node.IsLastItem(), row.loads);
     }
-}
-
-TEST(TreeFileRead, ATruncatedRecordIsFalseAndChangesNothing)
-{
-    FileTree tree;
-    CMemFile file;
-    ASSERT_TRUE(tree.a->DumpToDisk(&file));
-    Bytes bytes = ContentOf(file);
-    for (size_t size = 0; size < bytes.size(); ++size)
-    {
-        Bytes cut(bytes.begin(), bytes.begin() + size);
-        FileOver in(cut);
-        CZoTreeListCtrlItem node;
-        EXPECT_FALSE(node.LoadFromDisk(&in)) << size;
-        EXPECT_EQ(node.GetItemData(), 0u);
-        EXPECT_EQ(node.GetSubItemText(0), L"");
-    }
     EXPECT_FALSE(CZoTreeListCtrlItem().LoadFromDisk(nullptr));
 }
 

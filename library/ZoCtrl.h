@@ -30,4 +30,6 @@
 #include "lists/ZoListGeometry.h"
 #include "lists/ZoHeaderCtrl.h"
 #include "lists/ZoListCtrl.h"
+#include "lists/ZoTreeFile.h"
+#include "lists/ZoTreeListCtrlItem.h"
 #include "frames/ZoMenuXP.h"

@@ -257,6 +257,57 @@ inline void UseFilesAndCollections(CFile* file, CList<CWnd*, CWnd*>& windows)
     texts.SetSize(0);
 }
 
+// The tree file: records built in byte arrays, read back through any CFile, memory files in tests.
+inline void UseTreeFiles(CFile* file, CList<CWnd*, CWnd*>& children)
+{
+    Pin<ULONGLONG (CFile::*)() const>(&CFile::GetLength);
+    Pin<ULONGLONG (CFile::*)() const>(&CFile::GetPosition);
+    Pin<UINT (CFile::*)(void*, UINT)>(&CFile::Read);
+    Pin<void (CFile::*)(const void*, UINT)>(&CFile::Write);
+    Pin<CString (CFile::*)() const>(&CFile::GetFilePath);
+    Pin<void (CMemFile::*)(BYTE*, UINT, UINT)>(&CMemFile::Attach);
+    Pin<BYTE* (CMemFile::*)()>(&CMemFile::Detach);
+    CMemFile growing(1024);
+    growing.Write("tree", 4);
+    (void)growing.GetLength();
+    growing.SeekToBegin();
+    BYTE buffer[8] = {};
+    CMemFile fixed(buffer, sizeof(buffer));
+    (void)fixed.Read(buffer, 4);
+    (void)fixed.Seek(0, CFile::begin);
+    CMemFile attached;
+    attached.Attach(buffer, sizeof(buffer), 0);
+    (void)attached.Detach();
+    (void)file;
+
+    CByteArray bytes;
+    bytes.SetSize(16);
+    (void)bytes.Add(BYTE(0xFF));
+    (void)bytes.GetData();
+    (void)bytes.GetSize();
+
+    POSITION pos = children.AddTail(static_cast<CWnd*>(nullptr));
+    children.SetAt(pos, nullptr);
+    (void)children.GetHeadPosition();
+    const CList<CWnd*, CWnd*>& readOnly = children;
+    POSITION next = readOnly.GetHeadPosition();
+    (void)readOnly.GetNext(next);
+    (void)readOnly.GetTail();
+    children.RemoveAt(pos);
+
+    CString text;
+    LPWSTR chars = text.GetBuffer(4);
+    chars[0] = 0;
+    text.ReleaseBuffer(0);
+    CString narrow("abc", 3);
+    (void)narrow;
+    try {
+        AfxThrowFileException(CFileException::genericException, -1, file->GetFilePath());
+    } catch (CException* error) {
+        error->Delete();
+    }
+}
+
 // ---------------------------------------------------------------------------------------
 // application, resources and extension-library start-up
 

@@ -1,7 +1,7 @@
 // MFC-compatible <afx.h>: the core of the layer. Run-time class information (CObject,
 // CRuntimeClass and the DECLARE_/IMPLEMENT_ macros), diagnostics macros, CString (afxstr.h),
 // CPoint/CSize/CRect (atltypes.h), exceptions and the TRY/CATCH macros, files (CFile,
-// CFileFind) and the module/resource-handle functions.
+// CMemFile, CFileFind) and the module/resource-handle functions.
 //
 // AfxGetInstanceHandle, AfxGetResourceHandle, AfxSetResourceHandle, AfxFindResourceHandle,
 // AfxLockTempMaps and AfxUnlockTempMaps are declared here (MFC declares some of them in
@@ -399,6 +399,48 @@ public:
 protected:
     BOOL m_bCloseOnDelete;
     CString m_strFileName;
+};
+
+// A file in memory. It grows by nGrowBytes as it is written past its end; a file over an
+// attached buffer with nGrowBytes 0 cannot grow (writing past its end throws CMemoryException).
+// Reads at the end return fewer bytes without throwing, as CFile's do.
+class ZOAFX_API CMemFile : public CFile
+{
+    DECLARE_DYNAMIC(CMemFile)
+public:
+    CMemFile(UINT nGrowBytes = 1024);
+    CMemFile(BYTE* lpBuffer, UINT nBufferSize, UINT nGrowBytes = 0);
+    virtual ~CMemFile();
+
+    void Attach(BYTE* lpBuffer, UINT nBufferSize, UINT nGrowBytes = 0);
+    BYTE* Detach();
+
+    virtual ULONGLONG GetPosition() const;
+    virtual ULONGLONG Seek(LONGLONG lOff, UINT nFrom);
+    virtual void SetLength(ULONGLONG dwNewLen);
+    virtual ULONGLONG GetLength() const;
+    virtual UINT Read(void* lpBuf, UINT nCount);
+    virtual void Write(const void* lpBuf, UINT nCount);
+    virtual CFile* Duplicate() const;
+    virtual void LockRange(ULONGLONG dwPos, ULONGLONG dwCount);
+    virtual void UnlockRange(ULONGLONG dwPos, ULONGLONG dwCount);
+    virtual void Abort();
+    virtual void Flush();
+    virtual void Close();
+
+protected:
+    virtual BYTE* Alloc(SIZE_T nBytes);
+    virtual BYTE* Realloc(BYTE* lpMem, SIZE_T nBytes);
+    virtual BYTE* Memcpy(BYTE* lpMemTarget, const BYTE* lpMemSource, SIZE_T nBytes);
+    virtual void Free(BYTE* lpMem);
+    virtual void GrowFile(SIZE_T dwNewLen);
+
+    SIZE_T m_nGrowBytes;
+    SIZE_T m_nPosition;
+    SIZE_T m_nBufferSize;
+    SIZE_T m_nFileSize;
+    BYTE* m_lpBuffer;
+    BOOL m_bAutoDelete;
 };
 
 class ZOAFX_API CFileFind : public CObject

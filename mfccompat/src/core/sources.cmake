@@ -7,5 +7,6 @@ list(APPEND ZOAFX_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/handlemap.cpp
   ${CMAKE_CURRENT_LIST_DIR}/collections.cpp
   ${CMAKE_CURRENT_LIST_DIR}/file.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/memfile.cpp
   ${CMAKE_CURRENT_LIST_DIR}/stringdata.h
 )

@@ -62,8 +62,10 @@ export CMAKE_C_COMPILER_LAUNCHER=${CMAKE_C_COMPILER_LAUNCHER:-ccache}
 run_suite() {
   local runlog=$1
   if ! cmake --build "$tree/build/$arch" >"$runlog" 2>&1; then echo "BUILD FAILED|"; return; fi
-  # GoogleTest stops at its first failure too: a caught fault needs no more.
-  (cd "$tree/build/$arch" && GTEST_FAIL_FAST=1 ctest --output-on-failure --stop-on-failure) >>"$runlog" 2>&1
+  # GoogleTest stops at its first failure too: a caught fault needs no more. The skin generator's
+  # check reads no library code and is left out.
+  (cd "$tree/build/$arch" && GTEST_FAIL_FAST=1 ctest --output-on-failure --stop-on-failure -E skins_reproducible) \
+    >>"$runlog" 2>&1
   local failed cases
   failed=$(sed -n 's/^[[:space:]]*[0-9]*[[:space:]]*-[[:space:]]\([A-Za-z0-9_]*\) .*/\1/p' "$runlog" | sort -u | tr '\n' ' ')
   cases=$(sed -n 's/^\[  FAILED  \] \([A-Za-z0-9_/]*\.[A-Za-z0-9_/.]*\)[ ,].*/\1/p' "$runlog" | sort -u | head -4 | tr '\n' ' ')

@@ -30,7 +30,7 @@ F02|core/ZoPaintedWnd.cpp|s/if (mode == ZoPaint_DirectAfterErase)/if (mode != Zo
 F03|core/ZoMemDC.cpp|s/^        ::DeleteObject(m_hBitmap);/        (void)m_hBitmap;/|memory DC leaks its bitmap
 F04|images/ZoResourceImage.cpp|s/const ZoBlitRect cell = {uw \* ux, uh \* uy, uw, uh};/const ZoBlitRect cell = {uw * ux, uh * uy, uw - 1, uh};/|off-by-one: skin cell one pixel too narrow
 F05|images/ZoResourceImage.cpp|s/id += L"_3M";/id += L"_5M";/|wrong resource name for the 3M size class
-F06|controls/ZoButton.cpp|s/const int kLineSlots\[BS_ZO_COUNT\] = {18, 19, 20, 22};/const int kLineSlots[BS_ZO_COUNT] = {18, 19, 21, 22};/|wrong colour slot: pressed button line
+F06|controls/ZoButton.cpp|s/const int kFaceSlots\[BS_ZO_COUNT\] = {13, 14, 15, 17};/const int kFaceSlots[BS_ZO_COUNT] = {13, 14, 16, 17};/|wrong colour slot: pressed button face (the line slots 18-21 share one colour, so a line-slot mix-up would not show)
 F07|controls/ZoScrollBar.cpp|s/^        SetTimer(TimerFirstDelay, kFirstDelayMs, NULL);/        ;/|arrow press does not arm the first auto-repeat delay
 F08|controls/ZoScrollBarMath.cpp|s/low, low + buttonUnit - gap);/low, low + buttonUnit - gap + 1);/|off-by-one: previous arrow rectangle one pixel long
 F09|controls/SeparatorWnd.cpp|s/::SendMessageW(m_pNotify ? m_pNotify->GetSafeHwnd() : NULL, ZoMsg_SeparatorMoved/if (0) ::SendMessageW(m_pNotify ? m_pNotify->GetSafeHwnd() : NULL, ZoMsg_SeparatorMoved/|missing notification: separator never reports its move

@@ -111,15 +111,6 @@ private:
     HIMAGELIST images_;
 };
 
-int InkPixels(const zotest::Dib& dib, const RECT& area, COLORREF background)
-{
-    int count = 0;
-    for (int y = area.top; y < area.bottom; ++y)
-        for (int x = area.left; x < area.right; ++x)
-            count += dib.Pixel(x, y) != background;
-    return count;
-}
-
 } // namespace
 
 TEST_F(MenuDrawTest, PlainItemHasBackgroundDividerAndTextRightOfTheColumn)

@@ -48,7 +48,7 @@ if [ -z "$tree" ]; then
   tree=$scratch/src
   mkdir -p "$tree"
   # The working tree as it is (tracked and new files), without build folders.
-  (cd "$here" && git ls-files -co --exclude-standard -z | tar --null -T - -cf -) | tar -xf - -C "$tree"
+  (cd "$here" && git ls-files -co --exclude-standard -z | tar --null -T - -cf -) | tar -xmf - -C "$tree"  # -m: fresh times, so the copy rebuilds what changed
 fi
 tree=$(cd "$tree" && pwd)
 out=${out:-$scratch/fault-table.md}

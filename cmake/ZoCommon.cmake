@@ -38,9 +38,15 @@ function(zo_windows_executable target)
   endif()
 endfunction()
 
-# One GoogleTest executable per subsystem, run by CTest under Wine.
+# One GoogleTest executable per subsystem, run by CTest under Wine. Each carries the
+# common-controls 6 manifest of a Visual Studio host, so the tests see the controls users run.
 function(zo_add_test_executable name)
   add_executable(${name} ${ARGN})
+  if(MSVC)
+    target_sources(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests/support/common_controls6.manifest)
+  else()
+    target_sources(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests/support/common_controls6.rc)
+  endif()
   zo_windows_executable(${name})
   target_link_libraries(${name} PRIVATE zotest_support gtest)
   add_test(NAME ${name} COMMAND ${name} --gtest_color=no)

@@ -163,17 +163,6 @@ TEST_F(ButtonTest, ToolTipCreatedUpdatedAndDestroyed)
     EXPECT_EQ(button.GetToolTipCtrl(), nullptr);
 }
 
-TEST_F(ButtonTest, SubclassedDialogButtonPaintsTheSkin)
-{
-    HWND raw = MakeNative(L"BUTTON", BS_PUSHBUTTON, RECT{10, 10, 70, 30});
-    CZoButton button;
-    ASSERT_TRUE(button.SubclassDlgItem(kNativeId, parentWnd()));
-    const zotest::Dib dib = zotest::RenderClient(raw);
-    ZOTEST_EXPECT_FILL(dib, (RECT{1, 1, 59, 19}), Slot(13));
-    ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 60, 1}), Slot(18));
-    button.DestroyWindow();
-}
-
 TEST_F(ButtonTest, RecreatedWindowReloadsItsStrip)
 {
     CZoButton box;

@@ -34,10 +34,6 @@ TEST_F(VariantTest, FlatLinesBeforeInit)
 
 TEST_F(VariantTest, FlatPushTextInsetByThreePixels)
 {
-    zotest::ScopedCommonControls6 v6;
-    // BCM_SETTEXTMARGIN is a version 6 button message.
-    if (!v6.active())
-        GTEST_SKIP() << "no comctl32 version 6";
     CZoFlatButton flat;
     MakeButton(flat, L"MM", BS_PUSHBUTTON | BS_LEFT | BS_TOP);
     const RECT m = Margins(flat);
@@ -87,18 +83,6 @@ TEST_F(VariantTest, ToggleFaceFollowsCheckHoverAndEnable)
     EXPECT_EQ(zotest::RenderClient(toggle.m_hWnd).Pixel(70, 3), Slot(17));
 }
 
-TEST_F(VariantTest, ToggleKeepsTheSystemMargins)
-{
-    zotest::ScopedCommonControls6 v6;
-    CZoButton plain;
-    CZoToggleButton toggle;
-    MakeButton(plain, L"", BS_AUTOCHECKBOX);
-    MakeButton(toggle, L"", BS_AUTOCHECKBOX, RECT{10, 50, 110, 75});
-    const RECT a = Margins(plain);
-    const RECT b = Margins(toggle);
-    EXPECT_TRUE(EqualRect(&a, &b));
-}
-
 TEST_F(VariantTest, MsgBoxButtonKindSetBeforeCreation)
 {
     CZoButton4MsgBox def, plain;
@@ -120,25 +104,6 @@ TEST_F(VariantTest, MsgBoxButtonKindAfterCreationIsRefused)
     button.DestroyWindow();
     MakeButton(button, L"Yes", BS_PUSHBUTTON);
     EXPECT_EQ(button.GetStyle() & BS_TYPEMASK, static_cast<DWORD>(BS_PUSHBUTTON));
-}
-
-TEST(VariantRules, MsgBoxStyleKeepsBitsEightToFifteen)
-{
-    EXPECT_EQ(ZoMsgBoxButtonStyle(BS_AUTOCHECKBOX | BS_LEFTTEXT | BS_MULTILINE, true),
-              static_cast<DWORD>(BS_DEFPUSHBUTTON | BS_MULTILINE));
-    EXPECT_EQ(ZoMsgBoxButtonStyle(WS_CHILD | BS_DEFPUSHBUTTON | BS_CENTER, false), static_cast<DWORD>(BS_CENTER));
-}
-
-TEST(VariantClasses, RunTimeClasses)
-{
-    CZoFlatButton flat;
-    CZoToggleButton toggle;
-    EXPECT_STREQ(flat.GetRuntimeClass()->m_lpszClassName, "CZoFlatButton");
-    EXPECT_STREQ(toggle.GetRuntimeClass()->m_lpszClassName, "CZoToggleButton");
-    EXPECT_TRUE(toggle.IsKindOf(RUNTIME_CLASS(CZoFlatButton)));
-    EXPECT_TRUE(flat.IsKindOf(RUNTIME_CLASS(CZoButton)));
-    CZoButton4MsgBox box;
-    EXPECT_STREQ(box.GetRuntimeClass()->m_lpszClassName, "CZoButton");
 }
 
 } // namespace

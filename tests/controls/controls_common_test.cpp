@@ -360,31 +360,6 @@ TEST_P(MenuForwardingTest, OptsInAtCreation)
     EXPECT_TRUE(CMenuXP::GetXPLookNFeel(control_.get()));
 }
 
-TEST_P(MenuForwardingTest, InitMenuPopupMakesTheItemsOwnerDrawnButNotTheSystemMenu)
-{
-    Send(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu_), MAKELPARAM(0, TRUE));
-    EXPECT_FALSE(OwnerDrawn(0));
-    InitPopup();
-    EXPECT_TRUE(OwnerDrawn(0));
-    EXPECT_TRUE(OwnerDrawn(1));
-    EXPECT_NE(Item(1).dwItemData, 0u);
-}
-
-TEST_P(MenuForwardingTest, MeasureItemFillsInTheItemSize)
-{
-    InitPopup();
-    const ULONG_PTR data = Item(1).dwItemData;
-    MEASUREITEMSTRUCT measure = {};
-    measure.CtlType = ODT_MENU;
-    measure.itemID = 2;
-    measure.itemData = data;
-    Send(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&measure));
-    // Height in bits 0-7; width = widest text + 42 + widest accelerator.
-    EXPECT_EQ(measure.itemHeight, static_cast<UINT>(data & 0xFF));
-    EXPECT_EQ(measure.itemWidth, static_cast<UINT>(((data >> 16) & 0xFFFF) + 42 + ((data >> 8) & 0xFF)));
-    EXPECT_GT(measure.itemHeight, 0u);
-}
-
 TEST_P(MenuForwardingTest, DrawItemPaintsTheMenuItem)
 {
     InitPopup();
@@ -403,13 +378,6 @@ TEST_P(MenuForwardingTest, DrawItemPaintsTheMenuItem)
     // Menu background in the icon column, the column's divider at x = 21.
     ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 21, 24}), Slot(68));
     ZOTEST_EXPECT_FILL(dib, (RECT{21, 0, 22, 24}), Slot(70));
-}
-
-TEST_P(MenuForwardingTest, MenuCharPicksTheMnemonicOfAnOwnerDrawnMenu)
-{
-    InitPopup();
-    EXPECT_EQ(Send(WM_MENUCHAR, MAKEWPARAM(L'x', MF_POPUP), reinterpret_cast<LPARAM>(menu_)),
-              MAKELRESULT(1, MNC_EXECUTE));
 }
 
 INSTANTIATE_TEST_SUITE_P(Controls, MenuForwardingTest, testing::ValuesIn(kMenuForwarders), CaseName);

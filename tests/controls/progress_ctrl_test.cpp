@@ -142,14 +142,3 @@ TEST_F(ProgressTest, VerticalBarFillsFromTheBottomAndLeavesTheTopRow)
     // The top row keeps the memory surface's first contents.
     EXPECT_NE(dib.Pixel(5, 0), controltest::Slot(66));
 }
-
-TEST_F(ProgressTest, SubclassedNativeBarIsSkinnedToo)
-{
-    HWND native = MakeNative(PROGRESS_CLASSW, 0, RECT{0, 0, 120, 18});
-    ASSERT_TRUE(bar_.SubclassWindow(native));
-    bar_.SetRange32(0, 100);
-    bar_.SetPos(100);
-    const zotest::Dib dib = zotest::RenderClient(native);
-    ZOTEST_EXPECT_CELL(dib, CPoint(0, 0), horizontal_, zotest::CellRect(horizontal_, 4, 1, 0, 0),
-                       controltest::kMagenta);
-}

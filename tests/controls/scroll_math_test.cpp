@@ -32,14 +32,6 @@ ZoScrollLayout TallBar()
 
 } // namespace
 
-TEST(ScrollGap, FourPixelsTimesZoomOrNoneWithoutButtons)
-{
-    EXPECT_EQ(ZoScrollGapSize(true, 1.0f), 4);
-    EXPECT_EQ(ZoScrollGapSize(true, 1.2f), 5);
-    EXPECT_EQ(ZoScrollGapSize(true, 1.6f), 6);
-    EXPECT_EQ(ZoScrollGapSize(false, 1.6f), 0);
-}
-
 TEST(ScrollLayout, TallVerticalBarShortensButtonHitAreasByTheGap)
 {
     ZoScrollLayout layout = TallBar();

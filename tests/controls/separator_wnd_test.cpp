@@ -72,17 +72,6 @@ TEST(SeparatorMath, ClampAppliesTheUpperBoundFirst)
     EXPECT_EQ(ZoSeparatorClamp(5, 10, 0), 10); // inverted bounds: the lower one wins
 }
 
-TEST_F(SeparatorTest, WindowDirectionIsWrittenAndTheResultIsAlwaysTwo)
-{
-    CSeparatorWnd vertical(1, CSeparatorWnd::SeparatorDirection_Vertical, NULL, true);
-    CSeparatorWnd horizontal(2, CSeparatorWnd::SeparatorDirection_Horizontal, NULL, false);
-    CSeparatorWnd::E_SeparatorDirection direction = CSeparatorWnd::SeparatorDirection_Horizontal;
-    EXPECT_EQ(vertical.GetWindowDirection(direction), 2);
-    EXPECT_EQ(direction, CSeparatorWnd::SeparatorDirection_Vertical);
-    EXPECT_EQ(horizontal.GetWindowDirection(direction), 2);
-    EXPECT_EQ(direction, CSeparatorWnd::SeparatorDirection_Horizontal);
-}
-
 TEST_F(SeparatorTest, PaintsTwoLinesInTheSlotColourWithRedAndBlueExchanged)
 {
     Create(CSeparatorWnd::SeparatorDirection_Horizontal);
@@ -90,14 +79,6 @@ TEST_F(SeparatorTest, PaintsTwoLinesInTheSlotColourWithRedAndBlueExchanged)
     const COLORREF expected = RGB(GetBValue(slot), GetGValue(slot), GetRValue(slot));
     const zotest::Dib dib = zotest::RenderClient(sep_->GetSafeHwnd());
     ZOTEST_EXPECT_FILL(dib, CRect(0, 0, 200, 2), expected);
-}
-
-TEST_F(SeparatorTest, CustomColourDropsAlpha)
-{
-    Create(CSeparatorWnd::SeparatorDirection_Vertical);
-    sep_->SetColor(Gdiplus::Color(128, 10, 20, 30));
-    const zotest::Dib dib = zotest::RenderClient(sep_->GetSafeHwnd());
-    ZOTEST_EXPECT_FILL(dib, CRect(0, 0, 2, 200), RGB(10, 20, 30));
 }
 
 
@@ -120,20 +101,6 @@ TEST_F(SeparatorTest, HorizontalBarTogglesItsLineWhenTheMouseDoesNotMoveVertical
     // Released on the same row: the last step takes the line off too.
     Send(WM_LBUTTONUP, 90, 41);
     EXPECT_EQ(ParentPixel(150, 141), controltest::kParentColor);
-}
-
-TEST_F(SeparatorTest, VerticalBarKeepsItsLineWhenTheMouseDoesNotMoveSideways)
-{
-    Create(CSeparatorWnd::SeparatorDirection_Vertical);
-    Send(WM_LBUTTONDOWN, 1, 10);
-    Send(WM_MOUSEMOVE, 31, 10); // line at parent x 131, y 53..247
-    EXPECT_EQ(ParentPixel(131, 150), XorColor());
-    Send(WM_MOUSEMOVE, 31, 60);
-    EXPECT_EQ(ParentPixel(131, 150), XorColor());
-    Send(WM_MOUSEMOVE, 51, 60);
-    EXPECT_EQ(ParentPixel(151, 150), XorColor());
-    EXPECT_EQ(ParentPixel(131, 150), controltest::kParentColor);
-    Send(WM_LBUTTONUP, 51, 60);
 }
 
 TEST_F(SeparatorTest, BoundaryLimitsTheRubberBand)

@@ -33,28 +33,6 @@ TEST(SpinMath, HitTestSplitsAtTheMiddle)
     EXPECT_EQ(ZoSpinHitTest(client, true, CPoint(-1, 3)), 0);
 }
 
-TEST(SpinMath, ArrowsAreNotMirrorImages)
-{
-    const RECT half = {0, 0, 20, 16}; // centre (10, 8)
-    POINT p[3];
-    ZoSpinArrowPoints(half, false, true, p);
-    EXPECT_TRUE(CPoint(p[0]) == CPoint(10, 6) && CPoint(p[1]) == CPoint(6, 10) && CPoint(p[2]) == CPoint(13, 10));
-    ZoSpinArrowPoints(half, false, false, p);
-    EXPECT_TRUE(CPoint(p[0]) == CPoint(13, 7) && CPoint(p[1]) == CPoint(10, 10) && CPoint(p[2]) == CPoint(7, 7));
-    ZoSpinArrowPoints(half, true, true, p);
-    EXPECT_TRUE(CPoint(p[0]) == CPoint(8, 8) && CPoint(p[1]) == CPoint(11, 5) && CPoint(p[2]) == CPoint(11, 11));
-    ZoSpinArrowPoints(half, true, false, p);
-    EXPECT_TRUE(CPoint(p[0]) == CPoint(12, 8) && CPoint(p[1]) == CPoint(9, 11) && CPoint(p[2]) == CPoint(9, 5));
-}
-
-TEST(SpinMath, OutlineTakesTheBottomOfTheHalfDrawnFirst)
-{
-    const RECT first = {0, 0, 20, 16};
-    const RECT second = {0, 15, 20, 30};
-    EXPECT_TRUE(CRect(ZoSpinOutline(second, first)) == CRect(0, 0, 20, 30));
-    EXPECT_TRUE(CRect(ZoSpinOutline(first, second)) == CRect(0, 15, 20, 16));
-}
-
 namespace {
 
 class SpinTest : public ControlTest
@@ -185,12 +163,4 @@ TEST_F(SpinTest, HorizontalOutlineIsTheLeftOrTheRightHalf)
     dib = Render();
     EXPECT_EQ(dib.Pixel(Right(), y), border);
     EXPECT_EQ(dib.Pixel(0, y), controltest::Slot(92));
-}
-
-TEST_F(SpinTest, ValueHandlingStaysThePlatformsOwn)
-{
-    Create(5);
-    Send(WM_LBUTTONDOWN, 10, 5, MK_LBUTTON);
-    Send(WM_LBUTTONUP, 10, 5);
-    EXPECT_NE(spin_.GetPos32(), 5);
 }

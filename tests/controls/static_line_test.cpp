@@ -74,16 +74,6 @@ TEST_F(StaticLineTest, DottedHorizontalLineAtTheTopRows)
     EXPECT_EQ(controltest::CountPixels(dib, kShadow), 25 * 3);
 }
 
-TEST_F(StaticLineTest, DottedVerticalLine)
-{
-    CStaticLine line;
-    const zotest::Dib dib = Render(line, 10, 40);
-    for (int y = 0; y < 40; y += 4)
-        ZOTEST_EXPECT_FILL(dib, (RECT{5, y, 7, y + 2}), kLine);
-    ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 5, 40}), kBack);
-    ZOTEST_EXPECT_FILL(dib, (RECT{8, 0, 10, 40}), kBack);
-}
-
 TEST_F(StaticLineTest, SolidLineWithShadowBelow)
 {
     CStaticLine line;
@@ -135,27 +125,5 @@ public:
         CStaticLine::DrawBackground(pDC, style, RGB(255, 0, 0));
     }
 };
-
-TEST_F(StaticLineTest, LayersAreOverridable)
-{
-    RedBackgroundLine line;
-    const zotest::Dib dib = Render(line, 40, 10);
-    ZOTEST_EXPECT_FILL(dib, (RECT{0, 3, 40, 10}), RGB(255, 0, 0));
-    ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 2, 2}), kLine);
-}
-
-TEST_F(StaticLineTest, BorderStylesPaintNoFrame)
-{
-    CStaticLine line;
-    ASSERT_TRUE(line.CreateEx(WS_EX_CLIENTEDGE, L"STATIC", L"", WS_CHILD | WS_VISIBLE | WS_BORDER,
-                              CRect(10, 10, 70, 30), parentWnd(), 201));
-    line.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
-    const zotest::Dib screen = zotest::RenderWindow(line.m_hWnd, zotest::RenderPath::Screen);
-    // No outline in any colour the library would use; what shows there instead is the platform's.
-    EXPECT_NE(screen.Pixel(0, 0), kBack);
-    EXPECT_NE(screen.Pixel(0, 0), controltest::Slot(28));
-    EXPECT_NE(screen.Pixel(0, 0), controltest::Slot(49));
-    EXPECT_NE(screen.Pixel(0, 0), kLine);
-}
 
 } // namespace

@@ -171,29 +171,6 @@ TEST_F(StaticTest, PictureWithoutRealSizeStretchesOverTheClient)
     DeleteObject(bitmap);
 }
 
-TEST_F(StaticTest, PictureStaticWithoutPictureShowsSlotZero)
-{
-    CZoStatic stat;
-    Make(stat, L"", SS_BITMAP | SS_CENTERIMAGE, 0, RECT{10, 10, 50, 40});
-    const zotest::Dib dib = zotest::RenderClient(stat.m_hWnd);
-    ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 40, 30}), Slot(0));
-}
-
-TEST_F(StaticTest, IconDrawnAtTopLeftOverSlotZero)
-{
-    CZoStatic stat;
-    Make(stat, L"", SS_ICON | SS_CENTERIMAGE, 0, RECT{10, 10, 70, 70});
-    stat.SetIcon(LoadIcon(nullptr, IDI_APPLICATION));
-    stat.MoveWindow(10, 10, 60, 60);
-    const zotest::Dib dib = zotest::RenderClient(stat.m_hWnd);
-    const RECT ink = zotest::BoundsOfDifferences(dib, Slot(0));
-    EXPECT_LT(ink.left, 8);
-    EXPECT_LT(ink.top, 8);
-    EXPECT_LE(ink.right, 33);
-    EXPECT_LE(ink.bottom, 33);
-    ZOTEST_EXPECT_FILL(dib, (RECT{34, 34, 60, 60}), Slot(0));
-}
-
 TEST_F(StaticTest, FrameWithoutFontOutlinesTheClient)
 {
     CZoStatic stat;
@@ -205,23 +182,6 @@ TEST_F(StaticTest, FrameWithoutFontOutlinesTheClient)
     ZOTEST_EXPECT_FILL(dib, (RECT{59, 0, 60, 40}), Slot(49));
     // The inside is not painted.
     ZOTEST_EXPECT_FILL(dib, (RECT{1, 1, 59, 39}), zotest::kUnpainted);
-}
-
-TEST_F(StaticTest, FrameTopMovesDownByHalfTheFontHeight)
-{
-    CZoStatic stat;
-    Make(stat, L"", SS_GRAYFRAME, 0, RECT{10, 10, 70, 50});
-    CFont font;
-    ASSERT_TRUE(font.CreateFont(-14, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, L"Arial"));
-    stat.SetFont(&font, FALSE);
-    // Wine's static keeps a font only for text styles; a frame answers WM_GETFONT with none there.
-    if (stat.SendMessage(WM_GETFONT) == 0)
-        GTEST_SKIP() << "the platform keeps no font for frame statics";
-    const zotest::Dib dib = zotest::RenderClient(stat.m_hWnd);
-    ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 60, 7}), zotest::kUnpainted);
-    ZOTEST_EXPECT_FILL(dib, (RECT{0, 7, 60, 8}), Slot(49));
-    ZOTEST_EXPECT_FILL(dib, (RECT{0, 7, 1, 40}), Slot(49));
-    stat.DestroyWindow();
 }
 
 // --- Non-client border --------------------------------------------------------------------------
@@ -260,29 +220,6 @@ TEST_F(StaticTest, StylesItDoesNotKnowAreLeftToTheSystem)
     const zotest::Dib dib = zotest::RenderClient(stat.m_hWnd);
     // The standard black rectangle, not the skin's background.
     EXPECT_EQ(controltest::CountPixels(dib, Slot(48)), 0);
-}
-
-TEST(StaticClasses, RunTimeClassNames)
-{
-    CZoStatic plain;
-    CZoStaticBig big;
-    CZoStaticHuge huge;
-    EXPECT_STREQ(plain.GetRuntimeClass()->m_lpszClassName, "CZoStatic");
-    EXPECT_STREQ(big.GetRuntimeClass()->m_lpszClassName, "CZoStaticBig");
-    EXPECT_STREQ(huge.GetRuntimeClass()->m_lpszClassName, "CZoStaticHuge");
-    EXPECT_TRUE(big.IsKindOf(RUNTIME_CLASS(CZoStatic)));
-    EXPECT_TRUE(huge.IsKindOf(RUNTIME_CLASS(CStatic)));
-}
-
-TEST_F(StaticTest, BiggerVariantsDrawTallerText)
-{
-    CZoStatic plain;
-    CZoStaticHuge huge;
-    Make(plain, L"H", SS_LEFT);
-    Make(huge, L"H", SS_LEFT);
-    const RECT a = zotest::BoundsOfDifferences(zotest::RenderClient(plain.m_hWnd), Slot(48));
-    const RECT b = zotest::BoundsOfDifferences(zotest::RenderClient(huge.m_hWnd), Slot(48));
-    EXPECT_GT(b.bottom - b.top, a.bottom - a.top);
 }
 
 } // namespace

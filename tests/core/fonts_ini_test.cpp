@@ -42,19 +42,6 @@ std::wstring InShared()
     return coretest::ExeDirectory() + L"..\\Shared\\Fonts.ini";
 }
 
-// The section the library looks for first: the UI language's default variant, upper-cased.
-std::string UserLocaleSection()
-{
-    const LANGID language = static_cast<LANGID>((::GetUserDefaultUILanguage() & 0x3FF) | 0x400);
-    char code[9] = {}, country[9] = {};
-    ::GetLocaleInfoA(MAKELCID(language, SORT_DEFAULT), LOCALE_SISO639LANGNAME, code, 9);
-    ::GetLocaleInfoA(MAKELCID(language, SORT_DEFAULT), LOCALE_SISO3166CTRYNAME, country, 9);
-    std::string section = (code[0] && country[0]) ? std::string(code) + "-" + country : "en-US";
-    for (char& c : section)
-        c = static_cast<char>(toupper(static_cast<unsigned char>(c)));
-    return section;
-}
-
 int PixelHeight(int points)
 {
     return MulDiv(points, 96, 72);
@@ -104,27 +91,6 @@ TEST(FontsIni, MissingLocaleSectionFallsBackToEnUs)
     EXPECT_EQ(CachedLogFont(0, 0).lfHeight, -PixelHeight(13));
 }
 
-TEST(FontsIni, LocaleSectionWithoutRoleZeroFallsBackToEnUs)
-{
-    const std::string locale = UserLocaleSection();
-    if (locale == "EN-US")
-        GTEST_SKIP() << "the user's locale section is en-US itself here";
-    ScopedFontsIni ini(BesideExe(), "[" + locale + "]\r\nZoThemeFont_1=Arial,30\r\n[en-US]\r\nZoThemeFont_1=Arial,14\r\n");
-    ASSERT_TRUE(ini.written());
-    ScopedZoCtrl library;
-    EXPECT_EQ(CachedLogFont(1, 0).lfHeight, -PixelHeight(14));
-}
-
-TEST(FontsIni, UserLocaleSectionIsPreferred)
-{
-    const std::string locale = UserLocaleSection();
-    ScopedFontsIni ini(BesideExe(), "[en-US]\r\nZoThemeFont_0=Arial,13\r\n[" + locale + "]\r\nZoThemeFont_0=Arial,17\r\n");
-    ASSERT_TRUE(ini.written());
-    ScopedZoCtrl library;
-    // With an en-US user locale both sections have the same name and the first one counts.
-    EXPECT_EQ(CachedLogFont(0, 0).lfHeight, -PixelHeight(locale == "EN-US" ? 13 : 17));
-}
-
 TEST(FontsIni, NonPositiveSizesAndEmptyFacesKeepTheDefault)
 {
     ScopedFontsIni ini(BesideExe(), "[en-US]\r\n"
@@ -144,18 +110,6 @@ TEST(FontsIni, NonPositiveSizesAndEmptyFacesKeepTheDefault)
     EXPECT_EQ(std::wstring(CachedLogFont(4, 0).lfFaceName), ExpectedFace(L"Segoe UI"));
 }
 
-TEST(FontsIni, AllFiveFieldsAreReadAndFurtherOnesIgnored)
-{
-    ScopedFontsIni ini(BesideExe(), "[en-US]\r\nZoThemeFont_5=Arial,9,false,True,450,extra,77\r\n");
-    ASSERT_TRUE(ini.written());
-    ScopedZoCtrl library;
-    const LOGFONTW font = CachedLogFont(5, 0);
-    EXPECT_EQ(font.lfHeight, -12);
-    EXPECT_EQ(font.lfWeight, FW_NORMAL);
-    EXPECT_NE(font.lfItalic, 0);
-    EXPECT_EQ(font.lfEscapement, 450);
-}
-
 TEST(FontsIni, UnknownFaceIsReplacedByTheGenericSansSerif)
 {
     ScopedFontsIni ini(BesideExe(), "[en-US]\r\nZoThemeFont_0=NoSuchFaceZo,10\r\n");
@@ -164,18 +118,6 @@ TEST(FontsIni, UnknownFaceIsReplacedByTheGenericSansSerif)
     EXPECT_EQ(std::wstring(CachedLogFont(0, 0).lfFaceName), coretest::GenericSansSerifName());
     EXPECT_EQ(std::wstring(CZoThemeManager::GetInstance()->GetFontName()), coretest::GenericSansSerifName());
     EXPECT_EQ(CachedLogFont(0, 0).lfHeight, -13);
-}
-
-TEST(FontsIni, FileWithoutUsableSectionsGivesTheDefaults)
-{
-    ScopedFontsIni ini(BesideExe(), "[de-DE]\r\nZoThemeFont_0=Arial,30\r\n");
-    ASSERT_TRUE(ini.written());
-    ScopedZoCtrl library;
-    if (UserLocaleSection() == "DE-DE")
-        GTEST_SKIP() << "the user's locale is de-DE here";
-    EXPECT_EQ(CachedLogFont(0, 0).lfHeight, -9);
-    EXPECT_EQ(CachedLogFont(7, 2).lfHeight, -29);
-    EXPECT_EQ(CachedLogFont(13, 1).lfEscapement, 900);
 }
 
 TEST(FontsIni, GarbageGivesDefinedFonts)

@@ -116,18 +116,6 @@ TEST_F(QueryTest, WindowWithoutParentOrWindowAtAllGivesThemeZero)
     EXPECT_EQ(ZoGetCurrentThemeIndex(&container), ZoTheme_Default);
 }
 
-TEST_F(QueryTest, AskSelfAsksTheWindowItself)
-{
-    ASSERT_TRUE(CreateContainer(container));
-    container.SetZoMonitorSize(ZoMonitorSize_3M);
-    AnsweringContainer inner;
-    ASSERT_TRUE(CreateContainer(inner, &container));
-    inner.SetZoMonitorSize(ZoMonitorSize_5M);
-    EXPECT_EQ(ZoGetCurrentMonitorSize(&inner, true), ZoMonitorSize_5M);
-    EXPECT_EQ(ZoGetCurrentMonitorSize(&inner, false), ZoMonitorSize_3M);
-    container.DestroyWindow();
-}
-
 // Registered once per screen size in CMakeLists.txt with ZO_SCREEN=WxH; without it the
 // default 1280x1024 screen of the test run.
 TEST(MonitorOnScreen, ClassMatchesTheScreenSize)
@@ -193,19 +181,4 @@ TEST(FixedMode, LowestMarkerWinsForEveryWindowAndIsReadOnce)
     EXPECT_EQ(withMarkers, ZoMonitorSize_3M);
     EXPECT_EQ(forNull, ZoMonitorSize_3M);
     EXPECT_EQ(afterChange, ZoMonitorSize_3M);
-}
-
-TEST(FixedMode, FolderNamedAsMarkerCounts)
-{
-    ZOTEST_RUN_IN_FRESH_PROCESS();
-    ASSERT_TRUE(::CreateDirectoryW(MarkerPath(3).c_str(), nullptr) || ::GetLastError() == ERROR_ALREADY_EXISTS);
-    const E_ZoMonitorSize forNull = ZoGetCurrentMonitorSize(nullptr, false);
-    AnsweringContainer container;
-    const bool created = CreateContainer(container);
-    const E_ZoMonitorSize containerSize = container.GetZoMonitorSize();
-    ::RemoveDirectoryW(MarkerPath(3).c_str());
-    ASSERT_TRUE(created);
-    container.DestroyWindow();
-    EXPECT_EQ(forNull, ZoMonitorSize_5M);
-    EXPECT_EQ(containerSize, ZoMonitorSize_5M);
 }

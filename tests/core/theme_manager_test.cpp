@@ -142,8 +142,3 @@ TEST_F(ThemeManagerTest, EachCacheSlotIsItsOwnFontAndOutsideTheCacheThereIsNone)
     EXPECT_EQ(manager->GetCacheGDIFont(ZoThemeFont_0, ZoMonitorSize_Unknown), nullptr);
     EXPECT_EQ(manager->GetCacheGDIFont(ZoThemeFont_0, static_cast<E_ZoMonitorSize>(3)), nullptr);
 }
-
-TEST_F(ThemeManagerTest, FontNameIsTheDefaultFaceOrItsReplacement)
-{
-    EXPECT_EQ(std::wstring(manager->GetFontName()), coretest::ExpectedFace(L"Segoe UI"));
-}

@@ -16,16 +16,6 @@ TEST(ThemeMath, ArgbToColorRefSwapsRedAndBlueAndDropsAlpha)
     EXPECT_EQ(ZoArgbToColorRef(0x00000000ul), 0x00000000ul);
 }
 
-TEST(ThemeMath, ZoomFactorPerSizeClassAndOneForEverythingElse)
-{
-    EXPECT_FLOAT_EQ(ZoZoomFactorOf(ZoMonitorSize_Normal), 1.0f);
-    EXPECT_FLOAT_EQ(ZoZoomFactorOf(ZoMonitorSize_3M), 1.2f);
-    EXPECT_FLOAT_EQ(ZoZoomFactorOf(ZoMonitorSize_5M), 1.6f);
-    EXPECT_FLOAT_EQ(ZoZoomFactorOf(-1), 1.0f);
-    EXPECT_FLOAT_EQ(ZoZoomFactorOf(3), 1.0f);
-    EXPECT_FLOAT_EQ(ZoZoomFactorOf(-1000), 1.0f);
-}
-
 TEST(ThemeMath, ScalingRoundsByTruncatingAfterAddingAHalf)
 {
     EXPECT_EQ(ZoScaleByZoom(100, 1.2f), 120);
@@ -79,14 +69,6 @@ TEST(ThemeMath, FixedModeNumbersMapToSizeClasses)
     EXPECT_EQ(ZoMonitorSizeForFixedMode(0), ZoMonitorSize_Unknown);
     EXPECT_EQ(ZoMonitorSizeForFixedMode(4), ZoMonitorSize_Unknown);
     EXPECT_EQ(ZoMonitorSizeForFixedMode(-1), ZoMonitorSize_Unknown);
-}
-
-TEST(ThemeMath, RegionalLanguageBecomesItsDefaultVariant)
-{
-    EXPECT_EQ(ZoDefaultSubLanguageId(0x0809), 0x0409); // en-GB -> en-US
-    EXPECT_EQ(ZoDefaultSubLanguageId(0x0C07), 0x0407); // de-AT -> de-DE
-    EXPECT_EQ(ZoDefaultSubLanguageId(0x0409), 0x0409);
-    EXPECT_EQ(ZoDefaultSubLanguageId(0x0000), 0x0400);
 }
 
 TEST(ThemeMath, ProfileFlagIsTrueOnlyForTheWordTrue)

@@ -63,22 +63,6 @@ TEST(DesignRect, ScaledPositionScalesEveryEdge)
     EXPECT_EQ(ZoScaleDesignRect(CRect(5, 7, 15, 17), true, 1.6f), CRect(8, 11, 24, 27));
 }
 
-TEST(DesignRect, KeptCentreScalesOnlyTheSize)
-{
-    EXPECT_EQ(ZoScaleDesignRect(CRect(10, 10, 110, 30), false, 1.2f), CRect(0, 8, 120, 32));
-    EXPECT_EQ(ZoScaleDesignRect(CRect(10, 10, 110, 30), false, 1.0f), CRect(10, 10, 110, 30));
-    // (15 - 24) / 2 rounds toward zero.
-    EXPECT_EQ(ZoScaleDesignRect(CRect(0, 0, 15, 15), false, 1.6f), CRect(-4, -4, 20, 20));
-}
-
-TEST_F(UiBaseTest, ConstructionStartsWithThemeZeroAndUnknownSize)
-{
-    Container fresh;
-    EXPECT_EQ(fresh.GetZoTheme(), ZoTheme_Default);
-    EXPECT_EQ(fresh.GetZoMonitorSize(), ZoMonitorSize_Unknown);
-    EXPECT_FLOAT_EQ(fresh.GetZoZoomFactor(), 1.0f);
-}
-
 TEST_F(UiBaseTest, QueriesAnswerThroughLParamAndReturnMinusOne)
 {
     container.SetZoTheme(ZoTheme_2);
@@ -119,19 +103,6 @@ TEST_F(UiBaseTest, ChangeRegistersAnUnregisteredWindowAndReplacesARegisteredOne)
     ASSERT_TRUE(container.GetRegisteredWindowRect(&first, stored));
     EXPECT_EQ(stored, CRect(9, 9, 19, 19));
     EXPECT_FALSE(container.RegisterChildWindow(&first, CRect(0, 0, 1, 1), true));
-}
-
-TEST_F(UiBaseTest, RemovingReportsWhetherAnEntryWentAway)
-{
-    container.RegisterChildWindow(&first, CRect(1, 2, 3, 4), true);
-    container.RegisterChildWindow(&second, CRect(1, 2, 3, 4), true);
-    EXPECT_TRUE(container.RemoveRegisterdWindow(&first));
-    EXPECT_FALSE(container.RemoveRegisterdWindow(&first));
-    EXPECT_FALSE(container.RemoveRegisterdWindow(nullptr));
-    CRect stored;
-    EXPECT_TRUE(container.GetRegisteredWindowRect(&second, stored));
-    container.RemoveAllRegistered();
-    EXPECT_FALSE(container.GetRegisteredWindowRect(&second, stored));
 }
 
 TEST_F(UiBaseTest, AtZoomOneChildrenGoExactlyToTheirDesignRectangles)
@@ -194,30 +165,6 @@ TEST_F(UiBaseTest, CreationTakesTheParentsSizeClass)
     EXPECT_EQ(child.GetZoMonitorSize(), ZoMonitorSize_5M);
     EXPECT_FLOAT_EQ(child.GetZoZoomFactor(), 1.6f);
     EXPECT_EQ(child.GetZoParent(), &container);
-}
-
-TEST_F(UiBaseTest, TopLevelWindowMeasuresItsMonitorAndNeverStoresUnknown)
-{
-    EXPECT_NE(container.GetZoMonitorSize(), ZoMonitorSize_Unknown);
-    EXPECT_EQ(container.GetZoMonitorSize(), ZoGetCurrentMonitorSize(&container, true));
-    EXPECT_EQ(container.GetZoParent(), nullptr);
-}
-
-TEST_F(UiBaseTest, RunTimeClassIsCZoWndDerivedFromCWnd)
-{
-    CRuntimeClass* runtime = container.GetRuntimeClass();
-    ASSERT_NE(runtime, nullptr);
-    EXPECT_STREQ(runtime->m_lpszClassName, "CZoWnd");
-    EXPECT_TRUE(container.IsKindOf(RUNTIME_CLASS(CWnd)));
-    EXPECT_TRUE(container.IsKindOf(RUNTIME_CLASS(CZoWnd)));
-}
-
-TEST_F(UiBaseTest, CreationOptsIntoOwnerDrawnMenus)
-{
-    EXPECT_TRUE(CMenuXP::GetXPLookNFeel(&container));
-    CWnd plain;
-    ASSERT_TRUE(plain.Create(L"STATIC", L"plain", WS_CHILD, CRect(0, 0, 10, 10), &container, 3));
-    EXPECT_FALSE(CMenuXP::GetXPLookNFeel(&plain));
 }
 
 TEST_F(UiBaseTest, PopupMenusOpenedByTheWindowBecomeOwnerDrawn)

@@ -111,33 +111,6 @@ private:
     HIMAGELIST images_;
 };
 
-int InkPixels(const zotest::Dib& dib, const RECT& area, COLORREF background)
-{
-    int count = 0;
-    for (int y = area.top; y < area.bottom; ++y)
-        for (int x = area.left; x < area.right; ++x)
-            count += dib.Pixel(x, y) != background;
-    return count;
-}
-
-// Ink of "Properties" in the theme's menu face at `weight`.
-int BoldInk(int weight)
-{
-    LOGFONTW logFont = {};
-    const CFont* font = CZoThemeManager::GetInstance()->GetCacheGDIFont(ZoThemeFont_3, ZoMonitorSize_Normal);
-    ::GetObjectW(font->GetSafeHandle(), sizeof(logFont), &logFont);
-    logFont.lfWeight = weight;
-    HFONT probe = ::CreateFontIndirectW(&logFont);
-    zotest::Dib dib(200, 40, RGB(0, 0, 0));
-    HGDIOBJ old = ::SelectObject(dib.dc(), probe);
-    ::SetTextColor(dib.dc(), RGB(255, 255, 255));
-    ::SetBkMode(dib.dc(), TRANSPARENT);
-    ::TextOutW(dib.dc(), 0, 0, L"Properties", 10);
-    ::SelectObject(dib.dc(), old);
-    ::DeleteObject(probe);
-    return InkPixels(dib, RECT{0, 0, 200, 40}, RGB(0, 0, 0));
-}
-
 } // namespace
 
 TEST_F(MenuDrawTest, PlainItemHasBackgroundDividerAndTextRightOfTheColumn)
@@ -174,15 +147,6 @@ TEST_F(MenuDrawTest, HighlightedItemFillsRightOfTheColumnWithoutDivider)
     ZOTEST_EXPECT_FILL(dib, (RECT{22, height - 1, kWidth, height}), Slot(71));
 }
 
-TEST_F(MenuDrawTest, HotItemOfAnInactiveMenuKeepsTheDivider)
-{
-    const zotest::Dib hot = Draw(0, ODS_HOTLIGHT);
-    ZOTEST_EXPECT_FILL(hot, (RECT{22, 0, kWidth, 1}), Slot(71));
-    const zotest::Dib inactive = Draw(0, ODS_HOTLIGHT | ODS_INACTIVE);
-    ZOTEST_EXPECT_FILL(inactive, (RECT{21, 0, 22, height}), Slot(70));
-    ZOTEST_EXPECT_FILL(inactive, (RECT{22, 0, kWidth, 1}), Slot(68));
-}
-
 TEST_F(MenuDrawTest, SeparatorIsALineAtTheMiddle)
 {
     const int h = ItemDataHeight(ItemData(menu, 2));
@@ -194,32 +158,6 @@ TEST_F(MenuDrawTest, SeparatorIsALineAtTheMiddle)
     ZOTEST_EXPECT_FILL(dib, (RECT{21, 0, 22, h}), Slot(70));
 }
 
-TEST_F(MenuDrawTest, RadioItemShowsADot)
-{
-    const zotest::Dib dib = Draw(3);
-    const int cy = height / 2;
-    ZOTEST_EXPECT_PIXEL(dib, 12, cy, ::GetSysColor(COLOR_MENUTEXT));
-    ZOTEST_EXPECT_PIXEL(dib, 11, cy, ::GetSysColor(COLOR_MENUTEXT));
-    ZOTEST_EXPECT_PIXEL(dib, 3, cy, Slot(68));
-    ZOTEST_EXPECT_FILL(dib, (RECT{22, 0, kWidth, 1}), Slot(72));
-}
-
-TEST_F(MenuDrawTest, DefaultItemIsBold)
-{
-    // Some Wine set-ups render a bold Tahoma with the regular face; nothing to compare there.
-    if (BoldInk(FW_BOLD) == BoldInk(FW_NORMAL))
-        GTEST_SKIP() << "bold and regular text look alike on this system";
-    const zotest::Dib regular = DrawOnlyItem(false, L"Properties", 0, 0);
-    const zotest::Dib bold = Draw(5);
-    const RECT textArea = {22, 0, kWidth, height};
-    const RECT regularBounds = zotest::BoundsOfDifferences(regular.Crop(textArea), Slot(68));
-    const RECT boldBounds = zotest::BoundsOfDifferences(bold.Crop(textArea), Slot(68));
-    ASSERT_FALSE(::IsRectEmpty(&regularBounds));
-    EXPECT_EQ(boldBounds.left, regularBounds.left);
-    // Heavier strokes: more pixels of the text differ from the background.
-    EXPECT_GT(InkPixels(bold, textArea, Slot(68)), InkPixels(regular, textArea, Slot(68)));
-}
-
 TEST_F(MenuDrawTest, ItemImageSitsAtThreePixels)
 {
     ScopedRedItemImage image(101);
@@ -227,15 +165,6 @@ TEST_F(MenuDrawTest, ItemImageSitsAtThreePixels)
     ZOTEST_EXPECT_FILL(dib, (RECT{3, 3, 19, 19}), kRed);
     ZOTEST_EXPECT_PIXEL(dib, 2, 2, Slot(68));
     ZOTEST_EXPECT_PIXEL(dib, 19, 19, Slot(68));
-}
-
-TEST_F(MenuDrawTest, SelectedImageIsLiftedOverItsShadow)
-{
-    ScopedRedItemImage image(101);
-    const zotest::Dib dib = Draw(0, ODS_SELECTED);
-    ZOTEST_EXPECT_FILL(dib, (RECT{2, 2, 18, 18}), kRed);
-    ZOTEST_EXPECT_PIXEL(dib, 19, 19, SelectedShadowColor());
-    ZOTEST_EXPECT_PIXEL(dib, 3, 19, Slot(68));
 }
 
 TEST_F(MenuDrawTest, DisabledImageIsAFlatSilhouette)
@@ -266,28 +195,6 @@ TEST_F(MenuDrawTest, OpenMenuBarItemHasFrameFillAndShadow)
     host.GetWindowRect(&window);
     const RECT recorded = CMenuXP::GetMRUMenuBarItem();
     EXPECT_EQ(CRect(recorded), CRect(window.left, window.top, window.left + kWidth, window.top + h));
-}
-
-TEST_F(MenuDrawTest, MenuBarItemTextIsCentred)
-{
-    const zotest::Dib dib = DrawOnlyItem(true, L"File", 0, 20);
-    const RECT text = zotest::BoundsOfDifferences(dib.Crop(RECT{22, 0, kWidth, 20}), Slot(68));
-    ASSERT_FALSE(::IsRectEmpty(&text));
-    const int centre = (text.left + text.right) / 2 + 22;
-    EXPECT_NEAR(centre, (kWidth - 4) / 2, 3);
-}
-
-TEST_F(MenuDrawTest, OtherControlsAreLeftToTheCaller)
-{
-    DRAWITEMSTRUCT dis = {};
-    dis.CtlType = ODT_BUTTON;
-    const int before = CMenuXP::GetDrawCount();
-    EXPECT_FALSE(CMenuXP::OnDrawItem(&dis, host.m_hWnd));
-    EXPECT_FALSE(CMenuXP::OnDrawItem(nullptr, host.m_hWnd));
-    EXPECT_EQ(CMenuXP::GetDrawCount(), before);
-    dis.CtlType = ODT_MENU; // no DC: counted, nothing drawn
-    EXPECT_TRUE(CMenuXP::OnDrawItem(&dis, host.m_hWnd));
-    EXPECT_EQ(CMenuXP::GetDrawCount(), before + 1);
 }
 
 TEST_F(MenuDrawTest, DrawingLeavesNoGdiObjectsBehind)

@@ -167,26 +167,6 @@ TEST_F(MenuHookTest, PopupWindowIsSubclassedAndItsFrameThemed)
     EXPECT_FALSE(::IsWindow(g_probe.popup) && ::GetPropW(g_probe.popup, L"XPWndProp_OldProc"));
 }
 
-TEST_F(MenuHookTest, WithoutTheHookPopupsKeepTheirOwnFrame)
-{
-    ASSERT_FALSE(CMenuXP::IsHookInstalled());
-    Track(menu);
-    ASSERT_NE(g_probe.popup, nullptr);
-    EXPECT_FALSE(g_probe.subclassed);
-    EXPECT_NE(g_probe.printed[1], Slot(68));
-}
-
-TEST_F(MenuHookTest, MenusOwnerDrawnByOthersKeepTheirData)
-{
-    ScopedHook hook;
-    HMENU foreign = ::CreatePopupMenu();
-    ::AppendMenuW(foreign, MF_OWNERDRAW, 9, reinterpret_cast<LPCWSTR>(static_cast<ULONG_PTR>(0x00140014)));
-    Track(foreign);
-    EXPECT_TRUE(g_probe.subclassed);
-    EXPECT_EQ(ItemData(foreign, 0), 0x00140014u);
-    ::DestroyMenu(foreign);
-}
-
 TEST_F(MenuHookTest, RepeatedOpeningLeavesNothingBehind)
 {
     ScopedHook hook;

@@ -68,15 +68,6 @@ TEST_F(MenuMeasureTest, SeparatorsAreHalfTheFontHigh)
     EXPECT_EQ(measure.itemHeight, static_cast<UINT>(MenuFontHeight() / 2 + 2));
 }
 
-TEST_F(MenuMeasureTest, MeasuredWidthHoldsTextIconColumnAndAccelerators)
-{
-    MakeThemedFileMenu();
-    const MEASUREITEMSTRUCT measure = Measure(host, ItemData(menu, 0), 101);
-    EXPECT_EQ(measure.itemWidth,
-              static_cast<UINT>(MenuTextWidth(L"Save everything") + 42 + MenuTextWidth(L"Alt+Shift+F4")));
-    EXPECT_EQ(measure.itemHeight, static_cast<UINT>((std::max)(MenuFontHeight() + 2, 16) + 4));
-}
-
 TEST_F(MenuMeasureTest, MnemonicMarkersTakeNoWidth)
 {
     const ItemSpec items[] = {{L"&Print", 1, MF_STRING}};
@@ -125,27 +116,6 @@ TEST_F(MenuMeasureTest, MenusAlreadyOwnerDrawnAreLeftAlone)
     EXPECT_EQ(::GetMenuItemCount(menu), 1);
 }
 
-TEST_F(MenuMeasureTest, SecondCallChangesNothing)
-{
-    MakeThemedFileMenu();
-    ULONG_PTR first[4];
-    for (int i = 0; i < 4; ++i)
-        first[i] = ItemData(menu, i);
-    CMenuXP::SetXPLookNFeel(&host, menu, true, false);
-    for (int i = 0; i < 4; ++i) {
-        EXPECT_EQ(ItemData(menu, i), first[i]) << i;
-        EXPECT_TRUE(ItemInfo(menu, i).fType & MFT_OWNERDRAW) << i;
-    }
-}
-
-TEST_F(MenuMeasureTest, DisabledLookChangesNothing)
-{
-    menu = BuildPopup(kFileMenu);
-    CMenuXP::SetXPLookNFeel(&host, menu, false, false);
-    EXPECT_FALSE(CMenuXP::IsOwnerDrawn(menu));
-    EXPECT_EQ(ItemData(menu, 0), 0u);
-}
-
 TEST_F(MenuMeasureTest, InitMenuPopupMakesThePopupOwnerDrawnButNotTheSystemMenu)
 {
     menu = BuildPopup(kFileMenu);
@@ -163,36 +133,6 @@ TEST_F(MenuMeasureTest, BadMenusAreIgnored)
     CMenuXP::SetXPLookNFeel(nullptr, menu, true, false);
     EXPECT_FALSE(CMenuXP::IsOwnerDrawn(menu));
     EXPECT_FALSE(CMenuXP::IsOwnerDrawn(nullptr));
-}
-
-TEST_F(MenuMeasureTest, WindowPropertyOptsIn)
-{
-    EXPECT_FALSE(CMenuXP::GetXPLookNFeel(&host));
-    CMenuXP::SetXPLookNFeel(&host, true);
-    EXPECT_TRUE(CMenuXP::GetXPLookNFeel(&host));
-    EXPECT_EQ(::GetPropW(host.m_hWnd, L"XPWndProp_MenuXP"), reinterpret_cast<HANDLE>(1));
-    CMenuXP::SetXPLookNFeel(&host, false);
-    EXPECT_FALSE(CMenuXP::GetXPLookNFeel(&host));
-    EXPECT_EQ(::GetPropW(host.m_hWnd, L"XPWndProp_MenuXP"), nullptr);
-    EXPECT_FALSE(CMenuXP::GetXPLookNFeel(nullptr));
-    CMenuXP::SetXPLookNFeel(static_cast<CWnd*>(nullptr), true);
-}
-
-TEST_F(MenuMeasureTest, UpdateMenuBarOnlyForWindowsThatOptedIn)
-{
-    menu = ::CreateMenu();
-    ::AppendMenuW(menu, MF_STRING, 1, L"File");
-    CWnd frame;
-    ASSERT_TRUE(frame.CreateEx(0, AfxRegisterWndClass(0), L"frame", WS_OVERLAPPEDWINDOW, 0, 0, 300, 200, nullptr,
-                               menu));
-    CMenuXP::UpdateMenuBar(&frame);
-    EXPECT_FALSE(CMenuXP::IsOwnerDrawn(menu));
-    CMenuXP::SetXPLookNFeel(&frame, true);
-    CMenuXP::UpdateMenuBar(&frame);
-    EXPECT_TRUE(CMenuXP::IsOwnerDrawn(menu));
-    EXPECT_EQ(ItemData(menu, 0), static_cast<ULONG_PTR>(MenuTextWidth(L"File")) << 16);
-    frame.DestroyWindow(); // destroys its menu too
-    menu = nullptr;
 }
 
 TEST_F(MenuMeasureTest, ThemedWindowsOptInAndForwardTheirMenus)

@@ -25,12 +25,6 @@ TEST(MenuItemData, EachFieldKeepsOnlyTheBitsOfItsWidth)
     EXPECT_EQ(ItemDataTextWidth(PackItemData(20, 300, 5)), 5);
 }
 
-TEST(MenuItemData, MenuBarItemsCarryNoHeight)
-{
-    EXPECT_TRUE(IsMenuBarItemData(PackItemData(0, 0, 35)));
-    EXPECT_FALSE(IsMenuBarItemData(PackItemData(8, 0, 0)));
-}
-
 TEST(MenuItemHeights, FollowTheFontHeight)
 {
     EXPECT_EQ(PopupItemHeight(13), 20);  // 16 is the least before the 4 px padding
@@ -91,23 +85,6 @@ TEST(MenuMnemonic, DoubledAmpersandIsLiteral)
     EXPECT_TRUE(TextHasMnemonic(L"R&&D &X", L'X'));
 }
 
-TEST(MenuOsClass, FromPlatformAndVersion)
-{
-    const DWORD w32s = VER_PLATFORM_WIN32s, w = VER_PLATFORM_WIN32_WINDOWS, nt = VER_PLATFORM_WIN32_NT;
-    const struct {
-        DWORD platform, major, minor;
-        int osClass;
-    } cases[] = {
-        {w32s, 3, 1, 1}, {w, 4, 0, 2},   {w, 4, 10, 3},  {w, 4, 90, 4},  {nt, 4, 0, 6},  {nt, 5, 0, 7},
-        {nt, 5, 1, 8},  {nt, 5, 2, 5},  {nt, 6, 0, 9},  {nt, 6, 1, 9},  {nt, 6, 2, 11}, {nt, 6, 3, 11},
-        {nt, 6, 4, 5},  {nt, 10, 0, 12}, {nt, 3, 51, 5}, {77, 6, 1, 0},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(OsClassFromVersion(c.platform, c.major, c.minor), c.osClass)
-            << c.platform << " " << c.major << "." << c.minor;
-    EXPECT_GE(CMenuXP::GetOsClass(), 1);
-}
-
 TEST(MenuBarShadow, DarkensFourColumnsWithSoftCorners)
 {
     // Per column k (0 outermost) and row of a 20-row item: the percentage kept. Column 0 covers
@@ -135,16 +112,6 @@ TEST(MenuPopupFrame, JoinLineOnlyUnderTheOpenBarItem)
     EXPECT_FALSE(PopupJoinLine(bar, elsewhere, from, to));
     const RECT none = {0, 0, 0, 0};
     EXPECT_FALSE(PopupJoinLine(none, hanging, from, to));
-}
-
-TEST(MenuColors, MixingTowardsWhiteAndBlack)
-{
-    EXPECT_EQ(LightenColor(RGB(100, 0, 255), 50), RGB(177, 127, 255));
-    EXPECT_EQ(LightenColor(RGB(10, 20, 30), 0), RGB(10, 20, 30));
-    EXPECT_EQ(LightenColor(RGB(10, 20, 30), 150), RGB(255, 255, 255));
-    EXPECT_EQ(DarkenColor(RGB(100, 200, 50), 30), RGB(70, 140, 35));
-    EXPECT_EQ(DarkenColor(RGB(100, 200, 50), -5), RGB(100, 200, 50));
-    EXPECT_EQ(ScaleColor(RGB(0x47, 0x47, 0x47), 93), RGB(66, 66, 66));
 }
 
 TEST(MenuColors, SystemColoursStandInWithoutTheThemeManager)

@@ -12,12 +12,6 @@ using imagetest::kMagenta;
 
 namespace {
 
-RECT ToRect(const ZoBlitRect& r)
-{
-    RECT rect = {r.x, r.y, r.x + r.w, r.y + r.h};
-    return rect;
-}
-
 ::testing::AssertionResult BlitIs(const ZoBlitRect& r, int x, int y, int w, int h)
 {
     if (r.x == x && r.y == y && r.w == w && r.h == h)
@@ -75,18 +69,6 @@ TEST(CellArithmetic, CellsOfWholeUnitsAndUncutPictures)
     EXPECT_EQ(uncut.h, 0);
 }
 
-TEST(LowerStretchPlan, UpperKeepsHeightLowerRunsEightRowsFurther)
-{
-    const ZoLowerStretchPlan plan = ZoPlanLowerStretching(10, 20, 30, 40, 3, 4, 5, 6);
-    EXPECT_TRUE(BlitIs(plan.upperSource, 3, 4, 5, 6));
-    EXPECT_TRUE(BlitIs(plan.upperDest, 10, 20, 30, 6));
-    EXPECT_EQ(plan.lowerSource.y, 9);
-    EXPECT_EQ(plan.lowerSource.h, 1);
-    EXPECT_EQ(plan.lowerDest.y, 25);
-    EXPECT_EQ(plan.lowerDest.w, 30);
-    EXPECT_EQ(plan.lowerDest.h, 42); // 40 - 6 + 8: ends 7 rows below y + h
-}
-
 // ---- loading --------------------------------------------------------------------------------
 
 class BmpImageTest : public ::testing::Test
@@ -122,14 +104,6 @@ TEST_F(BmpImageTest, StripWithoutVariantsFallsBackToNormal)
     }
 }
 
-TEST_F(BmpImageTest, NumericIdIsTriedAsGiven)
-{
-    CZoResourceBMPImage image;
-    ASSERT_TRUE(image.LoadResourceImage(MAKEINTRESOURCEW(800), ZoMonitorSize_5M, 1, 1));
-    EXPECT_EQ(image.GetWidth(), 32);
-    EXPECT_EQ(image.GetHeight(), 32);
-}
-
 TEST_F(BmpImageTest, MissingResourceStaysUnloadedAndDrawsNothing)
 {
     CZoResourceBMPImage image;
@@ -146,62 +120,6 @@ TEST_F(BmpImageTest, MissingResourceStaysUnloadedAndDrawsNothing)
     image.DrawImage(canvas.dc(), 0, 0, 10, 10, 0, 0, 5, 5, kMagenta);
     image.DrawImageLowerStretching(canvas.dc(), 0, 0, 10, 10, 0, 0, 5, 5, kMagenta);
     ZOTEST_EXPECT_FILL(canvas.dib(), (RECT{0, 0, 40, 40}), zotest::kUnpainted);
-}
-
-TEST_F(BmpImageTest, FailedReloadDropsThePreviousPicture)
-{
-    CZoResourceBMPImage image;
-    ASSERT_TRUE(image.LoadResourceImage(L"BMP_ZO_EDIT", ZoMonitorSize_Normal, 12, 9));
-    EXPECT_FALSE(image.LoadResourceImage(L"BMP_ZO_NO_SUCH_STRIP", ZoMonitorSize_Normal, 12, 9));
-    EXPECT_FALSE(image.IsLoaded());
-}
-
-TEST_F(BmpImageTest, AdoptedBitmapIsOneCell)
-{
-    HBITMAP bitmap = imagetest::MakeStripedBitmap(5, {RGB(1, 2, 3), RGB(4, 5, 6), RGB(7, 8, 9)});
-    {
-        CZoResourceBMPImage image(bitmap, false);
-        EXPECT_TRUE(image.IsLoaded());
-        EXPECT_EQ(image.GetWidth(), 5);
-        EXPECT_EQ(image.GetHeight(), 3);
-        EXPECT_EQ(image.GetUnitWidth(), 5);
-        EXPECT_EQ(image.GetUnitHeight(), 3);
-    }
-    // Adopted without the delete flag: still alive.
-    EXPECT_EQ(GetObjectType(bitmap), static_cast<DWORD>(OBJ_BITMAP));
-    {
-        CZoResourceBMPImage image(bitmap, true);
-    }
-    EXPECT_EQ(GetObjectType(bitmap), 0u);
-
-    CZoResourceBMPImage empty(nullptr, true);
-    EXPECT_FALSE(empty.IsLoaded());
-    EXPECT_EQ(empty.GetWidth(), 0);
-}
-
-TEST_F(BmpImageTest, ReloadDeletesAdoptedBitmapWhateverTheFlag)
-{
-    HBITMAP bitmap = imagetest::MakeStripedBitmap(4, {RGB(1, 2, 3)});
-    CZoResourceBMPImage image(bitmap, false);
-    ASSERT_TRUE(image.LoadResourceImage(L"BMP_ZO_HEADERSORT", ZoMonitorSize_Normal, 4, 2));
-    EXPECT_EQ(GetObjectType(bitmap), 0u);
-    EXPECT_EQ(image.GetWidth(), 28);
-}
-
-TEST_F(BmpImageTest, TwoLoadsOfOneStripAreIndependent)
-{
-    CZoResourceBMPImage* first = new CZoResourceBMPImage;
-    CZoResourceBMPImage second;
-    ASSERT_TRUE(first->LoadResourceImage(L"BMP_ZO_EDIT", ZoMonitorSize_Normal, 12, 9));
-    ASSERT_TRUE(second.LoadResourceImage(L"BMP_ZO_EDIT", ZoMonitorSize_Normal, 12, 9));
-    delete first;
-
-    HBITMAP copy = imagetest::LoadDllBitmap(L"BMP_ZO_EDIT");
-    ASSERT_NE(copy, nullptr);
-    DibCanvas canvas(40, 30);
-    second.DrawUnitImage(canvas.dc(), 2, 3, 4, 5, kMagenta);
-    ZOTEST_EXPECT_CELL(canvas.dib(), (POINT{2, 3}), copy, ToRect(ZoUnitCellRect(36, 27, 12, 9, 4, 5)), kMagenta);
-    DeleteObject(copy);
 }
 
 // ---- which source rectangle each cell draw copies ---------------------------------------------
@@ -311,15 +229,6 @@ TEST_F(LowerStretchTest, UpperRowsKeepHeightLastRowRunsEightRowsBelow)
     // The last source row from y + srcH - 1 for h - srcH + 8 rows: 13 .. 28.
     ZOTEST_EXPECT_FILL(canvas.dib(), (RECT{10, 13, 18, 29}), RGB(90, 90, 0));
     ZOTEST_EXPECT_BOUNDS(canvas.dib(), zotest::kUnpainted, (RECT{10, 10, 18, 29}));
-}
-
-TEST_F(LowerStretchTest, EqualHeightStillPaintsEightRowsOfLastRow)
-{
-    DibCanvas canvas(30, 40);
-    image_.DrawImageLowerStretching(canvas.dc(), 2, 3, 4, 4, 0, 0, 4, 4, kMagenta);
-    ZOTEST_EXPECT_FILL(canvas.dib(), (RECT{2, 3, 6, 4}), RGB(200, 0, 0));
-    ZOTEST_EXPECT_FILL(canvas.dib(), (RECT{2, 6, 6, 14}), RGB(90, 90, 0));
-    ZOTEST_EXPECT_BOUNDS(canvas.dib(), zotest::kUnpainted, (RECT{2, 3, 6, 14}));
 }
 
 TEST_F(LowerStretchTest, KeyColourLeftOutAndStretchModeRestored)

@@ -102,46 +102,6 @@ protected:
 
 // ---- arithmetic ---------------------------------------------------------------------------
 
-TEST(PngArithmetic, ChannelComposition)
-{
-    EXPECT_EQ(ZoComposeChannel(200, 0, 17), 17);
-    EXPECT_EQ(ZoComposeChannel(200, 255, 17), 200);
-    EXPECT_EQ(ZoComposeChannel(200, 128, 0), 100);   // 100.39
-    EXPECT_EQ(ZoComposeChannel(10, 128, 255), 132);  // 5.02 + 127.00
-    EXPECT_EQ(ZoComposeChannel(200, 128, 192), 196); // 100.39 + 95.62
-    EXPECT_EQ(ZoComposeChannel(0, 128, 200), 99);    // truncated, not rounded: 99.61
-}
-
-TEST(PngArithmetic, PixelCompositionSetsTheGivenAlpha)
-{
-    const BYTE src[4] = {200, 10, 100, 128};
-    BYTE dst[4] = {};
-    ZoComposePixel(src, RGB(64, 128, 192), 0xFF, dst);
-    EXPECT_EQ(std::vector<BYTE>(dst, dst + 4), (std::vector<BYTE>{196, 68, 82, 0xFF}));
-    ZoComposePixel(src, RGB(0, 0, 0), 0, dst);
-    EXPECT_EQ(std::vector<BYTE>(dst, dst + 4), (std::vector<BYTE>{100, 5, 50, 0}));
-}
-
-TEST(PngArithmetic, TwoRowPicturesCarryStateFourInRowOne)
-{
-    for (int state = 0; state < 4; ++state)
-        EXPECT_EQ(ZoPngSourceRow(2, state), 0) << state;
-    EXPECT_EQ(ZoPngSourceRow(2, ToolButton_Disabled), 1);
-    EXPECT_EQ(ZoPngSourceRow(5, 3), 3);
-    EXPECT_EQ(ZoPngSourceRow(5, 4), 4);
-    EXPECT_EQ(ZoPngSourceRow(1, 0), 0);
-    EXPECT_EQ(ZoPngSourceRow(3, 2), 2);
-}
-
-TEST(PngArithmetic, ThemeGroups)
-{
-    const int groups[][2] = {{5, 4}, {9, 4}, {13, 5}, {18, 5}, {23, 5}, {28, 3}, {31, 3}, {34, 4}};
-    for (const auto& g : groups)
-        EXPECT_EQ(ZoThemeGroupStateCount(g[0]), g[1]) << g[0];
-    for (int slot : {-1, 0, 6, 14, 17, 38, 129, 500})
-        EXPECT_EQ(ZoThemeGroupStateCount(slot), 0) << slot;
-}
-
 // ---- the store ------------------------------------------------------------------------------
 
 TEST_F(PngTest, CompositionOverSeveralColours)
@@ -188,19 +148,6 @@ TEST_F(PngTest, ColourQueueIsEmptiedByEachComposition)
     EXPECT_EQ(BufferPixel(store().GetImageData(picture, ToolButton_Normal), 0), 0xFF000000u);
 }
 
-TEST_F(PngTest, NoStatesReleasesButKeepsQueuedColours)
-{
-    const StoredPicture picture(imagetest::MakePicture(1, 1, {kClear}));
-    store().SetImageData(picture, 1);
-    ASSERT_NE(store().GetImageData(picture, ToolButton_Normal), nullptr);
-
-    store().SetBackGroundColor(RGB(7, 8, 9), 1);
-    store().SetImageData(picture, 0);
-    EXPECT_EQ(store().GetImageData(picture, ToolButton_Normal), nullptr);
-    store().SetImageData(picture, 1);
-    EXPECT_EQ(BufferPixel(store().GetImageData(picture, ToolButton_Normal), 0), Opaque(RGB(7, 8, 9)));
-}
-
 TEST_F(PngTest, NonPositiveCountsQueueNothing)
 {
     const StoredPicture picture(imagetest::MakePicture(1, 1, {kClear}));
@@ -211,35 +158,6 @@ TEST_F(PngTest, NonPositiveCountsQueueNothing)
     store().SetBackGroundColor(static_cast<const COLORREF*>(nullptr), 3);
     store().SetImageData(picture, 1);
     EXPECT_EQ(BufferPixel(store().GetImageData(picture, ToolButton_Normal), 0), 0xFF000000u);
-}
-
-TEST_F(PngTest, ReleaseAndRecompose)
-{
-    const StoredPicture picture(imagetest::MakePicture(1, 1, {kHalf}));
-    store().SetBackGroundColor(RGB(255, 255, 255), 1);
-    store().SetImageData(picture, 1);
-    EXPECT_EQ(BufferPixel(store().GetImageData(picture, ToolButton_Normal), 0), 0xFFB184E3u);
-
-    store().ReleaseImageData(picture);
-    EXPECT_EQ(store().GetImageData(picture, ToolButton_Normal), nullptr);
-    store().ReleaseImageData(picture); // nothing left: no effect
-
-    store().SetBackGroundColor(RGB(64, 128, 192), 1);
-    store().SetImageData(picture, 1);
-    EXPECT_EQ(BufferPixel(store().GetImageData(picture, ToolButton_Normal), 0), 0xFF5244C4u);
-    // Composing again replaces the entry.
-    store().SetImageData(picture, 2);
-    EXPECT_EQ(BufferPixel(store().GetImageData(picture, ToolButton_Hot), 0), 0xFF320564u);
-}
-
-TEST_F(PngTest, UnusableBitmapsGetNoEntry)
-{
-    HBITMAP striped = imagetest::MakeStripedBitmap(2, {RGB(1, 1, 1)});
-    store().SetImageData(striped, 2); // 24-bit: no alpha to compose
-    EXPECT_EQ(store().GetImageData(striped, ToolButton_Normal), nullptr);
-    DeleteObject(striped);
-    store().SetImageData(nullptr, 2);
-    EXPECT_EQ(store().GetImageData(nullptr, ToolButton_Normal), nullptr);
 }
 
 // ---- PNG images -----------------------------------------------------------------------------
@@ -301,33 +219,6 @@ TEST_F(PngTest, EachStateDrawsItsCellOverItsColour)
         }
 }
 
-TEST_F(PngTest, StretchedStateFillsItsDestination)
-{
-    CZoResourcePNGImage image;
-    ASSERT_TRUE(image.LoadResourceImage(kCheckRadioPng, 4, 5));
-    image.SetBackgroundColor(RGB(10, 200, 30));
-    DibCanvas canvas(40, 40);
-    image.DrawUnitImage(canvas.dc(), 1, 2, 30, 30, 0, 0, imagetest::kMagenta);
-    ZOTEST_EXPECT_BOUNDS(canvas.dib(), zotest::kUnpainted, (RECT{1, 2, 31, 32}));
-    // The corner of every cell is transparent in the picture.
-    ZOTEST_EXPECT_PIXEL(canvas.dib(), 1, 2, RGB(10, 200, 30));
-}
-
-TEST_F(PngTest, RestingStateStaysInTheBitmapBetweenDraws)
-{
-    CZoResourcePNGImage image;
-    ASSERT_TRUE(image.LoadResourceImage(kCheckRadioPng, 4, 5));
-    const COLORREF backs[5] = {RGB(1, 1, 1), RGB(2, 2, 2), RGB(3, 3, 3), RGB(4, 4, 4), RGB(5, 5, 5)};
-    image.SetBackgroundColor(backs, 5);
-    DibCanvas canvas(20, 20);
-    image.DrawUnitImage(canvas.dc(), 0, 0, 0, 3, 0);
-    ZOTEST_EXPECT_PIXEL(canvas.dib(), 0, 0, RGB(4, 4, 4));
-    DibCanvas second(20, 20);
-    image.DrawImageOnImage(second.dc(), 0, 0);
-    // Drawing the image over itself shows the resting composition: its corner is state 0's colour.
-    ZOTEST_EXPECT_PIXEL(second.dib(), 0, 0, RGB(1, 1, 1));
-}
-
 TEST_F(PngTest, TwoRowPictureDrawsRowOneForStateFour)
 {
     int width = 0, height = 0;
@@ -349,18 +240,6 @@ TEST_F(PngTest, TwoRowPictureDrawsRowOneForStateFour)
     }
 }
 
-TEST_F(PngTest, OneColourForEveryRow)
-{
-    CZoResourcePNGImage image;
-    ASSERT_TRUE(image.LoadResourceImage(kCheckRadioPng, 4, 5));
-    image.SetBackgroundColor(RGB(33, 44, 55));
-    for (int state = 0; state < 5; ++state) {
-        DibCanvas canvas(20, 20);
-        image.DrawUnitImage(canvas.dc(), 0, 0, 2, state, 0);
-        ZOTEST_EXPECT_PIXEL(canvas.dib(), 0, 0, RGB(33, 44, 55));
-    }
-}
-
 TEST_F(PngTest, ThemeGroupColoursPerState)
 {
     const CZoThemeManager* theme = CZoThemeManager::GetInstance();
@@ -374,35 +253,6 @@ TEST_F(PngTest, ThemeGroupColoursPerState)
         ZOTEST_EXPECT_PIXEL(canvas.dib(), 0, 0,
                             theme->GetGDIColor(static_cast<E_ZoThemeColors>(13 + state), ZoTheme_Default));
     }
-}
-
-TEST_F(PngTest, ThemeSlotOutsideTheGroupsReleasesTheCompositions)
-{
-    CZoResourcePNGImage image;
-    ASSERT_TRUE(image.LoadResourceImage(kCheckRadioPng, 4, 5));
-    image.SetBackgroundColor(RGB(1, 2, 3));
-    image.SetControlDefaultThema(static_cast<E_ZoThemeColors>(14));
-    DibCanvas canvas(20, 20);
-    for (int state = 0; state < 5; ++state)
-        image.DrawUnitImage(canvas.dc(), 0, 0, 0, state, 0);
-    ZOTEST_EXPECT_FILL(canvas.dib(), (RECT{0, 0, 20, 20}), zotest::kUnpainted);
-
-    // A group composes again.
-    image.SetControlDefaultThema(static_cast<E_ZoThemeColors>(28));
-    image.DrawUnitImage(canvas.dc(), 0, 0, 0, 2, 0);
-    ZOTEST_EXPECT_PIXEL(canvas.dib(), 0, 0, CZoThemeManager::GetInstance()->GetGDIColor(static_cast<E_ZoThemeColors>(30), ZoTheme_Default));
-}
-
-TEST_F(PngTest, AdoptedPictureComposesThroughTheImage)
-{
-    HBITMAP picture = imagetest::MakePicture(3, 1, {kClear, kOpaque, kHalf});
-    CZoResourcePNGImage image(picture, true);
-    image.SetBackgroundColor(RGB(255, 255, 255));
-    DibCanvas canvas(10, 10);
-    image.DrawUnitImage(canvas.dc(), 1, 1, 0, 0, 0);
-    ZOTEST_EXPECT_PIXEL(canvas.dib(), 1, 1, RGB(255, 255, 255));
-    ZOTEST_EXPECT_PIXEL(canvas.dib(), 2, 1, ToColorRef(kOpaque));
-    ZOTEST_EXPECT_PIXEL(canvas.dib(), 3, 1, ToColorRef(0xFFB184E3));
 }
 
 TEST_F(PngTest, DestroyingTheImageReleasesItsEntry)
@@ -430,35 +280,6 @@ TEST_F(PngTest, ReloadReleasesTheOldPicturesEntry)
 
 // ---- composing over the screen ------------------------------------------------------------
 
-TEST_F(PngTest, DrawImageOnImageComposesOverWhatIsThere)
-{
-    HBITMAP picture = imagetest::MakePicture(3, 2, {kOpaque, kHalf, kHalf, kHalf, kHalf, kOpaque});
-    CZoResourcePNGImage image(picture, true);
-    DibCanvas canvas(10, 10, RGB(255, 255, 255));
-    // The second row lies over another colour.
-    canvas.dc().FillSolidRect(2, 3, 3, 1, RGB(64, 128, 192));
-    image.DrawImageOnImage(canvas.dc(), 2, 2);
-    ZOTEST_EXPECT_PIXEL(canvas.dib(), 2, 2, ToColorRef(kOpaque));
-    ZOTEST_EXPECT_PIXEL(canvas.dib(), 3, 2, ToColorRef(0xFFB184E3));
-    ZOTEST_EXPECT_PIXEL(canvas.dib(), 4, 2, ToColorRef(0xFFB184E3));
-    ZOTEST_EXPECT_PIXEL(canvas.dib(), 2, 3, ToColorRef(0xFF5244C4));
-    ZOTEST_EXPECT_PIXEL(canvas.dib(), 4, 3, ToColorRef(kOpaque));
-    ZOTEST_EXPECT_BOUNDS(canvas.dib(), RGB(255, 255, 255), (RECT{2, 2, 5, 4}));
-}
-
-TEST_F(PngTest, DrawImageOnImageKeepsTheComposedPicture)
-{
-    HBITMAP picture = imagetest::MakePicture(2, 1, {kHalf, kOpaque});
-    CZoResourcePNGImage image(picture, true);
-    DibCanvas white(4, 4, RGB(255, 255, 255));
-    image.DrawImageOnImage(white.dc(), 0, 0);
-    // The alpha is gone: over black the picture still shows its composition over white.
-    DibCanvas black(4, 4, RGB(0, 0, 0));
-    image.DrawImageOnImage(black.dc(), 0, 0);
-    ZOTEST_EXPECT_PIXEL(black.dib(), 0, 0, ToColorRef(0xFFB184E3));
-    ZOTEST_EXPECT_PIXEL(black.dib(), 1, 0, ToColorRef(kOpaque));
-}
-
 // ---- lifetime -------------------------------------------------------------------------------
 
 TEST(PngLifetime, LibraryStartAndEndCreateAndFreeTheStore)
@@ -470,38 +291,6 @@ TEST(PngLifetime, LibraryStartAndEndCreateAndFreeTheStore)
     UninitializeZoCtrl();
     EXPECT_EQ(CZoResourcePNGData::GetInstance(), nullptr);
     EXPECT_EQ(CZoThemeManager::GetInstance(), nullptr);
-}
-
-TEST(PngLifetime, FirstLoadCreatesTheStore)
-{
-    ASSERT_EQ(CZoResourcePNGData::GetInstance(), nullptr);
-    {
-        CZoResourcePNGImage image;
-        ASSERT_TRUE(image.LoadResourceImage(kCheckRadioPng, 4, 5));
-        EXPECT_NE(CZoResourcePNGData::GetInstance(), nullptr);
-    }
-    EXPECT_TRUE(CZoResourcePNGData::InitInstance()); // already there
-    CZoResourcePNGData::FreeInstance();
-    EXPECT_EQ(CZoResourcePNGData::GetInstance(), nullptr);
-    CZoResourcePNGData::FreeInstance(); // twice: nothing
-}
-
-TEST(PngLifetime, FreeingTheStoreFreesEveryEntry)
-{
-    ASSERT_TRUE(CZoResourcePNGData::InitInstance());
-    HBITMAP a = imagetest::MakePicture(8, 8, std::vector<DWORD>(64, kHalf));
-    HBITMAP b = imagetest::MakePicture(8, 8, std::vector<DWORD>(64, kOpaque));
-    ZOTEST_EXPECT_NO_LEAKS(
-        10,
-        [a, b] {
-            CZoResourcePNGData::InitInstance();
-            CZoResourcePNGData::GetInstance()->SetImageData(a, 5);
-            CZoResourcePNGData::GetInstance()->SetImageData(b, 3);
-            CZoResourcePNGData::FreeInstance();
-        },
-        zotest::count_heap);
-    DeleteObject(a);
-    DeleteObject(b);
 }
 
 TEST_F(PngTest, LoadDrawFreeCyclesKeepGdiCount)

@@ -1,10 +1,8 @@
-# Objects, strings, geometry, collections, files, exceptions and handle maps of the layer.
+# Strings, collections, files, exceptions and handle maps of the layer: error paths and unused members.
 zo_add_test_executable(test_afx_core
-  core/object_test.cpp
   core/exception_test.cpp
   core/string_test.cpp
   core/string_resource_test.cpp
-  core/geometry_test.cpp
   core/collection_test.cpp
   core/file_test.cpp
   core/handlemap_test.cpp

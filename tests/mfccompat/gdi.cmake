@@ -1,8 +1,7 @@
-# Device contexts, GDI objects, image lists and PNG images of the layer.
+# Error paths and the members the library does not call yet: device contexts, GDI objects, PNG images.
 zo_add_test_executable(test_afx_gdi
   gdi/gdi_objects_test.cpp
   gdi/dc_test.cpp
-  gdi/imagelist_test.cpp
   gdi/pngimage_test.cpp
   gdi/gdi_test.rc
 )

@@ -8,7 +8,6 @@ zo_add_test_executable(test_afx_wnd
   wnd/dialog_test.cpp
   wnd/app_test.cpp
   wnd/menu_test.cpp
-  wnd/tooltips_test.cpp
   wnd/wnd_test.rc
 )
 target_link_libraries(test_afx_wnd PRIVATE zoafx)

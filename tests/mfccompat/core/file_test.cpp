@@ -80,18 +80,6 @@ TEST_F(FileTest, OpenMissingFileReportsFileNotFound)
     EXPECT_FALSE(file.Open(path, CFile::modeRead)); // no exception object: just FALSE
 }
 
-TEST_F(FileTest, OpenInMissingFolderReportsBadPath)
-{
-    CFile file;
-    CFileException error;
-    CString path = PathOf(L"no_such_folder\\x.bin");
-    EXPECT_FALSE(file.Open(path, CFile::modeCreate | CFile::modeWrite, &error));
-    EXPECT_EQ(error.m_cause, CFileException::badPath);
-    EXPECT_STREQ(error.m_strFileName, path);
-    EXPECT_FALSE(file.Open(L"", CFile::modeRead, &error));
-    EXPECT_EQ(error.m_cause, CFileException::badPath);
-}
-
 TEST_F(FileTest, ConstructorThrowsWithCauseAndName)
 {
     CString path = PathOf(L"absent.txt"), named;
@@ -125,16 +113,6 @@ TEST_F(FileTest, WriteSeekReadAndShortRead)
     EXPECT_EQ(file.m_hFile, CFile::hFileNull);
 }
 
-TEST_F(FileTest, SeekBeforeTheStartThrows)
-{
-    CFile file(PathOf(L"seek.bin"), CFile::modeCreate | CFile::modeReadWrite);
-    file.Write("abc", 3);
-    CString named;
-    EXPECT_EQ(FileExceptionCause([&] { file.Seek(-10, CFile::begin); }, &named), CFileException::badSeek);
-    EXPECT_STREQ(named, file.GetFilePath());
-    EXPECT_EQ(file.GetPosition(), 3u);
-}
-
 TEST_F(FileTest, OperationsOnAClosedFileThrowInvalidFile)
 {
     CFile file;
@@ -143,144 +121,6 @@ TEST_F(FileTest, OperationsOnAClosedFileThrowInvalidFile)
     EXPECT_EQ(FileExceptionCause([&] { file.Write("x", 1); }), CFileException::invalidFile);
     file.Close(); // closing twice is harmless
     file.Flush();
-}
-
-TEST_F(FileTest, ReadingAWriteOnlyFileIsAccessDenied)
-{
-    CFile file(PathOf(L"wo.bin"), CFile::modeCreate | CFile::modeWrite);
-    file.Write("abc", 3);
-    file.SeekToBegin();
-    char buffer[4];
-    EXPECT_EQ(FileExceptionCause([&] { file.Read(buffer, 3); }), CFileException::accessDenied);
-}
-
-TEST_F(FileTest, ShareDenyWriteBlocksASecondWriter)
-{
-    CFile first(PathOf(L"shared.bin"), CFile::modeCreate | CFile::modeWrite | CFile::shareDenyWrite);
-    CFile second;
-    CFileException error;
-    EXPECT_FALSE(second.Open(PathOf(L"shared.bin"), CFile::modeWrite | CFile::shareDenyNone, &error));
-    EXPECT_EQ(error.m_cause, CFileException::sharingViolation);
-}
-
-TEST_F(FileTest, CreateTruncatesUnlessNoTruncate)
-{
-    WriteFile(L"t.txt", "long content");
-    {
-        CFile file(PathOf(L"t.txt"), CFile::modeCreate | CFile::modeNoTruncate | CFile::modeReadWrite);
-        EXPECT_EQ(file.GetLength(), 12u);
-    }
-    CFile file(PathOf(L"t.txt"), CFile::modeCreate | CFile::modeReadWrite);
-    EXPECT_EQ(file.GetLength(), 0u);
-}
-
-TEST_F(FileTest, NamesOfTheOpenFile)
-{
-    WriteFile(L"report.final.txt", "x");
-    CFile file(PathOf(L"report.final.txt"), CFile::modeRead);
-    EXPECT_STREQ(file.GetFilePath(), PathOf(L"report.final.txt"));
-    EXPECT_STREQ(file.GetFileName(), L"report.final.txt");
-    // GetFileTitle asks the shell; with or without extension the name part is first.
-    EXPECT_EQ(file.GetFileTitle().Find(L"report.final"), 0);
-    file.SetFilePath(L"C:\\elsewhere\\name.bin");
-    EXPECT_STREQ(file.GetFileName(), L"name.bin");
-}
-
-TEST_F(FileTest, DuplicateSharesThePosition)
-{
-    CFile file(PathOf(L"dup.bin"), CFile::modeCreate | CFile::modeReadWrite);
-    file.Write("abcdef", 6);
-    CFile* pCopy = file.Duplicate();
-    ASSERT_NE(pCopy, nullptr);
-    EXPECT_EQ(pCopy->GetPosition(), 6u);
-    pCopy->SeekToBegin();
-    EXPECT_EQ(file.GetPosition(), 0u);
-    EXPECT_STREQ(pCopy->GetFilePath(), file.GetFilePath());
-    delete pCopy;
-    file.Write("g", 1); // the original handle still works
-}
-
-TEST_F(FileTest, RenameAndRemove)
-{
-    WriteFile(L"old.txt", "x");
-    CFile::Rename(PathOf(L"old.txt"), PathOf(L"new.txt"));
-    CFileFind finder;
-    EXPECT_FALSE(finder.FindFile(PathOf(L"old.txt")));
-    EXPECT_TRUE(finder.FindFile(PathOf(L"new.txt")));
-    finder.Close();
-    CFile::Remove(PathOf(L"new.txt"));
-    CString named;
-    EXPECT_EQ(FileExceptionCause([&] { CFile::Remove(PathOf(L"new.txt")); }, &named), CFileException::fileNotFound);
-    EXPECT_STREQ(named, PathOf(L"new.txt"));
-}
-
-TEST_F(FileTest, FindFilesByPattern)
-{
-    WriteFile(L"a.txt", "12345");
-    WriteFile(L"b.txt", "1");
-    WriteFile(L"c.dat", "1");
-    CreateDirectoryW(PathOf(L"sub"), NULL);
-
-    CFileFind finder;
-    std::vector<CString> names;
-    for (BOOL more = finder.FindFile(PathOf(L"*.txt")); more;)
-    {
-        more = finder.FindNextFile();
-        names.push_back(finder.GetFileName());
-        EXPECT_FALSE(finder.IsDirectory());
-        EXPECT_STREQ(finder.GetFilePath(), PathOf(finder.GetFileName()));
-        EXPECT_STREQ(finder.GetRoot(), m_dir);
-        if (finder.GetFileName() == L"a.txt")
-        {
-            EXPECT_EQ(finder.GetLength(), 5u);
-            EXPECT_STREQ(finder.GetFileTitle(), L"a");
-            FILETIME written = {};
-            EXPECT_TRUE(finder.GetLastWriteTime(&written));
-            EXPECT_TRUE(written.dwHighDateTime != 0 || written.dwLowDateTime != 0);
-        }
-    }
-    std::sort(names.begin(), names.end(), [](const CString& x, const CString& y) { return x < y; });
-    ASSERT_EQ(names.size(), 2u);
-    EXPECT_STREQ(names[0], L"a.txt");
-    EXPECT_STREQ(names[1], L"b.txt");
-}
-
-TEST_F(FileTest, FindFoldersAndDots)
-{
-    CreateDirectoryW(PathOf(L"sub"), NULL);
-    WriteFile(L"file.txt", "x");
-    CFileFind finder;
-    int nDots = 0, nFolders = 0, nFiles = 0;
-    for (BOOL more = finder.FindFile(PathOf(L"*")); more;)
-    {
-        more = finder.FindNextFile();
-        if (finder.IsDots())
-            ++nDots;
-        else if (finder.IsDirectory())
-            ++nFolders;
-        else
-            ++nFiles;
-    }
-    EXPECT_EQ(nDots, 2);
-    EXPECT_EQ(nFolders, 1);
-    EXPECT_EQ(nFiles, 1);
-
-    // A folder is found by its own name too (existence tests of markers rely on it).
-    ASSERT_TRUE(finder.FindFile(PathOf(L"sub")));
-    EXPECT_FALSE(finder.FindNextFile());
-    EXPECT_TRUE(finder.IsDirectory());
-    EXPECT_FALSE(finder.IsDots());
-    EXPECT_TRUE(finder.MatchesMask(FILE_ATTRIBUTE_DIRECTORY));
-}
-
-TEST_F(FileTest, FindWithADoubledBackslash)
-{
-    WriteFile(L"Fonts.ini", "x");
-    CString path = m_dir + L"\\\\Fonts.ini";
-    CFileFind finder;
-    EXPECT_TRUE(finder.FindFile(path));
-    finder.FindNextFile();
-    EXPECT_STREQ(finder.GetFileName(), L"Fonts.ini");
 }
 
 TEST_F(FileTest, FindNothingAndAccessorsBeforeTheFirstMatch)

@@ -61,56 +61,7 @@ protected:
     int m_nAliveBefore = 0;
 };
 
-DWORD WINAPI LookUpFromAnotherThread(LPVOID pResult)
-{
-    CTestWrapper** ppFound = static_cast<CTestWrapper**>(pResult);
-    ppFound[0] = TestMap().LookupPermanent(kFirst);
-    ppFound[1] = TestMap().FromHandle(kFirst); // a temporary of this thread, freed at its end
-    return 0;
-}
-
 } // namespace
-
-TEST_F(HandleMapTest, FromHandleCreatesOneTemporaryPerHandle)
-{
-    CTestWrapper* p1 = TestMap().FromHandle(kFirst);
-    ASSERT_NE(p1, nullptr);
-    EXPECT_EQ(p1->m_hThing, kFirst);
-    EXPECT_EQ(TestMap().FromHandle(kFirst), p1);
-    EXPECT_NE(TestMap().FromHandle(kSecond), p1);
-    EXPECT_EQ(TestMap().LookupTemporary(kFirst), p1);
-    EXPECT_EQ(TestMap().LookupPermanent(kFirst), nullptr);
-    EXPECT_EQ(TestMap().GetTemporaryCount(), 2);
-    EXPECT_EQ(TestMap().FromHandle(NULL), nullptr);
-}
-
-TEST_F(HandleMapTest, TemporariesAreDeletedDetached)
-{
-    TestMap().FromHandle(kFirst);
-    TestMap().FromHandle(kSecond);
-    EXPECT_EQ(g_nWrappersAlive, m_nAliveBefore + 2);
-    TestMap().DeleteTemp();
-    EXPECT_EQ(g_nWrappersAlive, m_nAliveBefore);
-    EXPECT_EQ(g_nDestroyedWithHandle, 0);
-    EXPECT_EQ(TestMap().GetTemporaryCount(), 0);
-}
-
-TEST_F(HandleMapTest, PermanentObjectWinsAndReplacesATemporary)
-{
-    TestMap().FromHandle(kFirst);
-    CTestWrapper permanent;
-    permanent.m_hThing = kFirst;
-    TestMap().SetPermanent(kFirst, &permanent);
-    EXPECT_EQ(TestMap().GetTemporaryCount(), 0);
-    EXPECT_EQ(g_nDestroyedWithHandle, 0);
-    EXPECT_EQ(TestMap().FromHandle(kFirst), &permanent);
-    EXPECT_EQ(TestMap().LookupPermanent(kFirst), &permanent);
-    TestMap().RemoveHandle(kFirst);
-    EXPECT_EQ(TestMap().LookupPermanent(kFirst), nullptr);
-    TestMap().SetPermanent(NULL, &permanent); // ignored
-    EXPECT_EQ(TestMap().GetPermanentCount(), 0);
-    permanent.m_hThing = NULL;
-}
 
 TEST_F(HandleMapTest, LockedTempMapsSurviveUntilTheLastUnlock)
 {
@@ -128,29 +79,6 @@ TEST_F(HandleMapTest, LockedTempMapsSurviveUntilTheLastUnlock)
     TestMap().FromHandle(kSecond);
     EXPECT_TRUE(AfxUnlockTempMaps(FALSE)); // unlocked but asked to keep the temporaries
     EXPECT_EQ(TestMap().GetTemporaryCount(), 1);
-}
-
-TEST_F(HandleMapTest, MapsBelongToTheirThread)
-{
-    CTestWrapper permanent;
-    TestMap().SetPermanent(kFirst, &permanent);
-    int nAlive = g_nWrappersAlive;
-    CTestWrapper* found[2] = {&permanent, nullptr};
-    HANDLE hThread = CreateThread(NULL, 0, &LookUpFromAnotherThread, found, 0, NULL);
-    ASSERT_NE(hThread, nullptr);
-    WaitForSingleObject(hThread, INFINITE);
-    CloseHandle(hThread);
-    EXPECT_EQ(found[0], nullptr);
-    EXPECT_NE(found[1], &permanent);
-    EXPECT_EQ(g_nWrappersAlive, nAlive); // the other thread's temporary died with it
-    EXPECT_EQ(g_nDestroyedWithHandle, 0);
-    EXPECT_EQ(TestMap().FromHandle(kFirst), &permanent);
-}
-
-TEST(ModuleChain, DefaultsAreTheExecutable)
-{
-    EXPECT_EQ(AfxGetInstanceHandle(), GetModuleHandleW(NULL));
-    EXPECT_EQ(AfxGetResourceHandle(), AfxGetInstanceHandle());
 }
 
 TEST(ModuleChain, FindResourceHandleSearchesRegisteredModules)
@@ -174,26 +102,4 @@ TEST(ModuleChain, FindResourceHandleSearchesRegisteredModules)
     zoafx::RemoveResourceModule(hComctl);
     EXPECT_EQ(zoafx::GetResourceModuleCount(), 0);
     EXPECT_EQ(AfxFindResourceHandle(name, RT_BITMAP), AfxGetResourceHandle());
-}
-
-TEST(ModuleChain, ResourceHandleIsSearchedFirst)
-{
-    HMODULE hComctl = GetModuleHandleW(L"comctl32.dll");
-    HINSTANCE hOriginal = AfxGetResourceHandle();
-    AfxSetResourceHandle(hComctl);
-    EXPECT_EQ(AfxGetResourceHandle(), (HINSTANCE)hComctl);
-    EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCEW(120), RT_BITMAP), (HINSTANCE)hComctl);
-    // Not in comctl32 but in the executable: the instance is the last resort.
-    EXPECT_EQ(AfxFindResourceHandle(L"ZOCORE_MARKER", RT_RCDATA), AfxGetInstanceHandle());
-    AfxSetResourceHandle(hOriginal);
-    EXPECT_EQ(AfxGetResourceHandle(), hOriginal);
-}
-
-TEST(ModuleChain, SetInstanceHandle)
-{
-    HMODULE hComctl = GetModuleHandleW(L"comctl32.dll");
-    zoafx::SetInstanceHandle(hComctl);
-    EXPECT_EQ(AfxGetInstanceHandle(), (HINSTANCE)hComctl);
-    zoafx::SetInstanceHandle(NULL);
-    EXPECT_EQ(AfxGetInstanceHandle(), GetModuleHandleW(NULL));
 }

@@ -24,17 +24,6 @@ private:
 
 } // namespace
 
-TEST(StringResource, ExplicitLanguageSelectsTheTable)
-{
-    HINSTANCE hInstance = AfxGetResourceHandle();
-    CString s;
-    EXPECT_TRUE(s.LoadString(hInstance, IDS_CORE_GREETING, kEnglishUS));
-    EXPECT_STREQ(s, L"Hello");
-    EXPECT_TRUE(s.LoadString(hInstance, IDS_CORE_GREETING, kGerman));
-    EXPECT_STREQ(s, L"Hallo");
-    EXPECT_FALSE(s.LoadString(hInstance, IDS_CORE_ENGLISH_ONLY, kGerman));
-}
-
 TEST(StringResource, ThreadUILanguageDecides)
 {
     UILanguageScope scope;

@@ -48,44 +48,9 @@ std::wstring MessageBoxCloser::s_caption;
 int MessageBoxCloser::s_closed = 0;
 int MessageBoxCloser::s_answer = IDOK;
 
-TEST(Application, AfxWinInitFillsTheStartUpData)
-{
-    CWinApp* app = AfxGetApp();
-    ASSERT_NE(nullptr, app);
-    EXPECT_EQ(app, AfxGetThread());
-    EXPECT_STREQ(L"AfxWndTests", app->m_pszAppName);
-    EXPECT_STREQ(L"AfxWndTests", AfxGetAppName());
-    EXPECT_STREQ(L"test_afx_wnd", app->m_pszExeName);
-    EXPECT_EQ(::GetModuleHandleW(NULL), app->m_hInstance);
-    EXPECT_EQ(::GetModuleHandleW(NULL), AfxGetInstanceHandle());
-    EXPECT_EQ(::GetCurrentThreadId(), app->m_nThreadID);
-}
-
 TEST(Application, AfxWinMainWithoutMainWindowEndsAtOnce)
 {
     EXPECT_EQ(0, AfxWinMain(::GetModuleHandleW(NULL), NULL, ::GetCommandLineW(), SW_SHOWNORMAL));
-}
-
-TEST(Application, DestroyingTheMainWindowEndsTheApplicationLoop)
-{
-    CWnd* wnd = new CWnd;
-    ASSERT_TRUE(wnd->CreateEx(0, AfxRegisterWndClass(0), L"main", WS_POPUP, 0, 0, 10, 10, NULL, NULL));
-    CWinThread* thread = AfxGetThread();
-    thread->m_pMainWnd = wnd;
-    EXPECT_EQ(wnd, AfxGetMainWnd());
-    wnd->DestroyWindow();
-    EXPECT_EQ(nullptr, thread->m_pMainWnd);
-    MSG msg;
-    EXPECT_TRUE(::PeekMessageW(&msg, NULL, WM_QUIT, WM_QUIT, PM_REMOVE));
-    delete wnd;
-}
-
-TEST(Application, MessageBoxesCarryTheApplicationsName)
-{
-    MessageBoxCloser closer(IDNO);
-    EXPECT_EQ(IDNO, AfxMessageBox(L"Continue?", MB_YESNO));
-    EXPECT_EQ(1, MessageBoxCloser::s_closed);
-    EXPECT_EQ(L"AfxWndTests", MessageBoxCloser::s_caption);
 }
 
 TEST(Application, MessageBoxForAMissingStringShowsNothing)
@@ -146,24 +111,5 @@ TEST(DialogValidation, TextThatIsNoNumberIsRefusedAndTheFieldGetsTheFocus)
 } // namespace
 
 namespace {
-
-TEST(WaitCursor, ShowsTheWaitCursorWhileItLivesAndNests)
-{
-    HCURSOR arrow = ::LoadCursorW(NULL, IDC_ARROW);
-    HCURSOR wait = ::LoadCursorW(NULL, IDC_WAIT);
-    ::SetCursor(arrow);
-    {
-        CWaitCursor outer;
-        EXPECT_EQ(wait, ::GetCursor());
-        {
-            CWaitCursor inner;
-            ::SetCursor(arrow);   // e.g. a message box changed it
-            inner.Restore();
-            EXPECT_EQ(wait, ::GetCursor());
-        }
-        EXPECT_EQ(wait, ::GetCursor()) << "the outer wait still runs";
-    }
-    EXPECT_EQ(arrow, ::GetCursor());
-}
 
 } // namespace

@@ -102,65 +102,11 @@ std::wstring ItemText(CWnd& dialog, int id)
 
 // ---- modal loop ----
 
-TEST(DialogModal, DoModalReturnsTheCodeEndDialogWasGiven)
-{
-    const struct {
-        const char* from;
-        void (*start)(CTestDialog&);
-        int code;
-    } cases[] = {
-        { "a posted message", [](CTestDialog& dlg) { dlg.PostMessage(WM_TEST_END, 1234); }, 1234 },
-        { "a timer", [](CTestDialog& dlg) { dlg.SetTimer(321, 10, NULL); }, 321 },
-        { "OnInitDialog, skipping the loop", [](CTestDialog& dlg) { dlg.EndDialog(55); }, 55 },
-    };
-    for (const auto& c : cases)
-    {
-        SCOPED_TRACE(c.from);
-        CTestDialog dialog;
-        dialog.onInit = c.start;
-        EXPECT_EQ(c.code, dialog.DoModal());
-        EXPECT_EQ(NULL, dialog.m_hWnd);
-        EXPECT_EQ(c.code == 321 ? 1 : 0, dialog.timerEnds);
-    }
-}
-
 TEST(DialogModal, MissingTemplateMakesDoModalFail)
 {
     CTestDialog dialog(NULL, 9999);
     EXPECT_EQ(-1, dialog.DoModal());
     EXPECT_EQ(NULL, dialog.m_hWnd);
-}
-
-TEST(DialogModal, OwnerIsDisabledWhileTheDialogRunsAndEnabledAfterwards)
-{
-    CWnd owner;
-    ASSERT_TRUE(owner.CreateEx(0, AfxRegisterWndClass(0), L"owner", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50, NULL, NULL));
-    CTestDialog dialog(&owner);
-    dialog.onInit = [](CTestDialog& dlg) { dlg.PostMessage(WM_TEST_END, 1); };
-    EXPECT_EQ(1, dialog.DoModal());
-    EXPECT_FALSE(dialog.parentEnabledDuringInit);
-    EXPECT_TRUE(owner.IsWindowEnabled());
-    owner.DestroyWindow();
-}
-
-TEST(DialogModal, EscapeKeyCancelsThroughTheDialogManager)
-{
-    CTestDialog dialog;
-    dialog.onInit = [](CTestDialog& dlg) {
-        dlg.GetDlgItem(IDC_NAME)->PostMessage(WM_KEYDOWN, VK_ESCAPE, 1);
-    };
-    EXPECT_EQ(IDCANCEL, dialog.DoModal());
-}
-
-TEST(DialogModal, PreTranslateMessageReachesAControlInsideTheModalLoop)
-{
-    CTestDialog dialog;
-    dialog.bindEdit = true;
-    dialog.m_edit.watchedKey = VK_F5;
-    dialog.m_edit.onKey = [&dialog] { dialog.EndDialog(77); };
-    dialog.onInit = [](CTestDialog& dlg) { dlg.m_edit.PostMessage(WM_KEYDOWN, VK_F5, 1); };
-    EXPECT_EQ(77, dialog.DoModal());
-    EXPECT_TRUE(dialog.m_edit.sawKey);
 }
 
 // ---- data exchange ----
@@ -203,32 +149,6 @@ TEST(DialogData, InitialValuesReachTheControlsAndOkSavesTheEditedOnes)
     EXPECT_EQ(0, dialog.m_radio);
 }
 
-TEST(DialogData, CancelLeavesTheVariablesAlone)
-{
-    CTestDialog dialog;
-    dialog.m_name = L"kept";
-    dialog.onInit = [](CTestDialog& dlg) {
-        dlg.SetDlgItemText(IDC_NAME, L"changed");
-        dlg.PostMessage(WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
-    };
-    EXPECT_EQ(IDCANCEL, dialog.DoModal());
-    EXPECT_STREQ(L"kept", dialog.m_name);
-}
-
-TEST(DialogData, RadioGroupWithNothingCheckedSavesMinusOne)
-{
-    CTestDialog dialog;
-    dialog.m_radio = 7;   // no such button: the group starts with none checked
-    int radioAfterSave = 99;
-    dialog.onInit = [&](CTestDialog& dlg) {
-        dlg.UpdateData(TRUE);
-        radioAfterSave = dlg.m_radio;
-        dlg.EndDialog(IDOK);
-    };
-    dialog.DoModal();
-    EXPECT_EQ(-1, radioAfterSave);
-}
-
 TEST(DialogData, DdxControlSubclassesTheControlForTheDialogsLifetime)
 {
     CTestDialog dialog;
@@ -248,21 +168,6 @@ TEST(DialogData, DdxControlSubclassesTheControlForTheDialogsLifetime)
 }
 
 // ---- modeless ----
-
-TEST(DialogModeless, CreateRunsOnInitDialogAndLeavesTheDialogOpen)
-{
-    CTestDialog dialog;
-    dialog.m_name = L"modeless";
-    ASSERT_TRUE(dialog.Create(IDD_DDX));
-    EXPECT_NE(nullptr, dialog.m_hWnd);
-    EXPECT_EQ(&dialog, CWnd::FromHandlePermanent(dialog.m_hWnd));
-    EXPECT_EQ(L"modeless", ItemText(dialog, IDC_NAME));
-    dialog.SetDlgItemText(IDC_NUMBER, L"12");
-    EXPECT_TRUE(dialog.UpdateData(TRUE));
-    EXPECT_EQ(12, dialog.m_number);
-    EXPECT_TRUE(dialog.DestroyWindow());
-    EXPECT_EQ(NULL, dialog.m_hWnd);
-}
 
 TEST(DialogModeless, MissingTemplateFailsToCreate)
 {
@@ -289,33 +194,6 @@ protected:
     HMODULE module = NULL;
 };
 
-TEST_F(ExtensionDll, ItsStringIsFoundFromTheExecutable)
-{
-    EXPECT_EQ(module, AfxFindResourceHandle(MAKEINTRESOURCEW(IDS_EXTENSION / 16 + 1), RT_STRING));
-    CString text;
-    EXPECT_TRUE(text.LoadString(IDS_EXTENSION));
-    EXPECT_STREQ(L"string of the extension", text);
-}
-
-TEST_F(ExtensionDll, ItsDialogTemplateIsFoundByDoModal)
-{
-    class CEnding : public CDialog
-    {
-    public:
-        CEnding() : CDialog(IDD_EXTENSION) { }
-        std::wstring text;
-        BOOL OnInitDialog() override
-        {
-            CDialog::OnInitDialog();
-            text = ItemText(*this, IDC_EXTENSION_TEXT);
-            EndDialog(5);
-            return TRUE;
-        }
-    } ending;
-    EXPECT_EQ(5, ending.DoModal());
-    EXPECT_EQ(L"extension text", ending.text);
-}
-
 TEST_F(ExtensionDll, UnloadingTheDllTakesItsResourcesOutOfTheChain)
 {
     ASSERT_TRUE(::FreeLibrary(module));
@@ -330,41 +208,9 @@ TEST_F(ExtensionDll, UnloadingTheDllTakesItsResourcesOutOfTheChain)
 
 namespace {
 
-TEST(DialogLeaks, ModalDialogCyclesLeaveNothingBehind)
-{
-    ZOTEST_EXPECT_NO_LEAKS(10, [] {
-        CTestDialog dialog;
-        dialog.bindEdit = true;
-        dialog.m_name = L"cycle";
-        dialog.onInit = [](CTestDialog& dlg) { dlg.PostMessage(WM_TEST_END, 3); };
-        dialog.DoModal();
-        wndtest::RunIdle();
-    });
-}
-
 } // namespace
 
 namespace {
-
-TEST(DialogControls, FocusAndDefaultButtonHelpers)
-{
-    CTestDialog dialog;
-    ASSERT_TRUE(dialog.Create(IDD_DDX));
-    dialog.ShowWindow(SW_SHOW);
-    dialog.GotoDlgCtrl(dialog.GetDlgItem(IDC_NUMBER));
-    ASSERT_NE(nullptr, CWnd::GetFocus());
-    EXPECT_EQ(IDC_NUMBER, CWnd::GetFocus()->GetDlgCtrlID());
-    dialog.NextDlgCtrl();
-    EXPECT_NE(IDC_NUMBER, CWnd::GetFocus()->GetDlgCtrlID());
-    dialog.PrevDlgCtrl();
-    EXPECT_EQ(IDC_NUMBER, CWnd::GetFocus()->GetDlgCtrlID());
-    dialog.GotoDlgCtrl(NULL);   // nothing to go to: the focus stays
-    EXPECT_EQ(IDC_NUMBER, CWnd::GetFocus()->GetDlgCtrlID());
-
-    dialog.SetDefID(IDCANCEL);
-    EXPECT_EQ(static_cast<DWORD>(MAKELONG(IDCANCEL, DC_HASDEFID)), dialog.GetDefID());
-    dialog.DestroyWindow();
-}
 
 class CLimitedDialog : public CDialog
 {
@@ -379,17 +225,6 @@ protected:
     }
 };
 
-TEST(DialogControls, MaxCharsLimitsTheEditWhenValuesAreShown)
-{
-    CLimitedDialog dialog;
-    ASSERT_TRUE(dialog.Create(IDD_DDX));
-    EXPECT_EQ(6, dialog.SendDlgItemMessage(IDC_NAME, EM_GETLIMITTEXT));
-    dialog.SetDlgItemText(IDC_NAME, L"abcdef");
-    EXPECT_TRUE(dialog.UpdateData(TRUE));
-    EXPECT_STREQ(L"abcdef", dialog.m_name);
-    dialog.DestroyWindow();
-}
-
 template <class T>
 class CTemplateWnd : public CWnd
 {
@@ -403,14 +238,5 @@ protected:
 BEGIN_TEMPLATE_MESSAGE_MAP(CTemplateWnd, T, CWnd)
     ON_WM_TIMER()
 END_MESSAGE_MAP()
-
-TEST(TemplateMessageMap, TemplateClassesHaveTheirOwnMap)
-{
-    CTemplateWnd<int> wnd;
-    ASSERT_TRUE(wnd.CreateEx(0, AfxRegisterWndClass(0), L"template", WS_POPUP, 0, 0, 10, 10, NULL, NULL));
-    wnd.SendMessage(WM_TIMER, 42);
-    EXPECT_EQ(42, wnd.lastTimer);
-    wnd.DestroyWindow();
-}
 
 } // namespace

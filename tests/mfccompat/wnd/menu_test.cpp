@@ -101,44 +101,6 @@ protected:
     COwnerDrawnMenu popup;
 };
 
-TEST_F(MenuTest, WindowMenuIsReachableAsCMenu)
-{
-    ASSERT_NE(nullptr, wnd.GetMenu());
-    EXPECT_EQ(bar.m_hMenu, wnd.GetMenu()->m_hMenu);
-    EXPECT_EQ(&bar, wnd.GetMenu()) << "the permanent object, not a temporary one";
-    CMenu* system = wnd.GetSystemMenu(FALSE);
-    ASSERT_NE(nullptr, system);
-    EXPECT_TRUE(::IsMenu(system->m_hMenu));
-    wnd.DrawMenuBar();
-}
-
-TEST_F(MenuTest, InitMenuPopupAndMenuCharCrackTheirArguments)
-{
-    wnd.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(popup.m_hMenu), MAKELPARAM(0, FALSE));
-    EXPECT_EQ(popup.m_hMenu, wnd.popupSeen);
-    EXPECT_EQ("OnInitMenuPopup 0 0", wnd.calls.back());
-    EXPECT_EQ(MAKELRESULT(1, MNC_EXECUTE),
-              wnd.SendMessage(WM_MENUCHAR, MAKEWPARAM('s', MF_POPUP), reinterpret_cast<LPARAM>(popup.m_hMenu)));
-    EXPECT_EQ("OnMenuChar 115 16 menu", wnd.calls.back());
-}
-
-TEST_F(MenuTest, OwnerDrawnItemsAreDrawnAndMeasuredByTheirMenuObject)
-{
-    MEASUREITEMSTRUCT measure = {};
-    measure.CtlType = ODT_MENU;
-    measure.itemID = ID_ITEM_SAVE;
-    EXPECT_EQ(TRUE, wnd.SendMessage(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&measure)));
-    EXPECT_EQ(std::vector<UINT>{ ID_ITEM_SAVE }, popup.measured);
-    EXPECT_EQ(21u, measure.itemHeight);
-
-    DRAWITEMSTRUCT draw = {};
-    draw.CtlType = ODT_MENU;
-    draw.itemID = ID_ITEM_SAVE;
-    draw.hwndItem = reinterpret_cast<HWND>(popup.m_hMenu);
-    EXPECT_EQ(TRUE, wnd.SendMessage(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&draw)));
-    EXPECT_EQ(std::vector<UINT>{ ID_ITEM_SAVE }, popup.drawn);
-}
-
 TEST_F(MenuTest, UpdateHandlersEnableAndCheckMenuItems)
 {
     CCmdUI open = ItemUI(0);
@@ -162,47 +124,9 @@ TEST_F(MenuTest, ItemsWithoutAnyHandlerAreDisabledOnlyWhenAsked)
     EXPECT_TRUE(popup.GetMenuState(ID_ITEM_QUIT, MF_BYCOMMAND) & MF_GRAYED);
 }
 
-TEST_F(MenuTest, UpdateDialogControlsUpdatesChildControls)
-{
-    HWND apply = wndtest::CreatePlainWindow(L"BUTTON", WS_CHILD | BS_PUSHBUTTON, wnd.m_hWnd, IDC_APPLY);
-    HWND automatic = wndtest::CreatePlainWindow(L"BUTTON", WS_CHILD | BS_AUTOCHECKBOX, wnd.m_hWnd, IDC_AUTO);
-    HWND orphan = wndtest::CreatePlainWindow(L"BUTTON", WS_CHILD | BS_PUSHBUTTON, wnd.m_hWnd, IDC_AUTO + 1);
-    wnd.UpdateDialogControls(&wnd, TRUE);
-    wchar_t text[32] = L"";
-    ::GetWindowTextW(apply, text, 32);
-    EXPECT_STREQ(L"Apply now", text);
-    EXPECT_TRUE(::IsWindowEnabled(apply));
-    EXPECT_TRUE(::IsWindowEnabled(automatic)) << "automatic buttons need no handler";
-    EXPECT_FALSE(::IsWindowEnabled(orphan));
-}
-
 } // namespace
 
 namespace {
-
-TEST(ParentFrame, WindowsFindTheFrameAroundThem)
-{
-    CFrameWnd* frame = new CFrameWnd;   // frames delete themselves when destroyed
-    ASSERT_TRUE(frame->Create(NULL, L"frame"));
-    CWnd pane;
-    ASSERT_TRUE(pane.Create(NULL, L"pane", WS_VISIBLE, CRect(0, 0, 50, 50), frame, 1));
-    CWnd inner;
-    ASSERT_TRUE(inner.Create(NULL, L"inner", WS_VISIBLE, CRect(0, 0, 10, 10), &pane, 2));
-
-    EXPECT_EQ(frame, pane.GetParentFrame());
-    EXPECT_EQ(frame, inner.GetParentFrame());
-    EXPECT_EQ(frame, inner.GetTopLevelFrame());
-    EXPECT_EQ(frame, frame->GetTopLevelFrame());
-    EXPECT_EQ(nullptr, frame->GetParentFrame());
-
-    CWnd loose;
-    ASSERT_TRUE(loose.CreateEx(0, AfxRegisterWndClass(0), L"loose", WS_POPUP, 0, 0, 10, 10, NULL, NULL));
-    EXPECT_EQ(nullptr, loose.GetParentFrame());
-    EXPECT_EQ(nullptr, loose.GetTopLevelFrame());
-    loose.DestroyWindow();
-    frame->DestroyWindow();
-    EXPECT_EQ(NULL, pane.m_hWnd);
-}
 
 } // namespace
 

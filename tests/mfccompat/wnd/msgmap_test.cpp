@@ -1,5 +1,5 @@
-// Message-map dispatch: every macro family reaches its handler with the arguments cracked
-// from wParam/lParam as documented, and the handler's return value becomes the result.
+// Message-map dispatch for the entries the library does not use itself: handlers get the
+// arguments cracked from wParam/lParam as documented; _EX entries that decline pass on.
 #include "wnd_test_support.h"
 
 #include <initializer_list>
@@ -8,19 +8,13 @@
 
 namespace {
 
-const UINT WM_TEST_APP = WM_APP + 7;
-const UINT g_registeredMessage = ::RegisterWindowMessageW(L"ZoAfxWndTestRegistered");
-
 enum
 {
     ID_FIRST_COMMAND = 100,
     ID_RANGE_FIRST = 200,
     ID_RANGE_LAST = 210,
     ID_EX_COMMAND = 300,
-    IDC_BUTTON = 50,
-    IDC_EDIT = 51,
     IDC_LIST = 60,
-    IDC_LIST_LAST = 70,
 };
 
 std::string Name(const CWnd* wnd, const CWnd* self)
@@ -55,31 +49,15 @@ public:
     using CWnd::Default;
 
 protected:
-    afx_msg void OnSize(UINT nType, int cx, int cy) { Record("OnSize", nType, cx, cy); }
-    afx_msg void OnMove(int x, int y) { Record("OnMove", x, y); }
-    afx_msg void OnLButtonDown(UINT nFlags, CPoint point) { Record("OnLButtonDown", nFlags, point.x, point.y); }
-    afx_msg void OnRButtonDblClk(UINT nFlags, CPoint point) { Record("OnRButtonDblClk", nFlags, point.x, point.y); }
-    afx_msg void OnMouseMove(UINT nFlags, CPoint point) { Record("OnMouseMove", nFlags, point.x, point.y); }
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt)
     {
         Record("OnMouseWheel", nFlags, zDelta, pt.x, pt.y);
         return TRUE;
     }
-    afx_msg void OnMouseHover(UINT nFlags, CPoint point) { Record("OnMouseHover", nFlags, point.x, point.y); }
-    afx_msg void OnMouseLeave() { Record("OnMouseLeave"); }
-    afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) { Record("OnKeyDown", nChar, nRepCnt, nFlags); }
-    afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags) { Record("OnChar", nChar, nRepCnt, nFlags); }
-    afx_msg void OnSysKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) { Record("OnSysKeyDown", nChar, nRepCnt, nFlags); }
-    afx_msg void OnTimer(UINT_PTR nIDEvent) { Record("OnTimer", nIDEvent); }
     afx_msg BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message)
     {
         Record("OnSetCursor", Name(pWnd, this), nHitTest, message);
         return TRUE;
-    }
-    afx_msg LRESULT OnNcHitTest(CPoint point)
-    {
-        Record("OnNcHitTest", point.x, point.y);
-        return HTCAPTION;
     }
     afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized)
     {
@@ -93,7 +71,6 @@ protected:
         Record("OnEraseBkgnd", pDC != NULL && pDC->m_hDC == paintDC ? "dc" : "wrong-dc");
         return TRUE;
     }
-    afx_msg UINT OnGetDlgCode() { Record("OnGetDlgCode"); return DLGC_WANTARROWS | DLGC_WANTCHARS; }
     afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
     {
         Record("OnHScroll", nSBCode, nPos, pScrollBar == NULL ? "null" : "bar");
@@ -108,11 +85,6 @@ protected:
     afx_msg void OnEnable(BOOL bEnable) { Record("OnEnable", bEnable); }
     afx_msg void OnSysCommand(UINT nID, LPARAM lParam) { Record("OnSysCommand", nID, lParam); }
     afx_msg void OnContextMenu(CWnd* pWnd, CPoint pos) { Record("OnContextMenu", Name(pWnd, this), pos.x, pos.y); }
-    afx_msg BOOL OnNcActivate(BOOL bActive)
-    {
-        Record("OnNcActivate", bActive);
-        return TRUE;
-    }
     afx_msg void OnNcLButtonDown(UINT nHitTest, CPoint point) { Record("OnNcLButtonDown", nHitTest, point.x, point.y); }
     afx_msg void OnNcMouseMove(UINT nHitTest, CPoint point) { Record("OnNcMouseMove", nHitTest, point.x, point.y); }
     afx_msg void OnNcMouseLeave() { Record("OnNcMouseLeave"); }
@@ -149,16 +121,6 @@ protected:
     afx_msg void OnActivateApp(BOOL bActive, DWORD dwThreadID) { Record("OnActivateApp", bActive, dwThreadID); }
     afx_msg void OnDropFiles(HDROP hDropInfo) { Record("OnDropFiles", hDropInfo == NULL ? "null" : "drop"); }
     afx_msg void OnClose() { Record("OnClose"); }
-    afx_msg LRESULT OnTestApp(WPARAM wParam, LPARAM lParam)
-    {
-        Record("OnTestApp", wParam, lParam);
-        return 1234;
-    }
-    afx_msg LRESULT OnRegistered(WPARAM wParam, LPARAM lParam)
-    {
-        Record("OnRegistered", wParam, lParam);
-        return 99;
-    }
     afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam)
     {
         Record("OnPrintClient", reinterpret_cast<HDC>(wParam) == paintDC ? "dc" : "wrong-dc", lParam);
@@ -172,18 +134,6 @@ protected:
         return exResult;
     }
     afx_msg void OnExFallback() { Record("OnExFallback"); }
-    afx_msg void OnButtonClicked() { Record("OnButtonClicked"); }
-    afx_msg void OnEditChange() { Record("OnEditChange"); }
-    afx_msg void OnListClick(NMHDR* pNMHDR, LRESULT* pResult)
-    {
-        Record("OnListClick", pNMHDR->idFrom);
-        *pResult = 42;
-    }
-    afx_msg void OnListRange(UINT id, NMHDR* pNMHDR, LRESULT* pResult)
-    {
-        Record("OnListRange", id, static_cast<int>(pNMHDR->code));
-        *pResult = 43;
-    }
     afx_msg BOOL OnListEx(UINT id, NMHDR*, LRESULT* pResult)
     {
         Record("OnListEx", id);
@@ -200,33 +150,19 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(CRecordWnd, CWnd)
-    ON_WM_SIZE()
-    ON_WM_MOVE()
-    ON_WM_LBUTTONDOWN()
-    ON_WM_RBUTTONDBLCLK()
-    ON_WM_MOUSEMOVE()
     ON_WM_MOUSEWHEEL()
-    ON_WM_MOUSEHOVER()
-    ON_WM_MOUSELEAVE()
-    ON_WM_KEYDOWN()
-    ON_WM_CHAR()
-    ON_WM_SYSKEYDOWN()
-    ON_WM_TIMER()
     ON_WM_SETCURSOR()
-    ON_WM_NCHITTEST()
     ON_WM_ACTIVATE()
     ON_WM_SETFOCUS()
     ON_WM_KILLFOCUS()
     ON_WM_CAPTURECHANGED()
     ON_WM_ERASEBKGND()
-    ON_WM_GETDLGCODE()
     ON_WM_HSCROLL()
     ON_WM_CTLCOLOR()
     ON_WM_SHOWWINDOW()
     ON_WM_ENABLE()
     ON_WM_SYSCOMMAND()
     ON_WM_CONTEXTMENU()
-    ON_WM_NCACTIVATE()
     ON_WM_NCLBUTTONDOWN()
     ON_WM_NCMOUSEMOVE()
     ON_WM_NCMOUSELEAVE()
@@ -243,17 +179,11 @@ BEGIN_MESSAGE_MAP(CRecordWnd, CWnd)
     ON_WM_ACTIVATEAPP()
     ON_WM_DROPFILES()
     ON_WM_CLOSE()
-    ON_MESSAGE(WM_TEST_APP, &CRecordWnd::OnTestApp)
     ON_MESSAGE(WM_PRINTCLIENT, &CRecordWnd::OnPrintClient)
-    ON_REGISTERED_MESSAGE(g_registeredMessage, &CRecordWnd::OnRegistered)
     ON_COMMAND(ID_FIRST_COMMAND, &CRecordWnd::OnFirstCommand)
     ON_COMMAND_RANGE(ID_RANGE_FIRST, ID_RANGE_LAST, &CRecordWnd::OnRangeCommand)
     ON_COMMAND_EX(ID_EX_COMMAND, &CRecordWnd::OnExCommand)
     ON_COMMAND(ID_EX_COMMAND, &CRecordWnd::OnExFallback)
-    ON_BN_CLICKED(IDC_BUTTON, &CRecordWnd::OnButtonClicked)
-    ON_EN_CHANGE(IDC_EDIT, &CRecordWnd::OnEditChange)
-    ON_NOTIFY(NM_CLICK, IDC_LIST, &CRecordWnd::OnListClick)
-    ON_NOTIFY_RANGE(NM_DBLCLK, IDC_LIST, IDC_LIST_LAST, &CRecordWnd::OnListRange)
     ON_NOTIFY_EX(NM_RCLICK, IDC_LIST, &CRecordWnd::OnListEx)
     ON_NOTIFY(NM_RCLICK, IDC_LIST, &CRecordWnd::OnListExFallback)
 END_MESSAGE_MAP()
@@ -313,23 +243,6 @@ void ExpectCalls(CRecordWnd& wnd, std::initializer_list<Cracked> cases)
     }
 }
 
-TEST_F(MessageMapTest, InputMessagesCrackSignedPointsFlagsAndRepeatCounts)
-{
-    ExpectCalls(wnd, {
-        { WM_SIZE, SIZE_MAXIMIZED, MAKELPARAM(300, 200), "OnSize 2 300 200" },
-        { WM_MOVE, 0, MAKELPARAM(static_cast<WORD>(-5), 7), "OnMove -5 7" },
-        { WM_LBUTTONDOWN, MK_LBUTTON | MK_SHIFT, MAKELPARAM(static_cast<WORD>(-3), 40), "OnLButtonDown 5 -3 40" },
-        { WM_RBUTTONDBLCLK, MK_RBUTTON, MAKELPARAM(11, 12), "OnRButtonDblClk 2 11 12" },
-        { WM_MOUSEMOVE, 0, MAKELPARAM(1, 2), "OnMouseMove 0 1 2" },
-        { WM_MOUSEHOVER, MK_CONTROL, MAKELPARAM(8, 9), "OnMouseHover 8 8 9" },
-        { WM_MOUSELEAVE, 0, 0, "OnMouseLeave" },
-        { WM_KEYDOWN, 'A', 0x001E0003, "OnKeyDown 65 3 30" },
-        { WM_CHAR, 'a', static_cast<LPARAM>(0x801E0001u), "OnChar 97 1 32798" },
-        { WM_SYSKEYDOWN, VK_F10, 0x20440001, "OnSysKeyDown 121 1 8260" },
-        { WM_TIMER, 77, 0, "OnTimer 77" },
-    });
-}
-
 TEST_F(MessageMapTest, MouseWheelSplitsFlagsAndDeltaAndReturnsTheHandlersAnswer)
 {
     EXPECT_EQ(TRUE, Send(WM_MOUSEWHEEL, MAKEWPARAM(MK_SHIFT, static_cast<WORD>(-120)), MAKELPARAM(10, 20)));
@@ -370,16 +283,6 @@ TEST_F(MessageMapTest, StateMessagesPassTheirFlags)
         { WM_CLOSE, 0, 0, "OnClose" },
     });
     EXPECT_TRUE(::IsWindow(wnd.m_hWnd)) << "a handled WM_CLOSE does not reach DefWindowProc";
-}
-
-TEST_F(MessageMapTest, HandlerResultsBecomeTheMessageResult)
-{
-    EXPECT_EQ(static_cast<LRESULT>(DLGC_WANTARROWS | DLGC_WANTCHARS), Send(WM_GETDLGCODE, 0, 0));
-    EXPECT_EQ("OnGetDlgCode", wnd.Last());
-    EXPECT_EQ(HTCAPTION, Send(WM_NCHITTEST, 0, MAKELPARAM(5, 6)));
-    EXPECT_EQ("OnNcHitTest 5 6", wnd.Last());
-    EXPECT_EQ(TRUE, Send(WM_NCACTIVATE, FALSE, 0));
-    EXPECT_EQ("OnNcActivate 0", wnd.Last());
 }
 
 TEST_F(MessageMapTest, StructuresAndDeviceContextsArriveCracked)
@@ -436,23 +339,6 @@ TEST_F(MessageMapTest, OwnerDrawMessagesForUnknownControlsReachTheParentHandlers
     EXPECT_EQ(19u, measure.itemHeight);
 }
 
-TEST_F(MessageMapTest, OnMessageAndRegisteredMessageReturnTheHandlersResult)
-{
-    EXPECT_EQ(1234, Send(WM_TEST_APP, 5, 6));
-    EXPECT_EQ("OnTestApp 5 6", wnd.Last());
-    EXPECT_EQ(99, Send(g_registeredMessage, 7, 8));
-    EXPECT_EQ("OnRegistered 7 8", wnd.Last());
-}
-
-TEST_F(MessageMapTest, UnhandledMessagesGetTheDefaultProcessing)
-{
-    wnd.SetWindowText(L"caption");
-    wchar_t text[32] = L"";
-    EXPECT_EQ(7, Send(WM_GETTEXT, 32, reinterpret_cast<LPARAM>(text)));
-    EXPECT_STREQ(L"caption", text);
-    EXPECT_TRUE(wnd.calls.empty());
-}
-
 // ---- commands and notifications ----
 
 TEST_F(MessageMapTest, CommandEntriesByIdAndRange)
@@ -477,30 +363,6 @@ TEST_F(MessageMapTest, CommandExHandlerThatDeclinesLetsTheNextEntryHandleIt)
     EXPECT_EQ((std::vector<std::string>{ "OnExCommand 300", "OnExFallback" }), wnd.calls);
 }
 
-TEST_F(MessageMapTest, ControlNotificationsMatchIdAndCode)
-{
-    HWND button = Child(L"BUTTON", IDC_BUTTON);
-    HWND edit = Child(L"EDIT", IDC_EDIT);
-    Send(WM_COMMAND, MAKEWPARAM(IDC_BUTTON, BN_CLICKED), reinterpret_cast<LPARAM>(button));
-    EXPECT_EQ("OnButtonClicked", wnd.Last());
-    Send(WM_COMMAND, MAKEWPARAM(IDC_EDIT, EN_CHANGE), reinterpret_cast<LPARAM>(edit));
-    EXPECT_EQ("OnEditChange", wnd.Last());
-    wnd.calls.clear();
-    // Same id, other code: no entry.
-    EXPECT_EQ(0, Send(WM_COMMAND, MAKEWPARAM(IDC_EDIT, EN_UPDATE), reinterpret_cast<LPARAM>(edit)));
-    EXPECT_TRUE(wnd.calls.empty());
-}
-
-TEST_F(MessageMapTest, NotifyEntriesSetTheResult)
-{
-    HWND list = Child(WC_LISTVIEWW, IDC_LIST);
-    HWND list2 = Child(WC_LISTVIEWW, IDC_LIST + 3);
-    EXPECT_EQ(42, Notify(list, NM_CLICK));
-    EXPECT_EQ("OnListClick 60", wnd.Last());
-    EXPECT_EQ(43, Notify(list2, NM_DBLCLK));
-    EXPECT_EQ("OnListRange 63 -3", wnd.Last());
-}
-
 TEST_F(MessageMapTest, NotifyExHandlerThatDeclinesLetsTheNextEntryHandleIt)
 {
     HWND list = Child(WC_LISTVIEWW, IDC_LIST);
@@ -511,35 +373,6 @@ TEST_F(MessageMapTest, NotifyExHandlerThatDeclinesLetsTheNextEntryHandleIt)
     wnd.exResult = FALSE;
     EXPECT_EQ(45, Notify(list, NM_RCLICK));
     EXPECT_EQ((std::vector<std::string>{ "OnListEx 60", "OnListExFallback" }), wnd.calls);
-}
-
-// ---- derived maps ----
-
-class CDerivedRecordWnd : public CRecordWnd
-{
-protected:
-    afx_msg void OnSize(UINT nType, int cx, int cy)
-    {
-        Record("Derived::OnSize", nType, cx, cy);
-        CRecordWnd::OnSize(nType, cx, cy);
-    }
-    DECLARE_MESSAGE_MAP()
-};
-
-BEGIN_MESSAGE_MAP(CDerivedRecordWnd, CRecordWnd)
-    ON_WM_SIZE()
-END_MESSAGE_MAP()
-
-TEST(MessageMapInheritance, DerivedEntriesComeFirstAndBaseEntriesStillWork)
-{
-    CDerivedRecordWnd wnd;
-    ASSERT_TRUE(wnd.CreateEx(0, AfxRegisterWndClass(0), L"derived", WS_POPUP, 0, 0, 50, 50, NULL, NULL));
-    wnd.calls.clear();
-    wnd.SendMessage(WM_SIZE, SIZE_RESTORED, MAKELPARAM(4, 5));
-    EXPECT_EQ((std::vector<std::string>{ "Derived::OnSize 0 4 5", "OnSize 0 4 5" }), wnd.calls);
-    wnd.SendMessage(WM_TIMER, 3);
-    EXPECT_EQ("OnTimer 3", wnd.Last());
-    wnd.DestroyWindow();
 }
 
 } // namespace

@@ -38,23 +38,6 @@ protected:
         *pResult = 8;
         return exResult;
     }
-    afx_msg void HScroll(UINT nSBCode, UINT nPos)
-    {
-        calls.push_back("HScroll " + std::to_string(nSBCode) + " " + std::to_string(nPos));
-    }
-    afx_msg void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
-    {
-        calls.push_back("DrawItem " + std::to_string(lpDrawItemStruct->itemID));
-    }
-    afx_msg void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct)
-    {
-        calls.push_back("MeasureItem");
-        lpMeasureItemStruct->itemHeight = 33;
-    }
-    afx_msg void ParentNotify(UINT message, LPARAM)
-    {
-        calls.push_back("ParentNotify " + std::to_string(LOWORD(message)));
-    }
 
     DECLARE_MESSAGE_MAP()
 };
@@ -65,10 +48,6 @@ BEGIN_MESSAGE_MAP(CReflectingChild, CWnd)
     ON_CONTROL_REFLECT_EX(BN_DOUBLECLICKED, &CReflectingChild::OnDoubleClickedReflect)
     ON_NOTIFY_REFLECT(NM_CLICK, &CReflectingChild::OnNotifyClick)
     ON_NOTIFY_REFLECT_EX(NM_DBLCLK, &CReflectingChild::OnNotifyDblClk)
-    ON_WM_HSCROLL_REFLECT()
-    ON_WM_DRAWITEM_REFLECT()
-    ON_WM_MEASUREITEM_REFLECT()
-    ON_WM_PARENTNOTIFY_REFLECT()
 END_MESSAGE_MAP()
 
 class CParentWnd : public CWnd
@@ -91,25 +70,6 @@ BEGIN_MESSAGE_MAP(CParentWnd, CWnd)
     ON_BN_CLICKED(IDC_CHILD, &CParentWnd::OnChildClicked)
     ON_BN_DOUBLECLICKED(IDC_CHILD, &CParentWnd::OnChildDoubleClicked)
     ON_NOTIFY(NM_DBLCLK, IDC_CHILD, &CParentWnd::OnChildDblClk)
-END_MESSAGE_MAP()
-
-// A parent whose own OnCtlColor does not call the base class keeps the message.
-class CColoringParent : public CParentWnd
-{
-public:
-    HBRUSH brush = reinterpret_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH));
-
-protected:
-    afx_msg HBRUSH OnCtlColor(CDC*, CWnd*, UINT)
-    {
-        calls.push_back("Parent OnCtlColor");
-        return brush;
-    }
-    DECLARE_MESSAGE_MAP()
-};
-
-BEGIN_MESSAGE_MAP(CColoringParent, CParentWnd)
-    ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
 
 class ReflectionTest : public testing::Test
@@ -162,25 +122,6 @@ TEST_F(ReflectionToPlainParent, ControlColorIsAnsweredByTheChild)
     EXPECT_EQ((std::vector<std::string>{ "CtlColor 3 dc" }), child.calls);
 }
 
-TEST_F(ReflectionToPlainParent, ControlColorWithNoBrushFromTheChildFallsBackToTheDefault)
-{
-    child.brush = NULL;
-    LRESULT result = Send(WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(child.m_hWnd));
-    EXPECT_EQ((std::vector<std::string>{ "CtlColor 6 dc" }), child.calls);
-    // DefWindowProc's brush for statics is the system's; anything but the child's NULL.
-    EXPECT_NE(0, result);
-}
-
-TEST_F(ReflectionTest, ParentThatHandlesControlColorItselfKeepsIt)
-{
-    CColoringParent parentWnd;
-    Build(parentWnd);
-    LRESULT result = Send(WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(child.m_hWnd));
-    EXPECT_EQ(reinterpret_cast<LRESULT>(parentWnd.brush), result);
-    EXPECT_TRUE(child.calls.empty());
-    EXPECT_EQ((std::vector<std::string>{ "Parent OnCtlColor" }), parentWnd.calls);
-}
-
 TEST_F(ReflectionToPlainParent, ReflectedCommandIsTakenByTheChildFirst)
 {
     EXPECT_EQ(1, Command(BN_CLICKED));
@@ -221,27 +162,6 @@ TEST_F(ReflectionToPlainParent, ReflectedNotifyExDecidesWhetherTheParentSeesIt)
     child.exResult = TRUE;
     EXPECT_EQ(8, Notify(NM_DBLCLK));
     EXPECT_TRUE(parentWnd.calls.empty());
-}
-
-TEST_F(ReflectionToPlainParent, ScrollDrawAndMeasureMessagesReachTheChild)
-{
-    Send(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 17), reinterpret_cast<LPARAM>(child.m_hWnd));
-
-    DRAWITEMSTRUCT draw = {};
-    draw.CtlType = ODT_BUTTON;
-    draw.CtlID = IDC_CHILD;
-    draw.itemID = 4;
-    draw.hwndItem = child.m_hWnd;
-    EXPECT_EQ(TRUE, Send(WM_DRAWITEM, IDC_CHILD, reinterpret_cast<LPARAM>(&draw)));
-
-    MEASUREITEMSTRUCT measure = {};
-    measure.CtlType = ODT_BUTTON;
-    measure.CtlID = IDC_CHILD;
-    EXPECT_EQ(TRUE, Send(WM_MEASUREITEM, IDC_CHILD, reinterpret_cast<LPARAM>(&measure)));
-    EXPECT_EQ(33u, measure.itemHeight);
-
-    Send(WM_PARENTNOTIFY, MAKEWPARAM(WM_CREATE, IDC_CHILD), reinterpret_cast<LPARAM>(child.m_hWnd));
-    EXPECT_EQ((std::vector<std::string>{ "HScroll 4 17", "DrawItem 4", "MeasureItem", "ParentNotify 1" }), child.calls);
 }
 
 TEST_F(ReflectionToPlainParent, NotificationsFromControlsWithoutObjectsStayWithTheParent)

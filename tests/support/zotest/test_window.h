@@ -4,13 +4,11 @@
 //                             WM_ERASEBKGND); a handy parent or a known render target
 //   SolidWindowColor / SetSolidWindowColor
 //   ScopedWindow              destroys its window at scope end (if it still exists)
-//   ScopedCommonControls6     activates a comctl32 version 6 context for windows created in scope
 //   FindOpenPopupMenu         the visible popup-menu window ("#32768") of this process, if any
 //
-// Test executables carry no manifest: BUTTON, EDIT, STATIC, COMBOBOX, LISTBOX and SCROLLBAR are
-// then the system's classic classes (under Wine: user32's, button face RGB(245,245,245)). Inside a
-// ScopedCommonControls6 they come from comctl32 version 6 (themed; under Wine the button face is
-// white and BCM_GETIDEALSIZE works). Other common controls are the same in both.
+// Test executables carry the common-controls 6 manifest (tests/support/common_controls6.manifest),
+// as Visual Studio hosts do: BUTTON, EDIT, STATIC, COMBOBOX, LISTBOX and SCROLLBAR are comctl32's
+// version 6 classes (themed; under Wine the button face is white and BCM_GETIDEALSIZE works).
 #pragma once
 
 #include <windows.h>
@@ -61,19 +59,6 @@ public:
 
 private:
     HWND window_ = nullptr;
-};
-
-class ScopedCommonControls6 {
-public:
-    ScopedCommonControls6();
-    ~ScopedCommonControls6();
-    ScopedCommonControls6(const ScopedCommonControls6&) = delete;
-    ScopedCommonControls6& operator=(const ScopedCommonControls6&) = delete;
-    bool active() const { return cookie_ != 0; }
-
-private:
-    HANDLE context_ = INVALID_HANDLE_VALUE;
-    ULONG_PTR cookie_ = 0;
 };
 
 } // namespace zotest

@@ -5,7 +5,7 @@
 //   pump.h              PumpUntilIdle, PumpFor, PumpUntil
 //   fresh_process.h     ZOTEST_RUN_IN_FRESH_PROCESS
 //   input.h             SendClick, SendKey, MoveCursorTo, RealClick, PumpUntilReceived
-//   test_window.h       RunningUnderWine, CreateSolidWindow, ScopedWindow, ScopedCommonControls6
+//   test_window.h       RunningUnderWine, CreateSolidWindow, ScopedWindow
 #pragma once
 
 #include <zotest/fresh_process.h>

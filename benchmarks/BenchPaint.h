@@ -29,6 +29,13 @@ inline void Report(const char* what, double seconds, double native, const char* 
         printf("%-46s %10.3f us   (%s)\n", what, seconds * 1e6, missing);
 }
 
+// A paint figure and a repaint figure of one control, each against its native twin.
+inline void ReportPair(const char* paint, const char* repaint, const Pair& paints, const Pair& repaints)
+{
+    Report(paint, paints.zo, paints.native, kNoNativePaint);
+    Report(repaint, repaints.zo, repaints.native, kNoNativeTime);
+}
+
 inline double RepaintTime(HWND hWnd)
 {
     return TimePerCall(

@@ -17,6 +17,7 @@
 using namespace ZoControls;
 using zobench::Pair;
 using zobench::Report;
+using zobench::ReportPair;
 using zobench::Twins;
 
 namespace {
@@ -29,12 +30,6 @@ const wchar_t* const kItems[] = {L"First", L"Second", L"Third"};
 LRESULT CALLBACK HostProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
 {
     return ::DefWindowProcW(hWnd, message, wParam, lParam);
-}
-
-void ReportPair(const char* paint, const char* repaint, const Pair& paints, const Pair& repaints)
-{
-    Report(paint, paints.zo, paints.native, zobench::kNoNativePaint);
-    Report(repaint, repaints.zo, repaints.native, zobench::kNoNativeTime);
 }
 
 // Seconds per repaint of the whole window, frame included.

@@ -19,6 +19,7 @@
 using namespace ZoControls;
 using zobench::Pair;
 using zobench::Report;
+using zobench::ReportPair;
 using zobench::Twins;
 
 namespace {
@@ -52,12 +53,6 @@ void AddTabs(HWND tabs)
         item.pszText = const_cast<wchar_t*>(kCaptions[i]);
         ::SendMessageW(tabs, TCM_INSERTITEMW, i, reinterpret_cast<LPARAM>(&item));
     }
-}
-
-void ReportPair(const char* paint, const char* repaint, const Pair& paints, const Pair& repaints)
-{
-    Report(paint, paints.zo, paints.native, zobench::kNoNativePaint);
-    Report(repaint, repaints.zo, repaints.native, zobench::kNoNativeTime);
 }
 
 void RunSliders(HWND host)

@@ -7,10 +7,6 @@ namespace ZoControls {
 // Asks for one WM_MOUSELEAVE when the mouse leaves `hWnd`.
 void ZoTrackMouseLeave(HWND hWnd);
 
-// Dispatches the pending WM_PAINT of `hWnd` at once, so that a state change shows also inside a
-// capture loop. Bounded: a paint handler that never validates must not hang the caller.
-void ZoPaintPendingNow(HWND hWnd);
-
 // The window text as the platform's own window procedure keeps it, asked through `query` (a
 // control's DefWindowProc): what GetWindowText gives, without two sent messages on every paint.
 template <class Query>

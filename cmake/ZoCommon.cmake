@@ -38,15 +38,20 @@ function(zo_windows_executable target)
   endif()
 endfunction()
 
+# The common-controls 6 manifest of a Visual Studio host, so tests see the controls users run.
 # One GoogleTest executable per subsystem, run by CTest under Wine. Each carries the
 # common-controls 6 manifest of a Visual Studio host, so the tests see the controls users run.
+function(zo_common_controls6 target)
+  if(MSVC)
+    target_sources(${target} PRIVATE ${PROJECT_SOURCE_DIR}/tests/support/common_controls6.manifest)
+  else()
+    target_sources(${target} PRIVATE ${PROJECT_SOURCE_DIR}/tests/support/common_controls6.rc)
+  endif()
+endfunction()
+
 function(zo_add_test_executable name)
   add_executable(${name} ${ARGN})
-  if(MSVC)
-    target_sources(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests/support/common_controls6.manifest)
-  else()
-    target_sources(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests/support/common_controls6.rc)
-  endif()
+  zo_common_controls6(${name})
   zo_windows_executable(${name})
   target_link_libraries(${name} PRIVATE zotest_support gtest)
   add_test(NAME ${name} COMMAND ${name} --gtest_color=no)

@@ -14,6 +14,7 @@
 
 #include <vector>
 
+#include <zotest/random.h>
 #include <zotest/resource_counter.h>
 
 #include "lists/ZoTreeFile.h"
@@ -25,24 +26,7 @@ namespace {
 
 using Bytes = std::vector<BYTE>;
 
-// xorshift64*: small, fast and the same on every platform.
-class Random
-{
-public:
-    explicit Random(ULONGLONG seed) : m_state(seed ? seed : 1) { }
-    ULONGLONG Next()
-    {
-        m_state ^= m_state >> 12;
-        m_state ^= m_state << 25;
-        m_state ^= m_state >> 27;
-        return m_state * 0x2545F4914F6CDD1DULL;
-    }
-    // 0 .. bound - 1 (0 for a bound of 0).
-    size_t Below(size_t bound) { return bound ? (size_t)(Next() % bound) : 0; }
-
-private:
-    ULONGLONG m_state;
-};
+using zotest::Random;
 
 Bytes Dump(CZoTreeListCtrlItem& root)
 {

@@ -20,19 +20,6 @@ std::wstring Widen(const std::string& text)
     return wide;
 }
 
-std::wstring OwnExecutable()
-{
-    std::vector<wchar_t> path(MAX_PATH);
-    for (;;) {
-        const DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
-        if (length == 0)
-            return std::wstring();
-        if (length < path.size())
-            return std::wstring(path.data(), length);
-        path.resize(path.size() * 2);
-    }
-}
-
 // Sets (or, for null, removes) an environment variable for the lifetime of the object.
 class ScopedEnvironment {
 public:
@@ -81,21 +68,28 @@ std::string CurrentTestName()
     return std::string(info->test_suite_name()) + "." + info->name();
 }
 
-ChildRun RunTestInFreshProcess(const std::string& testName, DWORD timeoutMilliseconds)
+std::wstring OwnExecutable()
 {
-    ChildRun run;
-    const std::wstring executable = OwnExecutable();
-    if (executable.empty() || testName.empty())
-        return run;
+    std::vector<wchar_t> path(MAX_PATH);
+    for (;;) {
+        const DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+        if (length == 0)
+            return std::wstring();
+        if (length < path.size())
+            return std::wstring(path.data(), length);
+        path.resize(path.size() * 2);
+    }
+}
 
+ProcessRun RunProcess(const std::wstring& executable, std::wstring commandLine, DWORD timeoutMilliseconds)
+{
+    ProcessRun run;
     SECURITY_ATTRIBUTES inheritable{sizeof(SECURITY_ATTRIBUTES), nullptr, TRUE};
     HANDLE readEnd = nullptr, writeEnd = nullptr;
     if (!CreatePipe(&readEnd, &writeEnd, &inheritable, 0))
         return run;
     SetHandleInformation(readEnd, HANDLE_FLAG_INHERIT, 0);
 
-    std::wstring commandLine = L"\"" + executable + L"\" --gtest_filter=" + Widen(testName) +
-                               L" --gtest_also_run_disabled_tests --gtest_color=no";
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
     startup.dwFlags = STARTF_USESTDHANDLES;
@@ -103,12 +97,8 @@ ChildRun RunTestInFreshProcess(const std::string& testName, DWORD timeoutMillise
     startup.hStdOutput = writeEnd;
     startup.hStdError = writeEnd;
     PROCESS_INFORMATION process{};
-    BOOL created;
-    {
-        ScopedEnvironment marker(kChildVariable, Widen(testName).c_str());
-        created = CreateProcessW(executable.c_str(), &commandLine[0], nullptr, nullptr, TRUE, 0, nullptr, nullptr,
-                                 &startup, &process);
-    }
+    const BOOL created = CreateProcessW(executable.c_str(), &commandLine[0], nullptr, nullptr, TRUE, 0, nullptr,
+                                        nullptr, &startup, &process);
     CloseHandle(writeEnd);
     if (!created) {
         CloseHandle(readEnd);
@@ -133,6 +123,29 @@ ChildRun RunTestInFreshProcess(const std::string& testName, DWORD timeoutMillise
     CloseHandle(process.hThread);
     CloseHandle(process.hProcess);
     CloseHandle(readEnd);
+    return run;
+}
+
+ChildRun RunTestInFreshProcess(const std::string& testName, DWORD timeoutMilliseconds)
+{
+    ChildRun run;
+    const std::wstring executable = OwnExecutable();
+    if (executable.empty() || testName.empty())
+        return run;
+
+    const std::wstring commandLine = L"\"" + executable + L"\" --gtest_filter=" + Widen(testName) +
+                                     L" --gtest_also_run_disabled_tests --gtest_color=no";
+    ProcessRun process;
+    {
+        ScopedEnvironment marker(kChildVariable, Widen(testName).c_str());
+        process = RunProcess(executable, commandLine, timeoutMilliseconds);
+    }
+    run.started = process.started;
+    run.timedOut = process.timedOut;
+    run.exitCode = process.exitCode;
+    run.output = process.output;
+    if (!run.started)
+        return run;
 
     const bool reportedOk = run.output.find("[       OK ] " + testName) != std::string::npos;
     run.testRan = reportedOk || run.output.find("[  FAILED  ] " + testName) != std::string::npos;

@@ -5,6 +5,7 @@
 //                                   it does nothing and the test body runs
 //   RunTestInFreshProcess           non-asserting: run any test (DISABLED_ ones too) in a child
 //   IsFreshProcessChild             true inside such a child
+//   RunProcess / OwnExecutable      any program run with its output collected and a time-out
 // The child is told by the environment variable ZOTEST_FRESH_CHILD (the test's full name).
 #pragma once
 
@@ -22,6 +23,18 @@ struct ChildRun {
     DWORD exitCode = 0;
     std::string output;     // the child's stdout and stderr
 };
+
+// Any program run to its end or killed after the time-out, its stdout and stderr collected.
+struct ProcessRun {
+    bool started = false;
+    bool timedOut = false;
+    DWORD exitCode = 0;
+    std::string output;
+};
+// `commandLine` starts with the program's own (quoted) name, as CreateProcess expects.
+ProcessRun RunProcess(const std::wstring& executable, std::wstring commandLine, DWORD timeoutMilliseconds);
+// The full path of the running executable.
+std::wstring OwnExecutable();
 
 // `testName` is "Suite.Name" as gtest prints it.
 ChildRun RunTestInFreshProcess(const std::string& testName, DWORD timeoutMilliseconds = 120000);

@@ -33,3 +33,4 @@
 #include "lists/ZoTreeFile.h"
 #include "lists/ZoTreeListCtrlItem.h"
 #include "frames/ZoMenuXP.h"
+#include "frames/ZoFrameWnd.h"

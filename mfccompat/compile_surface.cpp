@@ -1337,6 +1337,12 @@ protected:
     { CFrameWnd::OnInitMenuPopup(pPopupMenu, nIndex, bSysMenu); }
     afx_msg LRESULT OnMenuChar(UINT nChar, UINT nFlags, CMenu* pMenu)
     { return CFrameWnd::OnMenuChar(nChar, nFlags, pMenu); }
+    // The skinned frame replaces the non-client area through the frame class's inherited handlers.
+    afx_msg void OnNcCalcSize(BOOL bCalcValidRects, NCCALCSIZE_PARAMS* lpncsp)
+    { CFrameWnd::OnNcCalcSize(bCalcValidRects, lpncsp); }
+    afx_msg void OnNcPaint() { CFrameWnd::OnNcPaint(); }
+    afx_msg LRESULT OnNcHitTest(CPoint point) { return CFrameWnd::OnNcHitTest(point); }
+    afx_msg void OnNcLButtonDblClk(UINT nHitTest, CPoint point) { CFrameWnd::OnNcLButtonDblClk(nHitTest, point); }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -1348,6 +1354,10 @@ BEGIN_MESSAGE_MAP(SurfaceFrame, CFrameWnd)
     ON_WM_SIZE()
     ON_WM_INITMENUPOPUP()
     ON_WM_MENUCHAR()
+    ON_WM_NCCALCSIZE()
+    ON_WM_NCPAINT()
+    ON_WM_NCHITTEST()
+    ON_WM_NCLBUTTONDBLCLK()
 END_MESSAGE_MAP()
 
 inline void UseFrames(CWnd* wnd)

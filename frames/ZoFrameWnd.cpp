@@ -84,6 +84,7 @@ BEGIN_MESSAGE_MAP(CZoFrameWnd, CFrameWnd)
     ON_WM_DESTROY()
     ON_WM_NCCALCSIZE()
     ON_WM_NCPAINT()
+    ON_MESSAGE(WM_PRINT, &CZoFrameWnd::OnPrint)
     ON_WM_NCHITTEST()
     ON_WM_NCLBUTTONDBLCLK()
     ON_WM_SIZE()
@@ -210,6 +211,24 @@ void CZoFrameWnd::OnNcPaint()
 {
     if (!m_pBorderSkin)
         return;
+    CWindowDC dc(this);
+    _drawBorder(dc);
+}
+
+LRESULT CZoFrameWnd::OnPrint(WPARAM wParam, LPARAM lParam)
+{
+    if (!m_pBorderSkin || !wParam || !(lParam & PRF_NONCLIENT))
+        return Default();
+    CDC* pDC = CDC::FromHandle(reinterpret_cast<HDC>(wParam));
+    const int saved = pDC->SaveDC();
+    _drawBorder(*pDC);
+    pDC->RestoreDC(saved);
+    // The client part stays the platform's.
+    return DefWindowProc(WM_PRINT, wParam, lParam & ~PRF_NONCLIENT);
+}
+
+void CZoFrameWnd::_drawBorder(CDC& dc)
+{
     CRect window;
     GetWindowRect(&window);
     CRect client;
@@ -218,7 +237,6 @@ void CZoFrameWnd::OnNcPaint()
     client.OffsetRect(-window.left, -window.top);
     window.OffsetRect(-window.left, -window.top);
 
-    CWindowDC dc(this);
     dc.ExcludeClipRect(&client);
     const int unit = m_pBorderSkin->GetWidth() / kZoFrameSkinColumns;
     ZoFrameCell cells[kZoFrameCellCount];

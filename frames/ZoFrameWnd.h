@@ -81,6 +81,8 @@ protected:
     afx_msg void OnDestroy();
     afx_msg void OnNcCalcSize(BOOL bCalcValidRects, NCCALCSIZE_PARAMS* lpncsp);
     afx_msg void OnNcPaint();
+    // WM_PRINT with PRF_NONCLIENT draws the border into the given DC too (screenshots, printing).
+    afx_msg LRESULT OnPrint(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnNcHitTest(CPoint point);
     afx_msg void OnNcLButtonDblClk(UINT nHitTest, CPoint point);
     afx_msg void OnSize(UINT nType, int cx, int cy);
@@ -94,6 +96,8 @@ protected:
 
 private:
     void _setBorderFor(E_ZoMonitorSize size);
+    // The ten border cells into `dc`, whose origin is the window's top-left corner.
+    void _drawBorder(CDC& dc);
     void _deleteSkin();
 
     CZoFrameWnd(const CZoFrameWnd&);

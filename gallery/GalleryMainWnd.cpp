@@ -109,7 +109,7 @@ bool CGalleryMainWnd::SaveScreenshots(const CString& folder)
         CString name = GetPageTitle(i);
         name.MakeLower();
         name.Replace(L' ', L'_');
-        ok = SaveWindowClientBitmap(m_hWnd, folder + L"\\" + name + L".bmp") && ok;
+        ok = SaveWindowBitmap(m_hWnd, folder + L"\\" + name + L".bmp") && ok;
     }
     return ok;
 }

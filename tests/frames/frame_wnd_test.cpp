@@ -238,6 +238,15 @@ TEST_F(FrameTest, BorderShowsTheSkinsCells)
         // The upper side pieces, row 1 of the skin.
         ZOTEST_EXPECT_PIXEL(dib, d, kUnit + kUnit / 2, skin.Pixel(d, kUnit + kUnit / 2));
     }
+
+    // WM_PRINT with PRF_NONCLIENT draws the same border.
+    const zotest::Dib printed = zotest::RenderWindow(frame->m_hWnd, zotest::RenderPath::Print);
+    int different = 0;
+    for (int y = 0; y < h; ++y)
+        for (int x = 0; x < w; ++x)
+            if ((x < b || y < b || x >= w - b || y >= h - b) && printed.Pixel(x, y) != dib.Pixel(x, y))
+                ++different;
+    EXPECT_EQ(different, 0);
 }
 
 TEST_F(FrameTest, RegisteredWindowsFollowTheFramesSize)

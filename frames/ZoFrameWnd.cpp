@@ -78,8 +78,8 @@ void ZoFrameBorderCells(int width, int height, int unit, ZoFrameCell (&cells)[kZ
 IMPLEMENT_DYNCREATE(CZoFrameWnd, CFrameWnd)
 
 BEGIN_MESSAGE_MAP(CZoFrameWnd, CFrameWnd)
-    ON_MESSAGE(WM_APP + 2, &CZoFrameWnd::OnMsgGetCurrentZoTheme)
-    ON_MESSAGE(WM_APP + 3, &CZoFrameWnd::OnMsgGetCurrentMonitorSize)
+    ON_MESSAGE(ZoMsg_GetCurrentTheme, &CZoFrameWnd::OnMsgGetCurrentZoTheme)
+    ON_MESSAGE(ZoMsg_GetCurrentMonitorSize, &CZoFrameWnd::OnMsgGetCurrentMonitorSize)
     ON_WM_CREATE()
     ON_WM_DESTROY()
     ON_WM_NCCALCSIZE()

@@ -69,7 +69,8 @@ public:
         pFrame->m_button.SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.GetSafeHdc()), PRF_CLIENT);
         const bool painted = dc.GetPixel(60, 14) != RGB(1, 2, 3);
         dc.SelectObject(pOld);
-        m_nCheckResult = (m_bLibrary && pFrame->GetBorderWidth() > 0 && client.Width() == 320 - 2 * pFrame->GetBorderWidth() && painted) ? 0 : 1;
+        const int border = pFrame->GetBorderWidth();
+        m_nCheckResult = (m_bLibrary && border > 0 && client.Width() == 320 - 2 * border && painted) ? 0 : 1;
         m_pMainWnd = NULL;
         pFrame->DestroyWindow();
         return FALSE;

@@ -71,6 +71,7 @@ BEGIN_MESSAGE_MAP(CZoDialog, CDialog)
     ON_WM_CREATE()
     ON_WM_DESTROY()
     ON_WM_NCACTIVATE()
+    ON_WM_NCCALCSIZE()
     ON_WM_NCPAINT()
     ON_WM_NCMOUSEMOVE()
     ON_WM_NCMOUSELEAVE()
@@ -414,6 +415,20 @@ void CZoDialog::_adjustDimAccordingToMonitor()
     }
     if (!(GetStyle() & WS_CHILD))
         MoveWindow(&scaled, TRUE);
+}
+
+void CZoDialog::OnNcCalcSize(BOOL bCalcValidRects, NCCALCSIZE_PARAMS* lpncsp)
+{
+    const CRect window = lpncsp->rgrc[0];
+    CDialog::OnNcCalcSize(bCalcValidRects, lpncsp);
+    if (!m_bResourcesLoaded)
+        return;
+    // The platform's frame is kept where it leaves room for the painted one.
+    CRect client = lpncsp->rgrc[0];
+    client.OffsetRect(-window.left, -window.top);
+    client = ZoDialogClientInsideFrame(client, window.Width(), window.Height(), m_border);
+    client.OffsetRect(window.left, window.top);
+    lpncsp->rgrc[0] = client;
 }
 
 // --- Cursor and the classic frame ------------------------------------------------------------------

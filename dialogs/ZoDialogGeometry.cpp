@@ -1,5 +1,7 @@
 #include "dialogs/ZoDialogGeometry.h"
 
+#include <algorithm>
+
 namespace ZoControls {
 
 namespace {
@@ -140,6 +142,19 @@ E_ZoSysButtonAction ZoDialogReleaseAction(E_ZoSysButtonRow pressed, E_ZoSysButto
     default:
         return ZoSysAction_None;
     }
+}
+
+CRect ZoDialogClientInsideFrame(const CRect& proposed, int windowWidth, int windowHeight, const BorderDim& border)
+{
+    CRect client = proposed;
+    client.left = std::max<int>(client.left, border.left);
+    client.top = std::max<int>(client.top, border.top + border.caption);
+    client.right = std::min<int>(client.right, windowWidth - border.right);
+    client.bottom = std::min<int>(client.bottom, windowHeight - border.bottom);
+    // A window too small for its frame gets an empty client area, never an inverted one.
+    client.right = std::max<int>(client.right, client.left);
+    client.bottom = std::max<int>(client.bottom, client.top);
+    return client;
 }
 
 } // namespace ZoControls

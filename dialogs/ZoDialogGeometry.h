@@ -103,4 +103,10 @@ enum E_ZoSysButtonAction
 ZOCTRL_API E_ZoSysButtonAction ZoDialogReleaseAction(E_ZoSysButtonRow pressed, E_ZoSysButtonRow released,
                                                      bool zoomed, bool iconic);
 
+// The client rectangle (window coordinates) the platform proposes, kept inside the frame and
+// caption the dialog paints: where the platform's own frame is thinner than the painted one (a
+// smaller tool-window caption), the client edges move in, else they stay.
+ZOCTRL_API CRect ZoDialogClientInsideFrame(const CRect& proposed, int windowWidth, int windowHeight,
+                                           const BorderDim& border);
+
 } // namespace ZoControls

@@ -187,7 +187,13 @@ void CDq3MMessageBox::_layout()
         m_message.MoveWindow(&m_rcText);
     }
     if (m_pDoNotShow && m_chkDoNotShow.GetSafeHwnd())
+    {
         m_chkDoNotShow.MoveWindow(&layout.check);
+        // Level with the buttons, the check box may run under them on a short message: the
+        // buttons stay on top, seen and clickable.
+        m_chkDoNotShow.ModifyStyle(0, WS_CLIPSIBLINGS);
+        m_chkDoNotShow.SetWindowPos(&wndBottom, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    }
 
     // The client area becomes width x height; the frame keeps its size.
     CRect window;

@@ -157,6 +157,19 @@ TEST(SysButtonActions, ReleaseOverThePressedButton)
             << c.pressed << " " << c.released;
 }
 
+TEST(DialogClientArea, KeptInsideThePaintedFrame)
+{
+    const BorderDim border = ZoDialogBorders(WS_CAPTION, 1); // 5-pixel borders, 22-pixel caption
+    // A thinner platform frame moves in; a thicker one stays.
+    EXPECT_EQ(CRect(5, 27, 295, 195), ZoDialogClientInsideFrame(CRect(3, 20, 297, 197), 300, 200, border));
+    EXPECT_EQ(CRect(8, 30, 290, 190), ZoDialogClientInsideFrame(CRect(8, 30, 290, 190), 300, 200, border));
+    // Too small a window: an empty client area at the frame's inner corner.
+    const CRect tiny = ZoDialogClientInsideFrame(CRect(3, 20, 7, 21), 10, 20, border);
+    EXPECT_TRUE(tiny.IsRectEmpty());
+    EXPECT_GE(tiny.right, tiny.left);
+    EXPECT_GE(tiny.bottom, tiny.top);
+}
+
 TEST(ClassicFrame, Versions)
 {
     EXPECT_TRUE(ZoIsClassicFrameVersion(5, 1, VER_NT_WORKSTATION));  // XP

@@ -476,9 +476,7 @@ void CZoDialog::_classicAfterMouse(UINT /*message*/)
     if (!::IsWindow(m_hWnd))
         return;
     _redrawCaptionBar();
-    CRect window;
-    GetWindowRect(&window);
-    window.OffsetRect(-window.left, -window.top);
+    const CRect window = _windowAtOrigin();
     CRgn frame;
     CRgn client;
     frame.CreateRectRgnIndirect(&window);

@@ -117,6 +117,8 @@ private:
     // The caption bar straight to the window.
     void _redrawCaptionBar();
     void _fillBackground(CDC& dc, const CRect& rect);
+    // The window rectangle moved to the origin.
+    CRect _windowAtOrigin() const;
     // The client rectangle in window coordinates, as the platform placed it.
     CRect _clientInWindow() const;
 

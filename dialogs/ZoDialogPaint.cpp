@@ -12,6 +12,14 @@ namespace {
 const COLORREF kTransparent = RGB(255, 0, 255);
 } // namespace
 
+CRect CZoDialog::_windowAtOrigin() const
+{
+    CRect window;
+    ::GetWindowRect(m_hWnd, &window);
+    window.OffsetRect(-window.left, -window.top);
+    return window;
+}
+
 CRect CZoDialog::_clientInWindow() const
 {
     CRect window;
@@ -89,9 +97,7 @@ void CZoDialog::_redrawCaptionBar()
 
 void CZoDialog::OnNcPaint()
 {
-    CRect window;
-    GetWindowRect(&window);
-    window.OffsetRect(-window.left, -window.top);
+    const CRect window = _windowAtOrigin();
     if (window.IsRectEmpty())
         return;
     {
@@ -107,9 +113,7 @@ void CZoDialog::PaintFrame()
 {
     if (!::IsWindow(m_hWnd) || (GetStyle() & WS_CAPTION) != WS_CAPTION)
         return;
-    CRect window;
-    GetWindowRect(&window);
-    window.OffsetRect(-window.left, -window.top);
+    const CRect window = _windowAtOrigin();
     if (window.IsRectEmpty())
         return;
     CWindowDC windowDC(this);

@@ -34,15 +34,21 @@ int showBox(CWnd* parent, UINT type, UINT seconds, bool* doNotShow, const CStrin
     return static_cast<int>(box.DoModal());
 }
 
+// The message box for a format (or a string resource's format) applied to `args`.
+int showFormatted(CWnd* parent, UINT type, UINT seconds, bool* doNotShow, const wchar_t* format, va_list args)
+{
+    return showBox(parent, type, seconds, doNotShow, formatMessage(format, args));
+}
+
 } // namespace
 
 int ZoMessageBox(CWnd* parent, UINT type, const wchar_t* format, ...)
 {
     va_list args;
     va_start(args, format);
-    const CString message = formatMessage(format, args);
+    const int result = showFormatted(parent, type, kNoTimeout, NULL, format, args);
     va_end(args);
-    return showBox(parent, type, kNoTimeout, NULL, message);
+    return result;
 }
 
 int ZoMessageBox(CWnd* parent, UINT type, UINT formatId, ...)
@@ -50,18 +56,18 @@ int ZoMessageBox(CWnd* parent, UINT type, UINT formatId, ...)
     const CString format = loadFormat(formatId);
     va_list args;
     va_start(args, formatId);
-    const CString message = formatMessage(format, args);
+    const int result = showFormatted(parent, type, kNoTimeout, NULL, format, args);
     va_end(args);
-    return showBox(parent, type, kNoTimeout, NULL, message);
+    return result;
 }
 
 int TimedMessageBox(CWnd* parent, UINT seconds, UINT type, const wchar_t* format, ...)
 {
     va_list args;
     va_start(args, format);
-    const CString message = formatMessage(format, args);
+    const int result = showFormatted(parent, type, seconds, NULL, format, args);
     va_end(args);
-    return showBox(parent, type, seconds, NULL, message);
+    return result;
 }
 
 int TimedMessageBox(CWnd* parent, UINT seconds, UINT type, UINT formatId, ...)
@@ -69,18 +75,18 @@ int TimedMessageBox(CWnd* parent, UINT seconds, UINT type, UINT formatId, ...)
     const CString format = loadFormat(formatId);
     va_list args;
     va_start(args, formatId);
-    const CString message = formatMessage(format, args);
+    const int result = showFormatted(parent, type, seconds, NULL, format, args);
     va_end(args);
-    return showBox(parent, type, seconds, NULL, message);
+    return result;
 }
 
 int ZoMessageBoxDispensable(CWnd* parent, UINT type, bool* doNotShow, const wchar_t* format, ...)
 {
     va_list args;
     va_start(args, format);
-    const CString message = formatMessage(format, args);
+    const int result = showFormatted(parent, type, kNoTimeout, doNotShow, format, args);
     va_end(args);
-    return showBox(parent, type, kNoTimeout, doNotShow, message);
+    return result;
 }
 
 int ZoMessageBoxDispensable(CWnd* parent, UINT type, bool* doNotShow, UINT textId, ...)

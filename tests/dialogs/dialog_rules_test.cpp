@@ -1,5 +1,5 @@
 // The skinned dialog's rules called with numbers: frame sizes, system-button places per size
-// class, hit codes, button states and actions, the classic-frame versions.
+// class, hit codes, button states, the client area inside the frame, the classic-frame versions.
 #include <gtest/gtest.h>
 
 #include "dialogs/ZoDialog.h"
@@ -61,13 +61,6 @@ TEST_P(SysButtonPlaces, CloseMaximizeMinimizeFromTheRight)
     EXPECT_EQ(CRect(300 - b - 2 * c, top, 300 - b - c, top + c), rects[ZoSysButton_Restore]);
     EXPECT_TRUE(rects[ZoSysButton_Maximize].IsRectEmpty());
 
-    // Hit codes of the places: close answers as maximize does.
-    const CPoint inClose = rects[ZoSysButton_Close].CenterPoint();
-    const CPoint inRestore = rects[ZoSysButton_Restore].CenterPoint();
-    const CPoint inMinimize = rects[ZoSysButton_Minimize].CenterPoint();
-    EXPECT_EQ(HTMAXBUTTON, ZoDialogHitTest(HTCAPTION, inClose, rects, kBothBoxes, 300, 22));
-    EXPECT_EQ(HTMAXBUTTON, ZoDialogHitTest(HTCAPTION, inRestore, rects, kBothBoxes, 300, 22));
-    EXPECT_EQ(HTMINBUTTON, ZoDialogHitTest(HTNOWHERE, inMinimize, rects, kBothBoxes, 300, 22));
 }
 
 INSTANTIATE_TEST_SUITE_P(SizeClasses, SysButtonPlaces,
@@ -101,21 +94,6 @@ TEST(DialogHitTest, PlatformAnswersKeptOrReplaced)
     EXPECT_EQ(HTCAPTION, ZoDialogHitTest(HTCAPTION, inClose, rects, 0, 300, 22));
 }
 
-TEST(SysButtonAt, HitCodesToRows)
-{
-    const BorderDim border = ZoDialogBorders(WS_CAPTION, 0);
-    CRect rects[ZoSysButton_Count];
-    ZoDialogSysButtonRects(300, border, 16, 16, kBothBoxes, false, rects);
-    const CPoint inClose = rects[ZoSysButton_Close].CenterPoint();
-    const CPoint inMaximize = rects[ZoSysButton_Maximize].CenterPoint();
-    EXPECT_EQ(ZoSysButton_Close, ZoDialogSysButtonAt(inClose, HTMAXBUTTON, rects, kBothBoxes));
-    EXPECT_EQ(ZoSysButton_Maximize, ZoDialogSysButtonAt(inMaximize, HTMAXBUTTON, rects, kBothBoxes));
-    EXPECT_EQ(ZoSysButton_None, ZoDialogSysButtonAt(inMaximize, HTMAXBUTTON, rects, WS_SYSMENU | WS_MINIMIZEBOX));
-    EXPECT_EQ(ZoSysButton_Minimize, ZoDialogSysButtonAt(inMaximize, HTMINBUTTON, rects, kBothBoxes));
-    EXPECT_EQ(ZoSysButton_None, ZoDialogSysButtonAt(inMaximize, HTMINBUTTON, rects, WS_SYSMENU));
-    EXPECT_EQ(ZoSysButton_None, ZoDialogSysButtonAt(inClose, HTCAPTION, rects, kBothBoxes));
-}
-
 TEST(SysButtonStates, HoverPressAndRest)
 {
     int states[ZoSysButton_Count] = {9, 9, 9, 9};
@@ -133,28 +111,6 @@ TEST(SysButtonStates, HoverPressAndRest)
     ZoDialogStatesOnMove(kBothBoxes, ZoSysButton_Maximize, ZoSysButton_Close, states);
     EXPECT_EQ(0, states[ZoSysButton_Maximize]);
     EXPECT_EQ(0, states[ZoSysButton_Close]);
-}
-
-TEST(SysButtonActions, ReleaseOverThePressedButton)
-{
-    struct Case
-    {
-        E_ZoSysButtonRow pressed, released;
-        bool zoomed, iconic;
-        E_ZoSysButtonAction action;
-    };
-    const Case cases[] = {
-        {ZoSysButton_Close, ZoSysButton_Close, false, false, ZoSysAction_Close},
-        {ZoSysButton_Maximize, ZoSysButton_Maximize, false, false, ZoSysAction_Maximize},
-        {ZoSysButton_Maximize, ZoSysButton_Maximize, true, false, ZoSysAction_Restore},
-        {ZoSysButton_Minimize, ZoSysButton_Minimize, false, false, ZoSysAction_Minimize},
-        {ZoSysButton_Minimize, ZoSysButton_Minimize, false, true, ZoSysAction_Restore},
-        {ZoSysButton_Close, ZoSysButton_Maximize, false, false, ZoSysAction_None},
-        {ZoSysButton_None, ZoSysButton_None, false, false, ZoSysAction_None},
-    };
-    for (const Case& c : cases)
-        EXPECT_EQ(c.action, ZoDialogReleaseAction(c.pressed, c.released, c.zoomed, c.iconic))
-            << c.pressed << " " << c.released;
 }
 
 TEST(DialogClientArea, KeptInsideThePaintedFrame)

@@ -2,6 +2,7 @@
 #include <afxwin.h>
 
 #include "ButtonsPage.h"
+#include "DialogsPage.h"
 #include "EditsPage.h"
 #include "GalleryPage.h"
 #include "ListsPage.h"
@@ -27,6 +28,7 @@ const GalleryPageEntry kPages[] = {
     {L"Sliders", &CreateGalleryPage<CSlidersPage>},
     {L"Tabs", &CreateGalleryPage<CTabsPage>},
     {L"Lists", &CreateGalleryPage<CListsPage>},
+    {L"Dialogs", &CreateGalleryPage<CDialogsPage>},
 };
 } // namespace
 

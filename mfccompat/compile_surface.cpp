@@ -10,6 +10,8 @@
 //
 // A block inside `#if 0` names what the layer does not offer yet.
 
+#include <stdarg.h>
+
 #include <afxwin.h>
 #include <afxcmn.h>
 #include <afxext.h>
@@ -1010,10 +1012,53 @@ protected:
     CStatic m_message;
 };
 
-inline void UseDialog(SurfaceDialog& dialog)
+// A dialog built on CDialog's default constructor, filling in the template and owner itself, as
+// a class between CDialog and the host's dialogs does.
+class SurfaceSkinnedDialog : public CDialog
+{
+public:
+    SurfaceSkinnedDialog(UINT id, CWnd* parent) : CDialog()
+    {
+        m_lpszTemplateName = MAKEINTRESOURCEW(id);
+        m_nIDHelp = id;
+        m_pParentWnd = parent;
+    }
+protected:
+    BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override
+    { return CDialog::OnWndMsg(message, wParam, lParam, pResult); }
+    afx_msg LRESULT OnSetText(WPARAM, LPARAM) { return Default(); }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(SurfaceSkinnedDialog, CDialog)
+    ON_MESSAGE(WM_SETTEXT, &SurfaceSkinnedDialog::OnSetText)
+END_MESSAGE_MAP()
+
+inline void UseDialog(SurfaceDialog& dialog, CWnd* wnd, CList<CWnd*>& controls, va_list args)
 {
     (void)dialog.DoModal();
     dialog.EndDialog(IDOK);
+    (void)wnd->SetWindowPos(&CWnd::wndBottom, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    CWindowDC windowDC(wnd);
+    (void)windowDC.ExcludeClipRect(0, 0, 5, 5);
+    (void)windowDC.IntersectClipRect(0, 0, 5, 5);
+    CRect rect(0, 0, 5, 5);
+    windowDC.Draw3dRect(&rect, RGB(1, 2, 3), RGB(1, 2, 3));
+    (void)windowDC.SetTextAlign(TA_LEFT | TA_TOP);
+    CString text;
+    (void)windowDC.GetTextExtent(text);
+    (void)windowDC.TextOut(0, 0, text);
+    CRgn region;
+    (void)region.CreateRectRgnIndirect(&rect);
+    CBitmap bitmap;
+    (void)bitmap.Attach(static_cast<HBITMAP>(NULL));
+    controls.AddTail(wnd);
+    (void)controls.RemoveHead();
+    (void)controls.IsEmpty();
+    text.FormatV(L"%d", args);
+    text = AfxGetAppName();
+    (void)AfxFindResourceHandle(MAKEINTRESOURCEW(801), RT_BITMAP);
+    (void)AfxGetMainWnd();
 }
 
 // ---------------------------------------------------------------------------------------

@@ -402,7 +402,10 @@ LRESULT CZoListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     // Column formats read during a paint hold for that paint only.
     const bool painting = message == WM_PAINT || message == WM_PRINTCLIENT;
     if (painting && m_nPaintDepth++ == 0)
+    {
         m_paintColumnFormats.clear();
+        m_paintCells.clear();
+    }
     const LRESULT result = CListCtrl::WindowProc(message, wParam, lParam);
     if (painting)
         --m_nPaintDepth;
@@ -517,6 +520,36 @@ DWORD_PTR CZoListCtrl::_itemData(int item) const
     return _ask(LVM_GETITEMW, 0, (LPARAM)&lvItem) ? (DWORD_PTR)lvItem.lParam : 0;
 }
 
+void CZoListCtrl::_subItemRects(int item, int subItem, CRect& label, CRect& icon)
+{
+    // The list asks its header for a column's place with a sent message, twice a cell. During a
+    // paint the cells of a column beyond the first (whose label depends on the row's indent
+    // and images) lie where that column's first drawn cell does, moved as far as their row is.
+    CPoint at(0, 0);
+    const bool painting = m_nPaintDepth > 0 && subItem > 0 &&
+                          _ask(LVM_GETITEMPOSITION, (WPARAM)item, (LPARAM)(POINT*)&at) != FALSE;
+    if (painting && subItem < (int)m_paintCells.size() && m_paintCells[subItem].known)
+    {
+        const PaintCell& first = m_paintCells[subItem];
+        label = first.label + (at - first.at);
+        icon = first.icon + (at - first.at);
+        return;
+    }
+    label.SetRect(LVIR_LABEL, subItem, 0, 0);
+    icon.SetRect(LVIR_ICON, subItem, 0, 0);
+    const bool gotLabel = _ask(LVM_GETSUBITEMRECT, (WPARAM)item, (LPARAM)(RECT*)&label) != FALSE;
+    const bool gotIcon = _ask(LVM_GETSUBITEMRECT, (WPARAM)item, (LPARAM)(RECT*)&icon) != FALSE;
+    if (!painting || !gotLabel || !gotIcon)
+        return;
+    if (subItem >= (int)m_paintCells.size())
+        m_paintCells.resize(subItem + 1);
+    PaintCell& first = m_paintCells[subItem];
+    first.known = true;
+    first.at = at;
+    first.label = label;
+    first.icon = icon;
+}
+
 bool CZoListCtrl::_columnFormat(int column, int& format)
 {
     // The list asks its header for a column's format with a sent message; a paint would ask
@@ -624,10 +657,8 @@ void CZoListCtrl::DrawSubItem(CDC& dc, int item, int subItem)
 {
     // Every question goes straight to the list's and the header's procedures: a paint asks
     // them for every cell, and sent messages would pass the thread's message hooks each time.
-    CRect label(LVIR_LABEL, subItem, 0, 0);
-    CRect icon(LVIR_ICON, subItem, 0, 0);
-    _ask(LVM_GETSUBITEMRECT, (WPARAM)item, (LPARAM)(RECT*)&label);
-    _ask(LVM_GETSUBITEMRECT, (WPARAM)item, (LPARAM)(RECT*)&icon);
+    CRect label, icon;
+    _subItemRects(item, subItem, label, icon);
     const CRect cell(ZoCellRect(label, icon));
 
     LVITEMW lvItem = {};

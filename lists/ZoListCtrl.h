@@ -109,6 +109,8 @@ protected:
     CString _itemText(int item, int subItem) const;
     DWORD_PTR _itemData(int item) const;
     void _setItemData(int item, DWORD_PTR data);
+    // LVM_GETSUBITEMRECT's LVIR_LABEL and LVIR_ICON rectangles of a cell.
+    void _subItemRects(int item, int subItem, CRect& label, CRect& icon);
     // LVM_GETCOLUMN's format of `column`; false when there is no such column.
     bool _columnFormat(int column, int& format);
     bool _isReport() const;
@@ -166,6 +168,15 @@ protected:
     };
     int m_nPaintDepth;
     std::vector<int> m_paintColumnFormats;
+    // While WM_PAINT or WM_PRINTCLIENT runs: by column, the first cell drawn and its row's place.
+    struct PaintCell
+    {
+        bool known = false;
+        CPoint at;
+        CRect label;
+        CRect icon;
+    };
+    std::vector<PaintCell> m_paintCells;
 
 private:
     CZoListCtrl(const CZoListCtrl&);

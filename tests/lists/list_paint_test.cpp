@@ -94,6 +94,21 @@ TEST_F(ListPaintTest, CellTextFollowsItsColumnsAlignment)
     EXPECT_EQ(inkLeft(), left);
 }
 
+// Cell places are read afresh by every paint: a column made wider draws its grid line further.
+TEST_F(ListPaintTest, CellsFollowAColumnWidthChangedBetweenPaints)
+{
+    CZoListCtrl& list = MakeList(0, kRows);
+    const CRect before = Label(2, 1);
+    ZOTEST_EXPECT_PIXEL(zotest::RenderClient(list.GetSafeHwnd()), before.right - 1, before.CenterPoint().y,
+                        Slot(kGrid));
+    list.SetColumnWidth(1, 160);
+    const CRect after = Label(2, 1);
+    ASSERT_GT(after.right, before.right + 20);
+    const zotest::Dib dib = zotest::RenderClient(list.GetSafeHwnd());
+    ZOTEST_EXPECT_PIXEL(dib, after.right - 1, after.CenterPoint().y, Slot(kGrid));
+    ZOTEST_EXPECT_PIXEL(dib, before.right - 1, before.CenterPoint().y, Slot(kBackground));
+}
+
 TEST_F(ListPaintTest, ColumnZeroDrawsTheSmallImageAndCheckBoxes)
 {
     CZoListCtrl& list = MakeList(0, kRows);

@@ -60,6 +60,9 @@ inline void UseCoreTypes(CObject* object, CString& text)
     buffer[0] = 0;
     text.ReleaseBuffer();
     (void)text.GetBuffer(4);
+    Pin<LPWSTR (CString::*)(int)>(&CString::GetBufferSetLength);
+    (void)text.GetBufferSetLength(8);
+    text.ReleaseBuffer();
     text.ReleaseBuffer(0);
     LPCWSTR raw = text;
     (void)raw;
@@ -86,6 +89,8 @@ inline void UseCoreTypes(CObject* object, CString& text)
     Pin<void (CRect::*)(const RECT&)>(&CRect::operator=);
     Pin<BOOL (CRect::*)(const RECT&) const>(&CRect::operator==);
     Pin<CSize (CPoint::*)(POINT) const>(&CPoint::operator-);
+    Pin<CRect (CRect::*)(SIZE) const>(&CRect::operator+);
+    Pin<void (CRect::*)(int, int, int, int)>(&CRect::SetRect);
     Pin<BOOL (CSize::*)(SIZE) const>(&CSize::operator==);
 
     CRect rect(0, 0, 10, 10);

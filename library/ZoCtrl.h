@@ -32,4 +32,7 @@
 #include "lists/ZoListCtrl.h"
 #include "lists/ZoTreeFile.h"
 #include "lists/ZoTreeListCtrlItem.h"
+#include "lists/ZoTreeRowIndex.h"
+#include "lists/ZoTreeSort.h"
+#include "lists/ZoTreeListCtrl.h"
 #include "frames/ZoMenuXP.h"

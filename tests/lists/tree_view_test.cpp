@@ -411,6 +411,28 @@ TEST_F(TreeTest, DateColumnsSortByTheTreesDateRules)
     EXPECT_EQ(Rows(), "x y z");
 }
 
+// --- Painting ------------------------------------------------------------------------------------
+
+// Bold rows draw their first column with the bold font: the same text covers more pixels. Every
+// text stands on the background colour, selected rows included.
+TEST_F(TreeTest, BoldRowsAndTextBackgrounds)
+{
+    MakeTree();
+    Add(0, L"Same text");
+    Add(0, L"Same text");
+    tree_->SetItemBold(0, TRUE);
+    tree_->SetItemFocus(1);
+    const zotest::Dib dib = zotest::RenderClient(tree_->GetSafeHwnd());
+    CRect first, second;
+    tree_->GetSubItemRect(0, 0, LVIR_LABEL, first);
+    tree_->GetSubItemRect(1, 0, LVIR_LABEL, second);
+    const int bold = controltest::CountPixels(dib, first, Slot(42));
+    const int plain = controltest::CountPixels(dib, second, Slot(42));
+    EXPECT_GT(plain, 0);
+    EXPECT_GT(bold, plain);
+    EXPECT_GT(controltest::CountPixels(dib, second, Slot(38)), 0); // behind the selected row's text
+}
+
 // --- Deleting ------------------------------------------------------------------------------------
 
 TEST_F(TreeTest, DeletingTheLastChildCanTakeEmptyParentsAlong)

@@ -90,7 +90,7 @@ ZO_IMPLEMENT_MENUXP_FORWARDING(CZoTreeListCtrl, CZoListCtrl)
 
 CZoTreeListCtrl::CZoTreeListCtrl()
     : m_nLevels(kDefaultLevels), m_pRoot(new CZoTreeListCtrlItem(NULL, -1)), m_bExpandAllEnabled(true),
-      m_bKeepChildData(false), m_eBoldFont(ZoThemeFont_12), m_bTreeCreating(false)
+      m_bKeepChildData(false), m_eBoldFont(ZoThemeFont_12)
 {
     m_pRoot->Expand(true);
 }
@@ -102,30 +102,28 @@ CZoTreeListCtrl::~CZoTreeListCtrl()
 
 // --- Creation --------------------------------------------------------------------------------
 
+// The list's own initialisation runs first (its creating flag keeps PreSubclassWindow from
+// running either too early), then the tree's.
 BOOL CZoTreeListCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    m_bTreeCreating = true;
     const BOOL created = CZoListCtrl::Create(dwStyle, rect, pParentWnd, nID);
     if (created)
         _initTree();
-    m_bTreeCreating = false;
     return created;
 }
 
 BOOL CZoTreeListCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    m_bTreeCreating = true;
     const BOOL created = CZoListCtrl::CreateEx(dwExStyle, dwStyle, rect, pParentWnd, nID);
     if (created)
         _initTree();
-    m_bTreeCreating = false;
     return created;
 }
 
 void CZoTreeListCtrl::PreSubclassWindow()
 {
     CZoListCtrl::PreSubclassWindow();
-    if (!m_bTreeCreating)
+    if (!m_bCreating)
         _initTree();
 }
 

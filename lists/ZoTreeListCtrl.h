@@ -148,7 +148,6 @@ protected:
     bool m_bKeepChildData;
     CImageList m_imageList;
     E_ZoThemeFont m_eBoldFont;
-    bool m_bTreeCreating;
     // Which node each row holds, in step with the native list.
     CZoTreeRowIndex m_rows;
 

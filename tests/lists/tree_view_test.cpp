@@ -192,6 +192,19 @@ TEST_F(TreeTest, AChildOfACollapsedParentLandsOnTheFirstRow)
     EXPECT_TRUE(RowsInStep());
 }
 
+TEST_F(TreeTest, ASubclassedListBecomesATree)
+{
+    const HWND native = MakeNative(WC_LISTVIEWW, LVS_REPORT, RECT{10, 10, 200, 200});
+    CZoTreeListCtrl tree;
+    ASSERT_TRUE(tree.SubclassWindow(native));
+    EXPECT_TRUE(tree.GetZoHeaderCtrl().IsFirstColumnLocked());
+    ASSERT_NE(tree.GetImageList(LVSIL_SMALL), nullptr);
+    EXPECT_NE(tree.GetStyle() & LVS_SHAREIMAGELISTS, 0u); // the view keeps its image list
+    tree.InsertColumn(0, L"Name", LVCFMT_LEFT, 100);
+    EXPECT_EQ(tree.LookforItemNumber(tree.InsertNode(0, L"x"), 0), 0);
+    tree.DestroyWindow();
+}
+
 // --- Expanding and collapsing -------------------------------------------------------------------
 
 TEST_F(TreeTest, ChildrenOnDemandAndWhatTheParentHears)

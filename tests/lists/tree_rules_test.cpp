@@ -1,6 +1,5 @@
 // The tree-list view's rules with plain values: the row index against a plain vector through
-// thousands of inserts and removals, the tree's date and number comparisons, node paths and the
-// tree order of two nodes.
+// thousands of inserts and removals, the tree's date and number comparisons, and node paths.
 #include <afx.h>
 
 #include <gtest/gtest.h>
@@ -127,70 +126,25 @@ TEST(TreeSortComparisons, DatesBeforeTheEpochCountTheirTimeForwards)
     EXPECT_EQ(Sign(ZoCompareTreeTexts(2, L"1899-12-29 18:00:00", L"1899-12-29 06:00:00")), 1);
 }
 
-// --- Tree order --------------------------------------------------------------------------------
+// --- Node paths (the tree order itself is checked through the view's sorting) -----------------
 
-int CompareTexts(const CZoTreeListCtrlItem* x, const CZoTreeListCtrlItem* y, void*)
+TEST(TreeNodePath, HoldsAncestorsPerLevel)
 {
-    return x->GetSubItemText(0).Compare(y->GetSubItemText(0));
-}
-
-class TreeOrder : public testing::Test
-{
-protected:
-    TreeOrder()
-    {
-        root_.Expand(true);
-        a_ = AddChild(root_, L"a");
-        b_ = AddChild(root_, L"b");
-        a1_ = AddChild(*a_, L"1");
-        a2_ = AddChild(*a_, L"2");
-        b1_ = AddChild(*b_, L"1");
-        a21_ = AddChild(*a2_, L"x");
-    }
-    int Compare(const CZoTreeListCtrlItem* x, const CZoTreeListCtrlItem* y, bool ascending, int levels = 3)
-    {
-        std::vector<const CZoTreeListCtrlItem*> path1(levels), path2(levels);
-        return Sign(ZoCompareTreeNodes(x, y, levels, ascending, path1.data(), path2.data(), &CompareTexts, nullptr));
-    }
-    CZoTreeListCtrlItem root_;
-    CZoTreeListCtrlItem *a_, *b_, *a1_, *a2_, *b1_, *a21_;
-};
-
-TEST_F(TreeOrder, PathsHoldAncestorsPerLevel)
-{
+    CZoTreeListCtrlItem root;
+    CZoTreeListCtrlItem* a = AddChild(root, L"a");
+    CZoTreeListCtrlItem* a1 = AddChild(*a, L"1");
+    CZoTreeListCtrlItem* a11 = AddChild(*a1, L"x");
     const CZoTreeListCtrlItem* path[3];
-    ZoTreeNodePath(a21_, 3, path);
-    EXPECT_EQ(path[0], a_);
-    EXPECT_EQ(path[1], a2_);
-    EXPECT_EQ(path[2], a21_);
-    ZoTreeNodePath(a1_, 3, path);
+    ZoTreeNodePath(a11, 3, path);
+    EXPECT_EQ(path[0], a);
+    EXPECT_EQ(path[1], a1);
+    EXPECT_EQ(path[2], a11);
+    ZoTreeNodePath(a1, 3, path);
     EXPECT_EQ(path[2], nullptr);
     // Deeper than the levels: its ancestors only.
-    ZoTreeNodePath(a21_, 2, path);
-    EXPECT_EQ(path[0], a_);
-    EXPECT_EQ(path[1], a2_);
-}
-
-TEST_F(TreeOrder, ParentsComeBeforeTheirChildrenInBothDirections)
-{
-    EXPECT_EQ(Compare(a_, a1_, true), -1);
-    EXPECT_EQ(Compare(a_, a1_, false), -1);
-    EXPECT_EQ(Compare(a21_, a_, false), 1);
-}
-
-TEST_F(TreeOrder, NodesOfDifferentParentsFollowTheirTopLevelNodes)
-{
-    EXPECT_EQ(Compare(a2_, b1_, true), -1);
-    EXPECT_EQ(Compare(a2_, b1_, false), 1);
-    EXPECT_EQ(Compare(a1_, a2_, false), 1);
-}
-
-TEST_F(TreeOrder, BoldSiblingsComeFirstInBothDirections)
-{
-    a2_->SetBold(true);
-    EXPECT_EQ(Compare(a2_, a1_, true), -1);
-    EXPECT_EQ(Compare(a2_, a1_, false), -1);
-    EXPECT_EQ(Compare(a1_, a2_, false), 1);
+    ZoTreeNodePath(a11, 2, path);
+    EXPECT_EQ(path[0], a);
+    EXPECT_EQ(path[1], a1);
 }
 
 } // namespace

@@ -13,6 +13,7 @@
 #include "StaticsPage.h"
 #include "TabsPage.h"
 #include "ThemePage.h"
+#include "TreeListPage.h"
 
 namespace {
 const GalleryPageEntry kPages[] = {
@@ -28,6 +29,7 @@ const GalleryPageEntry kPages[] = {
     {L"Sliders", &CreateGalleryPage<CSlidersPage>},
     {L"Tabs", &CreateGalleryPage<CTabsPage>},
     {L"Lists", &CreateGalleryPage<CListsPage>},
+    {L"Tree-list", &CreateGalleryPage<CTreeListPage>},
     {L"Dialogs", &CreateGalleryPage<CDialogsPage>},
 };
 } // namespace

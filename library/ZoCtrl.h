@@ -36,5 +36,8 @@
 #include "lists/ZoListCtrl.h"
 #include "lists/ZoTreeFile.h"
 #include "lists/ZoTreeListCtrlItem.h"
+#include "lists/ZoTreeRowIndex.h"
+#include "lists/ZoTreeSort.h"
+#include "lists/ZoTreeListCtrl.h"
 #include "frames/ZoMenuXP.h"
 #include "frames/ZoFrameWnd.h"

@@ -26,7 +26,8 @@ int RunWithHost(const wchar_t* name, WNDPROC hostProc, Body body)
         return 1;
     }
     INITCOMMONCONTROLSEX controls = {sizeof(INITCOMMONCONTROLSEX),
-                                     ICC_PROGRESS_CLASS | ICC_STANDARD_CLASSES | ICC_BAR_CLASSES | ICC_TAB_CLASSES};
+                                     ICC_PROGRESS_CLASS | ICC_STANDARD_CLASSES | ICC_BAR_CLASSES | ICC_TAB_CLASSES |
+                                         ICC_LISTVIEW_CLASSES};
     ::InitCommonControlsEx(&controls);
     ::InitializeZoCtrl();
 

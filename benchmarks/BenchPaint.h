@@ -42,9 +42,9 @@ inline double RepaintTime(HWND hWnd)
         kPaintsPerRun, [hWnd] { ::RedrawWindow(hWnd, NULL, NULL, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW); });
 }
 
-inline double PaintTime(HWND hWnd, CDC& dc)
+inline double PaintTime(HWND hWnd, CDC& dc, int paints = kPaintsPerRun)
 {
-    return TimePerCall(kPaintsPerRun, [hWnd, &dc] {
+    return TimePerCall(paints, [hWnd, &dc] {
         ::SendMessageW(hWnd, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.GetSafeHdc()), PRF_CLIENT | PRF_ERASEBKGND);
     });
 }
@@ -62,9 +62,9 @@ inline bool DrawsOnPrintClient(HWND hWnd, CDC& dc, const CSize& size)
     return false;
 }
 
-// Best paint times of `zo` and `native`, measured in turns; the native time stays 0 when that
-// control draws nothing on WM_PRINTCLIENT.
-inline Pair ComparePaints(HWND zo, HWND native)
+// Best paint times of `zo` and `native`, measured in turns of `paints` each; the native time
+// stays 0 when that control draws nothing on WM_PRINTCLIENT.
+inline Pair ComparePaints(HWND zo, HWND native, int paints = kPaintsPerRun)
 {
     CRect client;
     ::GetClientRect(zo, &client);
@@ -73,9 +73,10 @@ inline Pair ComparePaints(HWND zo, HWND native)
     if (!target.GetSafeHdc())
         return Pair();
     if (!DrawsOnPrintClient(native, target, client.Size()))
-        return CompareInTurns(kRuns, [zo, &target] { return PaintTime(zo, target); }, [] { return 0.0; });
-    return CompareInTurns(kRuns, [zo, &target] { return PaintTime(zo, target); },
-                          [native, &target] { return PaintTime(native, target); });
+        return CompareInTurns(kRuns, [zo, &target, paints] { return PaintTime(zo, target, paints); },
+                              [] { return 0.0; });
+    return CompareInTurns(kRuns, [zo, &target, paints] { return PaintTime(zo, target, paints); },
+                          [native, &target, paints] { return PaintTime(native, target, paints); });
 }
 
 // Best repaint times of `zo` and `native`, measured in turns.
@@ -84,16 +85,18 @@ inline Pair CompareRepaints(HWND zo, HWND native)
     return CompareInTurns(kRuns, [zo] { return RepaintTime(zo); }, [native] { return RepaintTime(native); });
 }
 
-// A skinned control and the native one it stands in for, side by side on the host.
+// A skinned control and the native one it stands in for, side by side on the host (the native
+// one `offset` further).
 template <class TControl>
 class Twins
 {
 public:
-    Twins(HWND host, const wchar_t* nativeClass, DWORD style, const CRect& rect, UINT id)
+    Twins(HWND host, const wchar_t* nativeClass, DWORD style, const CRect& rect, UINT id,
+          const CPoint& offset = CPoint(300, 0))
     {
         const DWORD child = WS_CHILD | WS_VISIBLE | style;
         m_zo.Create(child, rect, CWnd::FromHandle(host), id);
-        const CRect beside = rect + CPoint(300, 0);
+        const CRect beside = rect + offset;
         m_hNative = ::CreateWindowExW(0, nativeClass, L"", child, beside.left, beside.top, beside.Width(),
                                       beside.Height(), host, NULL, ::GetModuleHandleW(NULL), NULL);
     }

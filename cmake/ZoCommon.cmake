@@ -26,6 +26,8 @@ function(zo_copy_runtime_dlls)
       message(FATAL_ERROR "MinGW runtime DLL ${name} not found")
     endif()
     file(COPY ${path} DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+    # An installed package carries them too: a host runs with them beside it.
+    install(FILES ${path} DESTINATION bin)
   endforeach()
 endfunction()
 

@@ -54,6 +54,36 @@ E_ZoButtonStates ZoComboArrowState(E_ZoButtonStates frameState, bool isDropDown,
     return isDropDown && dropped ? BS_ZO_PRESSED : frameState;
 }
 
+bool ZoComboKeepsText(UINT message)
+{
+    switch (message)
+    {
+    case WM_PAINT:
+    case WM_PRINTCLIENT:
+    case WM_ERASEBKGND:
+    case WM_NCPAINT:
+    case WM_PRINT:
+    case WM_NCHITTEST:
+    case WM_SETCURSOR:
+    case WM_MOUSEMOVE:
+    case WM_GETTEXT:
+    case WM_GETTEXTLENGTH:
+    case WM_GETFONT:
+    case WM_GETDLGCODE:
+    case WM_CTLCOLORLISTBOX:
+    case CB_GETCURSEL:
+    case CB_GETCOUNT:
+    case CB_GETLBTEXT:
+    case CB_GETLBTEXTLEN:
+    case CB_GETITEMDATA:
+    case CB_GETDROPPEDSTATE:
+    case CB_GETCOMBOBOXINFO:
+        return true;
+    default:
+        return false;
+    }
+}
+
 // --- CZoComboBox ---------------------------------------------------------------------------
 
 IMPLEMENT_DYNAMIC(CZoComboBox, CComboBox)
@@ -73,7 +103,7 @@ ZO_IMPLEMENT_MENUXP_FORWARDING(CZoComboBox, CComboBox)
 CZoComboBox::CZoComboBox()
     : m_eTheme(ZoTheme_Default), m_eMonitorSize(ZoMonitorSize_Unknown), m_eFont(ZoThemeFont_1), m_pBackSkin(NULL),
       m_pButtonSkin(NULL), m_pButtonBackSkin(NULL), m_bDropListTextColorsSet(false), m_clrText(0), m_pEdit(NULL),
-      m_bInitialized(false)
+      m_bInitialized(false), m_bTextKept(false)
 {
     for (int i = 0; i < BS_ZO_COUNT; ++i)
         m_aDropListTextColors[i] = 0;
@@ -230,7 +260,14 @@ CRect CZoComboBox::_getButtonRect() const
 
 LRESULT CZoComboBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    // Forgotten before (a paint while the message is handled reads afresh) and after (one
+    // read while it was handled may have seen the text before it changed).
+    const bool keepsText = ZoComboKeepsText(message);
+    if (!keepsText)
+        m_bTextKept = false;
     const LRESULT result = CZoPaintedWnd<CComboBox>::WindowProc(message, wParam, lParam);
+    if (!keepsText)
+        m_bTextKept = false;
     if (message == CB_SETCURSEL)
     {
         RepaintNow();
@@ -292,10 +329,12 @@ void CZoComboBox::DrawClient(CDC& dc)
     GetClientRect(&client);
     dc.FillSolidRect(&client, ZoSlotColor(kSurroundSlot, m_eTheme));
 
+    // Asked of the platform's procedure directly: a message sent here would pass every
+    // message hook of the thread on its way, several times the cost of the whole paint.
     COMBOBOXINFO info = {};
     info.cbSize = sizeof(info);
-    GetComboBoxInfo(&info);
-    const bool dropped = GetDroppedState() != FALSE;
+    DefWindowProc(CB_GETCOMBOBOXINFO, 0, reinterpret_cast<LPARAM>(&info));
+    const bool dropped = DefWindowProc(CB_GETDROPPEDSTATE, 0, 0) != FALSE;
     const E_ZoButtonStates state =
         ZoComboFrameState(IsWindowEnabled() != FALSE, info.stateButton, dropped, ::GetFocus(),
                           m_pEdit ? m_pEdit->GetSafeHwnd() : NULL);
@@ -319,14 +358,24 @@ void CZoComboBox::_drawButtonImage(CDC& dc, const CRect& button, int state)
 
 void CZoComboBox::_drawText(CDC& dc, const CRect& client, const CRect& button)
 {
-    CString text;
-    GetWindowText(text);
+    const CString& text = _text();
     if (text.IsEmpty())
         return;
     const int d = ZoComboMargin(GetZoZoomFactor());
     CRect area(2 * d, client.top, button.left - 2 * d, client.bottom);
     CZoTextScope scope(dc, ZoCachedFont(m_eFont, m_eMonitorSize), m_clrText, TRANSPARENT);
     dc.DrawText(text, &area, DT_VCENTER | DT_SINGLELINE);
+}
+
+const CString& CZoComboBox::_text()
+{
+    // A drop-down combo's text changes in its inner edit, unseen here: it is read every time.
+    if (m_bTextKept && !m_pEdit)
+        return m_strText;
+    // Reading a drop-list combo's text costs the platform several messages to its list.
+    GetWindowText(m_strText);
+    m_bTextKept = true;
+    return m_strText;
 }
 
 // --- CZoComboBoxBtnFeel --------------------------------------------------------------------

@@ -41,6 +41,10 @@ ZOCTRL_API E_ZoButtonStates ZoComboFrameState(bool enabled, DWORD stateButton, b
 // Arrow state: the frame's, raised to pressed while a drop-down combo's list is dropped.
 ZOCTRL_API E_ZoButtonStates ZoComboArrowState(E_ZoButtonStates frameState, bool isDropDown, bool dropped);
 
+// Whether a drop-list combo's text stays as it was after the combo handled `message`: paint
+// and plain questions (text, selection, state) leave it; anything else may have changed it.
+ZOCTRL_API bool ZoComboKeepsText(UINT message);
+
 class ZOCTRL_API CZoComboBox : public CZoPaintedWnd<CComboBox>
 {
     DECLARE_DYNAMIC(CZoComboBox)
@@ -78,6 +82,8 @@ protected:
     bool _isDropDown() const;
     void _drawButtonImage(CDC& dc, const CRect& button, int state);
     void _drawText(CDC& dc, const CRect& client, const CRect& button);
+    // The text the closed control shows, kept between paints while nothing could change it.
+    const CString& _text();
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnSize(UINT nType, int cx, int cy);
@@ -100,6 +106,8 @@ protected:
     COLORREF m_clrText;
     CZoEdit* m_pEdit; // the inner edit of a drop-down combo
     bool m_bInitialized;
+    CString m_strText;
+    bool m_bTextKept; // m_strText is the window text
 
 private:
     CZoComboBox(const CZoComboBox&);

@@ -82,12 +82,7 @@ float CZoRangeSliderCtrl::_ratio() const
     return ZoRangeRatio(GetRangeMin(), GetRangeMax(), channel.Width());
 }
 
-int CZoRangeSliderCtrl::_thumbWidth() const
-{
-    CRect thumb;
-    GetThumbRect(&thumb);
-    return thumb.Width();
-}
+int CZoRangeSliderCtrl::_thumbWidth() const { return _platformThumbRect().Width(); }
 
 int CZoRangeSliderCtrl::ConvertWindowX2SliderPos(int x) const { return ZoRangeOffsetToValue(x, _ratio()); }
 

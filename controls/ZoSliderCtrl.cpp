@@ -124,10 +124,35 @@ void CZoSliderCtrl::DrawClient(CDC& dc)
     DrawSlider(dc, client);
 }
 
+LRESULT CZoSliderCtrl::_askPlatform(UINT message, WPARAM wParam, LPARAM lParam) const
+{
+    return const_cast<CZoSliderCtrl*>(this)->DefWindowProc(message, wParam, lParam);
+}
+
+CRect CZoSliderCtrl::_platformThumbRect() const
+{
+    CRect thumb(0, 0, 0, 0);
+    _askPlatform(TBM_GETTHUMBRECT, 0, reinterpret_cast<LPARAM>(static_cast<RECT*>(&thumb)));
+    return thumb;
+}
+
+CRect CZoSliderCtrl::_channelRect() const
+{
+    CRect channel(0, 0, 0, 0);
+    _askPlatform(TBM_GETCHANNELRECT, 0, reinterpret_cast<LPARAM>(static_cast<RECT*>(&channel)));
+    return ZoSliderChannelInScreenOrientation(channel, !m_bHorizontal);
+}
+
+int CZoSliderCtrl::_tickCount() const
+{
+    if (GetStyle() & TBS_NOTICKS)
+        return 0;
+    return (int)m_ticks.count + 2;
+}
+
 CRect CZoSliderCtrl::_thumbRect(const CRect& client) const
 {
-    CRect thumb;
-    GetThumbRect(&thumb);
+    const CRect thumb = _platformThumbRect();
     CRect visible;
     visible.IntersectRect(&thumb, &client);
     return visible;
@@ -136,8 +161,7 @@ CRect CZoSliderCtrl::_thumbRect(const CRect& client) const
 void CZoSliderCtrl::DrawSlider(CDC& dc, const CRect& rect) const
 {
     const CRect thumb = _thumbRect(rect);
-    CRect channel;
-    GetChannelRect(&channel);
+    const CRect channel = _channelRect();
     ClearSlider(dc, rect);
     DrawChannel(dc, channel);
     if ((GetStyle() & TBS_NOTICKS) == 0)
@@ -177,7 +201,7 @@ void CZoSliderCtrl::DrawThumb(CDC& dc, const CRect& rect) const
 
 void CZoSliderCtrl::DrawTicks(CDC& dc, const CRect&, const CRect& channel, const CRect& thumb) const
 {
-    const int count = (int)::SendMessageW(m_hWnd, TBM_GETNUMTICS, 0, 0);
+    const int count = _tickCount();
     if (count < 1)
         return;
     const float zoom = ZoCurrentZoom(m_eMonitorSize);
@@ -192,7 +216,6 @@ void CZoSliderCtrl::DrawTicks(CDC& dc, const CRect&, const CRect& channel, const
     const bool before = m_bTopOrLeft || m_bBoth;
     const bool after = !m_bTopOrLeft || m_bBoth;
     const TickAxis axis = _readTickAxis();
-    m_pPaintingAxis = &axis;
     const int beforeFrom = (m_bHorizontal ? thumb.top : thumb.left) - length - gap;
     const int afterFrom = (m_bHorizontal ? thumb.bottom : thumb.right) + gap;
     for (int i = 0; i < count; ++i)
@@ -203,7 +226,7 @@ void CZoSliderCtrl::DrawTicks(CDC& dc, const CRect&, const CRect& channel, const
         else if (i == count - 1)
             at = ZoSliderLastTickPixel(end, thumbLength);
         else
-            at = (int)::SendMessageW(m_hWnd, TBM_GETTICPOS, i - 1, 0);
+            at = _tickPixel(i - 1, axis);
         const int froms[2] = {beforeFrom, afterFrom};
         const bool drawn[2] = {before, after};
         for (int side = 0; side < 2; ++side)
@@ -222,7 +245,6 @@ void CZoSliderCtrl::DrawTicks(CDC& dc, const CRect&, const CRect& channel, const
             }
         }
     }
-    m_pPaintingAxis = nullptr;
     dc.SelectObject(pOldPen);
 }
 
@@ -230,8 +252,7 @@ void CZoSliderCtrl::DrawSelection(CDC& dc) const
 {
     if (m_bNoSelection || !m_bHorizontal)
         return;
-    CRect channel;
-    GetChannelRect(&channel);
+    const CRect channel = _channelRect();
     const CRect bar(channel.left + m_nSelStart, channel.top + kSelectionInset, channel.left + m_nSelEnd,
                     channel.bottom - kSelectionInset);
     if (bar.Width() > 0 && bar.Height() > 0)
@@ -356,33 +377,30 @@ LRESULT CZoSliderCtrl::OnGetTic(WPARAM wParam, LPARAM)
 
 LRESULT CZoSliderCtrl::OnGetTicPos(WPARAM wParam, LPARAM)
 {
-    if (wParam >= m_ticks.count)
+    return _tickPixel(wParam, _readTickAxis());
+}
+
+int CZoSliderCtrl::_tickPixel(WPARAM index, const TickAxis& axis) const
+{
+    if (index >= m_ticks.count)
         return -1;
-    const TickAxis axis = m_pPaintingAxis ? *m_pPaintingAxis : _readTickAxis();
-    return ZoSliderTickPixel(m_ticks.pTicks[wParam], axis.rangeMin, axis.rangeMax, axis.start, axis.end,
+    return ZoSliderTickPixel(m_ticks.pTicks[index], axis.rangeMin, axis.rangeMax, axis.start, axis.end,
                              axis.thumbLength);
 }
 
 CZoSliderCtrl::TickAxis CZoSliderCtrl::_readTickAxis() const
 {
-    CRect thumb;
-    GetThumbRect(&thumb);
-    CRect channel;
-    GetChannelRect(&channel);
+    const CRect thumb = _platformThumbRect();
+    const CRect channel = _channelRect();
     TickAxis axis;
-    axis.rangeMin = GetRangeMin();
-    axis.rangeMax = GetRangeMax();
+    axis.rangeMin = (int)_askPlatform(TBM_GETRANGEMIN, 0, 0);
+    axis.rangeMax = (int)_askPlatform(TBM_GETRANGEMAX, 0, 0);
     axis.start = m_bHorizontal ? channel.left : channel.top;
     axis.end = m_bHorizontal ? channel.right : channel.bottom;
     axis.thumbLength = m_bHorizontal ? thumb.Width() : thumb.Height();
     return axis;
 }
 
-LRESULT CZoSliderCtrl::OnGetNumTics(WPARAM, LPARAM)
-{
-    if (GetStyle() & TBS_NOTICKS)
-        return 0;
-    return m_ticks.count + 2;
-}
+LRESULT CZoSliderCtrl::OnGetNumTics(WPARAM, LPARAM) { return _tickCount(); }
 
 } // namespace ZoControls

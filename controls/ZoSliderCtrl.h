@@ -57,6 +57,14 @@ protected:
     bool IsHorizontal() const { return m_bHorizontal; }
     E_ThumbState _thumbState() const;
     CRect _thumbRect(const CRect& client) const;
+    // The platform's answers, asked of its procedure directly: painting asks them several times,
+    // and a sent message passes every message hook of the thread, costing more than the drawing.
+    LRESULT _askPlatform(UINT message, WPARAM wParam, LPARAM lParam) const;
+    CRect _platformThumbRect() const;
+    // The channel in screen orientation, as TBM_GETCHANNELRECT answers here.
+    CRect _channelRect() const;
+    // Ticks as TBM_GETNUMTICS answers: the list's plus the two ends, none with TBS_NOTICKS.
+    int _tickCount() const;
     void _init();
     void _loadResource();
 
@@ -104,9 +112,8 @@ private:
         int thumbLength;
     };
     TickAxis _readTickAxis() const;
-    // Set while DrawTicks runs: its TBM_GETTICPOS calls answer from one reading instead of four
-    // messages each.
-    mutable const TickAxis* m_pPaintingAxis = nullptr;
+    // Pixel of list tick `index` on `axis`, as TBM_GETTICPOS answers; -1 beyond the list.
+    int _tickPixel(WPARAM index, const TickAxis& axis) const;
 
     CZoSliderCtrl(const CZoSliderCtrl&);
     CZoSliderCtrl& operator=(const CZoSliderCtrl&);

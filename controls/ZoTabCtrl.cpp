@@ -250,11 +250,16 @@ void CZoTabCtrl::_free()
     m_pNormalFont = NULL;
 }
 
+LRESULT CZoTabCtrl::_askPlatform(UINT message, WPARAM wParam, LPARAM lParam) const
+{
+    return const_cast<CZoTabCtrl*>(this)->DefWindowProc(message, wParam, lParam);
+}
+
 CRect CZoTabCtrl::_pageRect() const
 {
     CRect page;
     GetClientRect(&page);
-    ::SendMessageW(m_hWnd, TCM_ADJUSTRECT, FALSE, (LPARAM)(RECT*)&page);
+    _askPlatform(TCM_ADJUSTRECT, FALSE, (LPARAM)(RECT*)&page);
     return page;
 }
 
@@ -268,8 +273,8 @@ void CZoTabCtrl::_drawTabControl(CDC& dc)
     _drawFrameRect(dc);
     const DWORD style = GetStyle();
     const bool enabled = IsWindowEnabled() != FALSE;
-    const int selected = GetCurSel();
-    const int count = GetItemCount();
+    const int selected = (int)_askPlatform(TCM_GETCURSEL, 0, 0);
+    const int count = (int)_askPlatform(TCM_GETITEMCOUNT, 0, 0);
     // In index order: the selected tab is not drawn last.
     for (int i = 0; i < count; ++i)
         _drawTabItem(dc, i, style, enabled, i == selected);
@@ -288,8 +293,8 @@ void CZoTabCtrl::_drawFrameRect(CDC& dc)
 
 void CZoTabCtrl::_drawTabItem(CDC& dc, int index, DWORD style, bool enabled, bool selected)
 {
-    CRect item;
-    GetItemRect(index, &item);
+    CRect item(0, 0, 0, 0);
+    _askPlatform(TCM_GETITEMRECT, index, (LPARAM)(RECT*)&item);
     const CRect tab = ZoTabItemRect(item, style);
 
     wchar_t text[kCaptionChars + kEllipsisRoom];
@@ -299,7 +304,7 @@ void CZoTabCtrl::_drawTabItem(CDC& dc, int index, DWORD style, bool enabled, boo
     info.mask = TCIF_TEXT | TCIF_IMAGE | TCIF_STATE;
     info.pszText = text;
     info.cchTextMax = kCaptionChars;
-    SendMessage(TCM_GETITEMW, index, (LPARAM)&info);
+    _askPlatform(TCM_GETITEMW, index, (LPARAM)&info);
     text[kCaptionChars - 1] = L'\0';
 
     const COLORREF color = ZoSlotColor(ZoTabTextSlot(enabled, selected, index == m_nHoverIndex), m_eTheme);

@@ -73,6 +73,9 @@ protected:
     void _init();
     void _free();
     bool _isButtons() const;
+    // Asks the platform's procedure directly: painting asks it for every tab, and a sent
+    // message passes every message hook of the thread, costing more than the drawing.
+    LRESULT _askPlatform(UINT message, WPARAM wParam, LPARAM lParam) const;
     CRect _pageRect() const;
     void _drawTabControl(CDC& dc);
     void _drawFrameRect(CDC& dc);

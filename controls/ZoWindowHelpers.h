@@ -7,6 +7,12 @@ namespace ZoControls {
 // Asks for one WM_MOUSELEAVE when the mouse leaves `hWnd`.
 void ZoTrackMouseLeave(HWND hWnd);
 
+// Hands `message` to the present window procedure of `hWnd` as SendMessage does for a window
+// of this thread, subclasses included, but without passing the thread's message hooks: under
+// Wine every hooked message costs a round trip to the Wine server, more than drawing a list
+// cell. A window of another thread (or none) gets a plain SendMessage.
+LRESULT ZoCallWindow(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
+
 // The window text as the platform's own window procedure keeps it, asked through `query` (a
 // control's DefWindowProc): what GetWindowText gives, without two sent messages on every paint.
 template <class Query>

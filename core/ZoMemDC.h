@@ -1,5 +1,7 @@
 // CZoMemDC: the off-screen surface of the controls' paint handlers. Everything is drawn
 // into it and copied to the screen once, so painting never flickers. Internal to the library.
+// The painting path asks for the surface kept between paints: making a bitmap costs the
+// platform far more than drawing a small control does.
 #pragma once
 #include <afxwin.h>
 
@@ -9,12 +11,19 @@ class CZoMemDC : public CDC
 {
 public:
     CZoMemDC(CDC* pTarget, int width, int height);
+    // With `useKeptSurface`, draws on the surface kept between paints when it is free and the
+    // target's pixel format matches (growing it as needed up to a limit), else on its own. The
+    // kept surface starts black and with a fresh DC's state, as a new one would.
+    CZoMemDC(CDC* pTarget, int width, int height, bool useKeptSurface);
     ~CZoMemDC() override;
+
+    // Frees the kept surface (the library is ending); nothing while a paint uses it.
+    static void FreeKeptSurface();
 
     // Copies the whole surface to the target at (0, 0). Call once, after drawing everything.
     void CopyToTarget();
     // False when no bitmap could be made (zero or enormous sizes): drawing would go nowhere.
-    bool HasSurface() const { return m_hOldBitmap != NULL; }
+    bool HasSurface() const { return m_hOldBitmap != NULL || m_nKeptState != 0; }
 
     // Text and visibility go straight to the memory DC's own handle.
     using CDC::PtVisible;
@@ -42,11 +51,15 @@ private:
     CZoMemDC(const CZoMemDC&);
     CZoMemDC& operator=(const CZoMemDC&);
 
+    void _makeOwnSurface();
+    bool _borrowKeptSurface();
+
     int m_nWidth;
     int m_nHeight;
     CDC* m_pTargetDC;
     HBITMAP m_hBitmap;
-    HBITMAP m_hOldBitmap; // null when no bitmap could be made
+    HBITMAP m_hOldBitmap; // null when no bitmap could be made (or the kept surface is used)
+    int m_nKeptState;     // SaveDC's answer on the kept surface; 0 when it is not used
 };
 
 } // namespace ZoControls

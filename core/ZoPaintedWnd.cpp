@@ -16,7 +16,7 @@ void drawInto(CWnd& wnd, IZoPaintedWnd& painted, E_ZoPaintMode mode, CDC& dc)
     }
     CRect client;
     ::GetClientRect(wnd.GetSafeHwnd(), &client);
-    CZoMemDC memDC(&dc, client.Width(), client.Height());
+    CZoMemDC memDC(&dc, client.Width(), client.Height(), true);
     // Without a surface the drawing would land nowhere, at any cost (a huge control tiles
     // thousands of cells): paint nothing.
     if (!memDC.HasSurface())

@@ -79,11 +79,20 @@ bool WriteBitmapFile(const CString& path, const BITMAPINFOHEADER& header, const 
 
 } // namespace
 
-bool SaveWindowClientBitmap(HWND hWnd, const CString& path)
+bool SaveWindowBitmap(HWND hWnd, const CString& path)
 {
-    RECT client;
-    if (!::GetClientRect(hWnd, &client) || client.right <= 0 || client.bottom <= 0)
+    // The whole window: its frame draws its border through WM_PRINT, the client area and the
+    // children follow at the client area's place.
+    RECT client, window;
+    if (!::GetWindowRect(hWnd, &window) || !::GetClientRect(hWnd, &client) || client.right <= 0 ||
+        client.bottom <= 0)
         return false;
+    POINT origin = {0, 0};
+    ::ClientToScreen(hWnd, &origin);
+    origin.x -= window.left;
+    origin.y -= window.top;
+    client.right = window.right - window.left;
+    client.bottom = window.bottom - window.top;
     BITMAPINFO info = {};
     info.bmiHeader.biSize = sizeof(info.bmiHeader);
     info.bmiHeader.biWidth = client.right;
@@ -104,7 +113,7 @@ bool SaveWindowClientBitmap(HWND hWnd, const CString& path)
         return false;
     }
     HGDIOBJ hOld = ::SelectObject(hMem, hDib);
-    const POINT origin = {0, 0};
+    ::SendMessage(hWnd, WM_PRINT, reinterpret_cast<WPARAM>(hMem), PRF_NONCLIENT);
     RenderClientTree(hWnd, hMem, origin);
     ::GdiFlush();
     const DWORD stride = (static_cast<DWORD>(client.right) * 3 + 3) & ~3u;

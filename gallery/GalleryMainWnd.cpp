@@ -9,17 +9,16 @@ const UINT kPageListId = 100;
 const UINT kFirstPageId = 200;
 } // namespace
 
-BEGIN_MESSAGE_MAP(CGalleryMainWnd, ZoControls::CZoWnd)
+BEGIN_MESSAGE_MAP(CGalleryMainWnd, ZoControls::CZoFrameWnd)
     ON_WM_CREATE()
     ON_WM_DESTROY()
     ON_WM_SIZE()
-    ON_WM_ERASEBKGND()
     ON_WM_PAINT()
     ON_MESSAGE(WM_PRINTCLIENT, &CGalleryMainWnd::OnPrintClient)
     ON_LBN_SELCHANGE(kPageListId, &CGalleryMainWnd::OnPageListSelChange)
 END_MESSAGE_MAP()
 
-CGalleryMainWnd::CGalleryMainWnd() : m_nCurrentPage(-1)
+CGalleryMainWnd::CGalleryMainWnd() : ZoControls::CZoFrameWnd(false), m_nCurrentPage(-1)
 {
 }
 
@@ -29,17 +28,22 @@ CGalleryMainWnd::~CGalleryMainWnd()
 
 BOOL CGalleryMainWnd::CreateMain(int clientWidth, int clientHeight)
 {
-    const DWORD style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
-    CRect frame(0, 0, clientWidth, clientHeight);
-    ::AdjustWindowRectEx(&frame, style, FALSE, 0);
-    const LPCTSTR className = AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursor(NULL, IDC_ARROW));
-    return CreateEx(0, className, L"ZoCtrl Gallery", style, CW_USEDEFAULT, CW_USEDEFAULT, frame.Width(),
-                    frame.Height(), NULL, NULL);
+    // No caption: the skinned border's top edge is where the window is dragged.
+    const DWORD style = WS_POPUP | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN;
+    if (!CreateEx(0, NULL, L"ZoCtrl Gallery", style, 40, 40, clientWidth, clientHeight, NULL,
+                  NULL))
+        return FALSE;
+    // The border's thickness depends on the size class the frame found: add it now.
+    CRect client;
+    GetClientRect(&client);
+    SetWindowPos(NULL, 0, 0, 2 * clientWidth - client.Width(), 2 * clientHeight - client.Height(),
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    return TRUE;
 }
 
 int CGalleryMainWnd::OnCreate(LPCREATESTRUCT lpCreateStruct)
 {
-    if (ZoControls::CZoWnd::OnCreate(lpCreateStruct) == -1)
+    if (ZoControls::CZoFrameWnd::OnCreate(lpCreateStruct) == -1)
         return -1;
     CRect client;
     GetClientRect(&client);
@@ -70,13 +74,8 @@ void CGalleryMainWnd::OnDestroy()
         delete m_pages[i];
     }
     m_pages.clear();
-    ZoControls::CZoWnd::OnDestroy();
+    ZoControls::CZoFrameWnd::OnDestroy();
     AfxPostQuitMessage(0);
-}
-
-void CGalleryMainWnd::PostNcDestroy()
-{
-    delete this;
 }
 
 int CGalleryMainWnd::GetPageCount() const
@@ -110,7 +109,7 @@ bool CGalleryMainWnd::SaveScreenshots(const CString& folder)
         CString name = GetPageTitle(i);
         name.MakeLower();
         name.Replace(L' ', L'_');
-        ok = SaveWindowClientBitmap(m_hWnd, folder + L"\\" + name + L".bmp") && ok;
+        ok = SaveWindowBitmap(m_hWnd, folder + L"\\" + name + L".bmp") && ok;
     }
     return ok;
 }
@@ -125,7 +124,7 @@ CRect CGalleryMainWnd::_pageRect() const
 
 void CGalleryMainWnd::OnSize(UINT nType, int cx, int cy)
 {
-    ZoControls::CZoWnd::OnSize(nType, cx, cy);
+    ZoControls::CZoFrameWnd::OnSize(nType, cx, cy);
     if (cx <= 0 || cy <= 0 || !::IsWindow(m_pageList.GetSafeHwnd()))
         return;
     m_pageList.MoveWindow(0, 0, kListWidth, cy);
@@ -144,11 +143,6 @@ void CGalleryMainWnd::_fillBackground(CDC& dc)
     CRect client;
     GetClientRect(&client);
     dc.FillSolidRect(&client, ::GetSysColor(COLOR_3DFACE));
-}
-
-BOOL CGalleryMainWnd::OnEraseBkgnd(CDC* /*pDC*/)
-{
-    return TRUE;
 }
 
 void CGalleryMainWnd::OnPaint()

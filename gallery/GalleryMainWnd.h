@@ -1,4 +1,5 @@
-// The gallery's main window: the page list on the left, the selected page on the right.
+// The gallery's main window, a skinned frame: the page list on the left, the selected page on
+// the right.
 #pragma once
 #include <afxwin.h>
 
@@ -6,7 +7,7 @@
 
 #include "GalleryPage.h"
 
-class CGalleryMainWnd : public ZoControls::CZoWnd
+class CGalleryMainWnd : public ZoControls::CZoFrameWnd
 {
 public:
     CGalleryMainWnd();
@@ -20,12 +21,9 @@ public:
     bool SaveScreenshots(const CString& folder);
 
 protected:
-    virtual void PostNcDestroy();
-
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnDestroy();
     afx_msg void OnSize(UINT nType, int cx, int cy);
-    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg void OnPaint();
     afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
     afx_msg void OnPageListSelChange();

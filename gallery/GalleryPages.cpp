@@ -2,6 +2,7 @@
 #include <afxwin.h>
 
 #include "ButtonsPage.h"
+#include "DialogsPage.h"
 #include "EditsPage.h"
 #include "GalleryPage.h"
 #include "ListsPage.h"
@@ -12,6 +13,7 @@
 #include "StaticsPage.h"
 #include "TabsPage.h"
 #include "ThemePage.h"
+#include "TreeListPage.h"
 
 namespace {
 const GalleryPageEntry kPages[] = {
@@ -27,6 +29,8 @@ const GalleryPageEntry kPages[] = {
     {L"Sliders", &CreateGalleryPage<CSlidersPage>},
     {L"Tabs", &CreateGalleryPage<CTabsPage>},
     {L"Lists", &CreateGalleryPage<CListsPage>},
+    {L"Tree-list", &CreateGalleryPage<CTreeListPage>},
+    {L"Dialogs", &CreateGalleryPage<CDialogsPage>},
 };
 } // namespace
 

@@ -52,6 +52,18 @@ bool ZoPixelsHoldColor(const DWORD* pixels, int count, COLORREF color)
     return false;
 }
 
+void ZoSplitKeyedPixels(DWORD* pixels, DWORD* mask, int count, COLORREF color)
+{
+    const DWORD wanted = (static_cast<DWORD>(GetRValue(color)) << 16) | (static_cast<DWORD>(GetGValue(color)) << 8) |
+                         GetBValue(color);
+    for (int i = 0; i < count; ++i) {
+        const bool keyed = (pixels[i] & 0x00FFFFFF) == wanted;
+        mask[i] = keyed ? 0xFFFFFFFF : 0;
+        if (keyed)
+            pixels[i] = 0;
+    }
+}
+
 CZoCellCache::CZoCellCache() : m_nNext(0), m_hDC(NULL), m_hOldBitmap(NULL)
 {
     ::ZeroMemory(m_entries, sizeof(m_entries));
@@ -70,12 +82,19 @@ void CZoCellCache::Clear()
         ::SelectObject(m_hDC, m_hOldBitmap);
         m_hOldBitmap = NULL;
     }
-    for (int i = 0; i < kEntries; ++i) {
-        if (m_entries[i].hBitmap)
-            ::DeleteObject(m_entries[i].hBitmap);
-        m_entries[i].hBitmap = NULL;
-    }
+    for (int i = 0; i < kEntries; ++i)
+        _freeEntry(m_entries[i]);
     m_nNext = 0;
+}
+
+void CZoCellCache::_freeEntry(Entry& entry)
+{
+    if (entry.hBitmap)
+        ::DeleteObject(entry.hBitmap);
+    if (entry.hMask)
+        ::DeleteObject(entry.hMask);
+    entry.hBitmap = NULL;
+    entry.hMask = NULL;
 }
 
 bool CZoCellCache::Draw(CDC& dc, int x, int y, const ZoCellKey& key, HBITMAP hSource)
@@ -118,6 +137,17 @@ CZoCellCache::Entry* CZoCellCache::_make(CDC& dc, const ZoCellKey& key, HBITMAP 
         }
     }
     ::GdiFlush();
+    // A keyed copy costs the platform temporary bitmaps on every call; a cell that shows the
+    // key colour is drawn through a mask instead, made here once.
+    HBITMAP hMask = NULL;
+    if (made && ZoPixelsHoldColor(bits, key.w * key.h, key.transparent)) {
+        DWORD* maskBits = NULL;
+        hMask = CreateSection(key.w, key.h, maskBits);
+        if (hMask)
+            ZoSplitKeyedPixels(bits, maskBits, key.w * key.h, key.transparent);
+        else
+            made = false;
+    }
     if (!made) {
         ::DeleteObject(hBitmap);
         return NULL;
@@ -128,11 +158,11 @@ CZoCellCache::Entry* CZoCellCache::_make(CDC& dc, const ZoCellKey& key, HBITMAP 
         if (m_hDC && m_hOldBitmap)
             ::SelectObject(m_hDC, m_hOldBitmap);
         m_hOldBitmap = NULL;
-        ::DeleteObject(entry.hBitmap);
+        _freeEntry(entry);
     }
     entry.key = key;
     entry.hBitmap = hBitmap;
-    entry.showsKey = ZoPixelsHoldColor(bits, key.w * key.h, key.transparent);
+    entry.hMask = hMask;
     return &entry;
 }
 
@@ -142,16 +172,22 @@ void CZoCellCache::_drawEntry(CDC& dc, int x, int y, const Entry& entry)
         m_hDC = ::CreateCompatibleDC(NULL);
     if (!m_hDC)
         return;
+    const ZoCellKey& key = entry.key;
+    const HDC hTarget = dc.GetSafeHdc();
+    if (entry.hMask) {
+        const HGDIOBJ hPrevious = ::SelectObject(m_hDC, entry.hMask);
+        if (!hPrevious)
+            return;
+        if (!m_hOldBitmap)
+            m_hOldBitmap = hPrevious;
+        ::BitBlt(hTarget, x, y, key.w, key.h, m_hDC, 0, 0, SRCAND);
+    }
     const HGDIOBJ hPrevious = ::SelectObject(m_hDC, entry.hBitmap);
     if (!hPrevious)
         return;
     if (!m_hOldBitmap)
         m_hOldBitmap = hPrevious;
-    const ZoCellKey& key = entry.key;
-    if (entry.showsKey)
-        ::TransparentBlt(dc.GetSafeHdc(), x, y, key.w, key.h, m_hDC, 0, 0, key.w, key.h, key.transparent);
-    else
-        ::BitBlt(dc.GetSafeHdc(), x, y, key.w, key.h, m_hDC, 0, 0, SRCCOPY);
+    ::BitBlt(hTarget, x, y, key.w, key.h, m_hDC, 0, 0, entry.hMask ? SRCPAINT : SRCCOPY);
 }
 
 } // namespace ZoControls

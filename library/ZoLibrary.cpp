@@ -2,6 +2,7 @@
 #include <afxwin.h>
 
 #include "ZoLibrary.h"
+#include "core/ZoMemDC.h"
 #include "core/ZoThemeManager.h"
 #include "frames/ZoMenuXP.h"
 #include "images/ZoResourcePNG.h"
@@ -19,4 +20,5 @@ void UninitializeZoCtrl()
     ZoControls::CMenuXP::UninitializeHook();
     ZoControls::CZoThemeManager::FreeInstance();
     ZoControls::CZoResourcePNGData::FreeInstance();
+    ZoControls::CZoMemDC::FreeKeptSurface();
 }

@@ -3,6 +3,7 @@
 #include "controls/ZoControlTheme.h"
 #include "controls/ZoEditInPlace.h"
 #include "controls/ZoScrollBar.h"
+#include "controls/ZoWindowHelpers.h"
 #include "core/ZoThemeManager.h"
 #include "lists/ZoListGeometry.h"
 #include "lists/ZoListSort.h"
@@ -92,7 +93,7 @@ CZoListCtrl::CZoListCtrl()
       m_crGrid(0), m_crSelectedRow(0), m_crCellText(0), m_crSelectedFocusRow(0), m_crFocusFrame(0),
       m_bSortingFromHeader(false), m_sortMethods(kSortMapBlockSize), m_childSortMethods(kSortMapBlockSize),
       m_pHorzBar(new CZoScrollBar(CZoScrollBar::ScrollBarTheme_1)),
-      m_pVertBar(new CZoScrollBar(CZoScrollBar::ScrollBarTheme_1)), m_bRedrawSuspended(false)
+      m_pVertBar(new CZoScrollBar(CZoScrollBar::ScrollBarTheme_1)), m_bRedrawSuspended(false), m_nPaintDepth(0)
 {
     m_sortMethods.InitHashTable(kSortMapHashSize);
     m_childSortMethods.InitHashTable(kSortMapHashSize);
@@ -398,7 +399,16 @@ LRESULT CZoListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     }
     if (message == WM_SETREDRAW)
         m_bRedrawSuspended = wParam == FALSE;
+    // Column formats read during a paint hold for that paint only.
+    const bool painting = message == WM_PAINT || message == WM_PRINTCLIENT;
+    if (painting && m_nPaintDepth++ == 0)
+    {
+        m_paintColumnFormats.clear();
+        m_paintCells.clear();
+    }
     const LRESULT result = CListCtrl::WindowProc(message, wParam, lParam);
+    if (painting)
+        --m_nPaintDepth;
     if (ZoListMessageChangesScrollState(message, wParam, headerCode) || (message == WM_SETREDRAW && wParam))
         _copyScrollInfo();
     return result;
@@ -455,7 +465,7 @@ void CZoListCtrl::SortOnColumn(int column, bool ascending)
     if (!m_bSortEnabled || !::IsWindow(m_hWnd) || (GetStyle() & LVS_OWNERDATA))
         return;
     CWaitCursor wait;
-    const int count = GetItemCount();
+    const int count = (int)_ask(LVM_GETITEMCOUNT, 0, 0);
     if (count <= 0)
         return;
     const int method = ZoNormalizeSortMethod(GetColumnSortMethod(column));
@@ -464,18 +474,112 @@ void CZoListCtrl::SortOnColumn(int column, bool ascending)
     for (int i = 0; i < count; ++i)
     {
         slots[i].index = i;
-        slots[i].data = GetItemData(i);
-        slots[i].key = ZoMakeSortKey(method, GetItemText(i, column));
-        SetItemData(i, reinterpret_cast<DWORD_PTR>(&slots[i]));
+        slots[i].data = _itemData(i);
+        slots[i].key = ZoMakeSortKey(method, _itemText(i, column));
+        _setItemData(i, reinterpret_cast<DWORD_PTR>(&slots[i]));
     }
     SortContext context = {column, this, ascending, method};
     SortItems(&compareSlots, reinterpret_cast<DWORD_PTR>(&context));
     for (int i = 0; i < count; ++i)
     {
-        const SortSlot* pSlot = reinterpret_cast<const SortSlot*>(GetItemData(i));
+        const SortSlot* pSlot = reinterpret_cast<const SortSlot*>(_itemData(i));
         if (pSlot)
-            SetItemData(i, pSlot->data);
+            _setItemData(i, pSlot->data);
     }
+}
+
+LRESULT CZoListCtrl::_ask(UINT message, WPARAM wParam, LPARAM lParam) const
+{
+    return ZoCallWindow(m_hWnd, message, wParam, lParam);
+}
+
+CString CZoListCtrl::_itemText(int item, int subItem) const
+{
+    // Grown until the text fits, as CListCtrl::GetItemText does.
+    CString text;
+    LVITEMW lvItem = {};
+    lvItem.iSubItem = subItem;
+    int length = 128;
+    int got = 0;
+    do
+    {
+        length *= 2;
+        lvItem.cchTextMax = length;
+        lvItem.pszText = text.GetBufferSetLength(length);
+        got = (int)_ask(LVM_GETITEMTEXTW, (WPARAM)item, (LPARAM)&lvItem);
+    } while (got >= length - 1);
+    text.ReleaseBuffer();
+    return text;
+}
+
+DWORD_PTR CZoListCtrl::_itemData(int item) const
+{
+    LVITEMW lvItem = {};
+    lvItem.mask = LVIF_PARAM;
+    lvItem.iItem = item;
+    return _ask(LVM_GETITEMW, 0, (LPARAM)&lvItem) ? (DWORD_PTR)lvItem.lParam : 0;
+}
+
+void CZoListCtrl::_subItemRects(int item, int subItem, CRect& label, CRect& icon)
+{
+    // The list asks its header for a column's place with a sent message, twice a cell. During a
+    // paint the cells of a column beyond the first (whose label depends on the row's indent
+    // and images) lie where that column's first drawn cell does, moved as far as their row is.
+    CPoint at(0, 0);
+    const bool painting = m_nPaintDepth > 0 && subItem > 0 &&
+                          _ask(LVM_GETITEMPOSITION, (WPARAM)item, (LPARAM)(POINT*)&at) != FALSE;
+    if (painting && subItem < (int)m_paintCells.size() && m_paintCells[subItem].known)
+    {
+        const PaintCell& first = m_paintCells[subItem];
+        label = first.label + (at - first.at);
+        icon = first.icon + (at - first.at);
+        return;
+    }
+    label.SetRect(LVIR_LABEL, subItem, 0, 0);
+    icon.SetRect(LVIR_ICON, subItem, 0, 0);
+    const bool gotLabel = _ask(LVM_GETSUBITEMRECT, (WPARAM)item, (LPARAM)(RECT*)&label) != FALSE;
+    const bool gotIcon = _ask(LVM_GETSUBITEMRECT, (WPARAM)item, (LPARAM)(RECT*)&icon) != FALSE;
+    if (!painting || !gotLabel || !gotIcon)
+        return;
+    if (subItem >= (int)m_paintCells.size())
+        m_paintCells.resize(subItem + 1);
+    PaintCell& first = m_paintCells[subItem];
+    first.known = true;
+    first.at = at;
+    first.label = label;
+    first.icon = icon;
+}
+
+bool CZoListCtrl::_columnFormat(int column, int& format)
+{
+    // The list asks its header for a column's format with a sent message; a paint would ask
+    // once for every cell.
+    const bool painting = m_nPaintDepth > 0 && column >= 0;
+    if (painting && column < (int)m_paintColumnFormats.size() && m_paintColumnFormats[column] != kFormatUnread)
+    {
+        format = m_paintColumnFormats[column];
+        return format != kFormatMissing;
+    }
+    LVCOLUMNW info = {};
+    info.mask = LVCF_FMT;
+    const bool got = _ask(LVM_GETCOLUMNW, (WPARAM)column, (LPARAM)&info) != FALSE;
+    format = info.fmt;
+    if (painting)
+    {
+        if (column >= (int)m_paintColumnFormats.size())
+            m_paintColumnFormats.resize(column + 1, kFormatUnread);
+        m_paintColumnFormats[column] = got ? info.fmt : kFormatMissing;
+    }
+    return got;
+}
+
+void CZoListCtrl::_setItemData(int item, DWORD_PTR data)
+{
+    LVITEMW lvItem = {};
+    lvItem.mask = LVIF_PARAM;
+    lvItem.iItem = item;
+    lvItem.lParam = (LPARAM)data;
+    _ask(LVM_SETITEMW, 0, (LPARAM)&lvItem);
 }
 
 void CZoListCtrl::OnHeaderItemClick(NMHDR* pNMHDR, LRESULT* pResult)
@@ -551,23 +655,25 @@ int CZoListCtrl::GetItemImageIndex(const LVITEMW& item) const { return item.iIma
 
 void CZoListCtrl::DrawSubItem(CDC& dc, int item, int subItem)
 {
+    // Every question goes straight to the list's and the header's procedures: a paint asks
+    // them for every cell, and sent messages would pass the thread's message hooks each time.
     CRect label, icon;
-    GetSubItemRect(item, subItem, LVIR_LABEL, label);
-    GetSubItemRect(item, subItem, LVIR_ICON, icon);
+    _subItemRects(item, subItem, label, icon);
     const CRect cell(ZoCellRect(label, icon));
 
     LVITEMW lvItem = {};
     lvItem.mask = LVIF_IMAGE | LVIF_STATE;
     lvItem.iItem = item;
     lvItem.stateMask = LVIS_FOCUSED | LVIS_SELECTED;
-    GetItem(&lvItem);
+    _ask(LVM_GETITEMW, 0, (LPARAM)&lvItem);
     const bool selected = (lvItem.state & LVIS_SELECTED) != 0;
     const bool focused = (lvItem.state & LVIS_FOCUSED) != 0;
 
-    CHeaderCtrl* pHeader = GetHeaderCtrl();
-    const int columns = pHeader ? pHeader->GetItemCount() : 0;
-    const bool firstShown = pHeader && pHeader->OrderToIndex(0) == subItem;
-    const bool lastShown = pHeader && columns > 0 && pHeader->OrderToIndex(columns - 1) == subItem;
+    const HWND hHeader = (HWND)_ask(LVM_GETHEADER, 0, 0);
+    const int columns = hHeader ? (int)ZoCallWindow(hHeader, HDM_GETITEMCOUNT, 0, 0) : 0;
+    const bool firstShown = hHeader && (int)ZoCallWindow(hHeader, HDM_ORDERTOINDEX, 0, 0) == subItem;
+    const bool lastShown =
+        hHeader && columns > 0 && (int)ZoCallWindow(hHeader, HDM_ORDERTOINDEX, columns - 1, 0) == subItem;
 
     COLORREF back = m_crBackground;
     CRect fill = cell;
@@ -582,7 +688,7 @@ void CZoListCtrl::DrawSubItem(CDC& dc, int item, int subItem)
         dc.FillSolidRect(cell.left, cell.bottom - 1, cell.Width(), 1, m_crGrid);
 
     CRect text(ZoCellTextRect(cell, -1));
-    HIMAGELIST hImages = subItem == 0 ? ListView_GetImageList(m_hWnd, LVSIL_SMALL) : NULL;
+    HIMAGELIST hImages = subItem == 0 ? (HIMAGELIST)_ask(LVM_GETIMAGELIST, LVSIL_SMALL, 0) : NULL;
     const int image = hImages ? GetItemImageIndex(lvItem) : -1;
     if (hImages && image >= 0)
     {
@@ -593,12 +699,14 @@ void CZoListCtrl::DrawSubItem(CDC& dc, int item, int subItem)
         text = ZoCellTextRect(cell, imageWidth);
     }
 
-    if (subItem == 0 && (GetExtendedStyle() & LVS_EX_CHECKBOXES))
+    if (subItem == 0 && (_ask(LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0) & LVS_EX_CHECKBOXES))
     {
         const int side = label.Height();
         CRect box(2, label.top, 2 + side, label.top + side);
         UINT state = DFCS_BUTTONCHECK | DFCS_FLAT | DFCS_TRANSPARENT;
-        if (GetCheck(item))
+        // The state image's index, 1 unchecked and 2 checked, as GetCheck reads it.
+        const UINT stateImage = (UINT)_ask(LVM_GETITEMSTATE, (WPARAM)item, LVIS_STATEIMAGEMASK) >> 12;
+        if ((int)stateImage - 1 > 0)
             state |= DFCS_CHECKED;
         dc.DrawFrameControl(&box, DFC_BUTTON, state);
     }
@@ -626,15 +734,14 @@ void CZoListCtrl::DrawSubItem(CDC& dc, int item, int subItem)
 
 void CZoListCtrl::DrawSubitemText(CDC& dc, int item, int subItem, bool, CRect rect, DWORD backColour)
 {
-    const CString text = GetItemText(item, subItem);
+    const CString text = _itemText(item, subItem);
     if (text.IsEmpty())
         return;
-    LVCOLUMNW column = {};
-    column.mask = LVCF_FMT;
     UINT format = DT_VCENTER | DT_SINGLELINE;
-    if (GetColumn(subItem, &column))
+    int columnFormat = 0;
+    if (_columnFormat(subItem, columnFormat))
     {
-        const int justify = column.fmt & LVCFMT_JUSTIFYMASK;
+        const int justify = columnFormat & LVCFMT_JUSTIFYMASK;
         if (justify == LVCFMT_CENTER)
             format |= DT_CENTER;
         else if (justify == LVCFMT_RIGHT)

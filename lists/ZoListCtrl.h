@@ -103,6 +103,16 @@ protected:
     // A scroll notification from a skinned bar (or any other sender).
     void _onScroll(bool vertical, UINT code, UINT pos, CScrollBar* pScrollBar);
     int _rowHeight() const;
+    // The list's own answers, asked of its procedure without passing the thread's message hooks
+    // (ZoCallWindow): painting and sorting ask them for every cell.
+    LRESULT _ask(UINT message, WPARAM wParam, LPARAM lParam) const;
+    CString _itemText(int item, int subItem) const;
+    DWORD_PTR _itemData(int item) const;
+    void _setItemData(int item, DWORD_PTR data);
+    // LVM_GETSUBITEMRECT's LVIR_LABEL and LVIR_ICON rectangles of a cell.
+    void _subItemRects(int item, int subItem, CRect& label, CRect& icon);
+    // LVM_GETCOLUMN's format of `column`; false when there is no such column.
+    bool _columnFormat(int column, int& format);
     bool _isReport() const;
     void _cancelEdit();
     void _deleteRetiredEditors();
@@ -150,6 +160,23 @@ protected:
     bool m_bRedrawSuspended;
     // Editors whose windows are gone, deleted once no handler of theirs can still be running.
     std::vector<CZoEditInPlace*> m_retiredEditors;
+    // While WM_PAINT or WM_PRINTCLIENT runs: the column formats read so far, by column.
+    enum
+    {
+        kFormatUnread = -1,
+        kFormatMissing = -2
+    };
+    int m_nPaintDepth;
+    std::vector<int> m_paintColumnFormats;
+    // While WM_PAINT or WM_PRINTCLIENT runs: by column, the first cell drawn and its row's place.
+    struct PaintCell
+    {
+        bool known = false;
+        CPoint at;
+        CRect label;
+        CRect icon;
+    };
+    std::vector<PaintCell> m_paintCells;
 
 private:
     CZoListCtrl(const CZoListCtrl&);

@@ -10,6 +10,8 @@
 //
 // A block inside `#if 0` names what the layer does not offer yet.
 
+#include <stdarg.h>
+
 #include <afxwin.h>
 #include <afxcmn.h>
 #include <afxext.h>
@@ -58,6 +60,9 @@ inline void UseCoreTypes(CObject* object, CString& text)
     buffer[0] = 0;
     text.ReleaseBuffer();
     (void)text.GetBuffer(4);
+    Pin<LPWSTR (CString::*)(int)>(&CString::GetBufferSetLength);
+    (void)text.GetBufferSetLength(8);
+    text.ReleaseBuffer();
     text.ReleaseBuffer(0);
     LPCWSTR raw = text;
     (void)raw;
@@ -84,6 +89,8 @@ inline void UseCoreTypes(CObject* object, CString& text)
     Pin<void (CRect::*)(const RECT&)>(&CRect::operator=);
     Pin<BOOL (CRect::*)(const RECT&) const>(&CRect::operator==);
     Pin<CSize (CPoint::*)(POINT) const>(&CPoint::operator-);
+    Pin<CRect (CRect::*)(SIZE) const>(&CRect::operator+);
+    Pin<void (CRect::*)(int, int, int, int)>(&CRect::SetRect);
     Pin<BOOL (CSize::*)(SIZE) const>(&CSize::operator==);
 
     CRect rect(0, 0, 10, 10);
@@ -1010,10 +1017,53 @@ protected:
     CStatic m_message;
 };
 
-inline void UseDialog(SurfaceDialog& dialog)
+// A dialog built on CDialog's default constructor, filling in the template and owner itself, as
+// a class between CDialog and the host's dialogs does.
+class SurfaceSkinnedDialog : public CDialog
+{
+public:
+    SurfaceSkinnedDialog(UINT id, CWnd* parent) : CDialog()
+    {
+        m_lpszTemplateName = MAKEINTRESOURCEW(id);
+        m_nIDHelp = id;
+        m_pParentWnd = parent;
+    }
+protected:
+    BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override
+    { return CDialog::OnWndMsg(message, wParam, lParam, pResult); }
+    afx_msg LRESULT OnSetText(WPARAM, LPARAM) { return Default(); }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(SurfaceSkinnedDialog, CDialog)
+    ON_MESSAGE(WM_SETTEXT, &SurfaceSkinnedDialog::OnSetText)
+END_MESSAGE_MAP()
+
+inline void UseDialog(SurfaceDialog& dialog, CWnd* wnd, CList<CWnd*>& controls, va_list args)
 {
     (void)dialog.DoModal();
     dialog.EndDialog(IDOK);
+    (void)wnd->SetWindowPos(&CWnd::wndBottom, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    CWindowDC windowDC(wnd);
+    (void)windowDC.ExcludeClipRect(0, 0, 5, 5);
+    (void)windowDC.IntersectClipRect(0, 0, 5, 5);
+    CRect rect(0, 0, 5, 5);
+    windowDC.Draw3dRect(&rect, RGB(1, 2, 3), RGB(1, 2, 3));
+    (void)windowDC.SetTextAlign(TA_LEFT | TA_TOP);
+    CString text;
+    (void)windowDC.GetTextExtent(text);
+    (void)windowDC.TextOut(0, 0, text);
+    CRgn region;
+    (void)region.CreateRectRgnIndirect(&rect);
+    CBitmap bitmap;
+    (void)bitmap.Attach(static_cast<HBITMAP>(NULL));
+    controls.AddTail(wnd);
+    (void)controls.RemoveHead();
+    (void)controls.IsEmpty();
+    text.FormatV(L"%d", args);
+    text = AfxGetAppName();
+    (void)AfxFindResourceHandle(MAKEINTRESOURCEW(801), RT_BITMAP);
+    (void)AfxGetMainWnd();
 }
 
 // ---------------------------------------------------------------------------------------
@@ -1337,6 +1387,12 @@ protected:
     { CFrameWnd::OnInitMenuPopup(pPopupMenu, nIndex, bSysMenu); }
     afx_msg LRESULT OnMenuChar(UINT nChar, UINT nFlags, CMenu* pMenu)
     { return CFrameWnd::OnMenuChar(nChar, nFlags, pMenu); }
+    // The skinned frame replaces the non-client area through the frame class's inherited handlers.
+    afx_msg void OnNcCalcSize(BOOL bCalcValidRects, NCCALCSIZE_PARAMS* lpncsp)
+    { CFrameWnd::OnNcCalcSize(bCalcValidRects, lpncsp); }
+    afx_msg void OnNcPaint() { CFrameWnd::OnNcPaint(); }
+    afx_msg LRESULT OnNcHitTest(CPoint point) { return CFrameWnd::OnNcHitTest(point); }
+    afx_msg void OnNcLButtonDblClk(UINT nHitTest, CPoint point) { CFrameWnd::OnNcLButtonDblClk(nHitTest, point); }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -1348,6 +1404,10 @@ BEGIN_MESSAGE_MAP(SurfaceFrame, CFrameWnd)
     ON_WM_SIZE()
     ON_WM_INITMENUPOPUP()
     ON_WM_MENUCHAR()
+    ON_WM_NCCALCSIZE()
+    ON_WM_NCPAINT()
+    ON_WM_NCHITTEST()
+    ON_WM_NCLBUTTONDBLCLK()
 END_MESSAGE_MAP()
 
 inline void UseFrames(CWnd* wnd)

@@ -170,6 +170,23 @@ TEST_F(ComboTest, EmptyDropListSelectionDrawsNoText)
     EXPECT_GT(controltest::CountPixels(zotest::RenderClient(combo.GetSafeHwnd()), text, Slot(31)), 10);
 }
 
+TEST_F(ComboTest, TextFollowsASelectionThePlatformChanged)
+{
+    CZoComboBox combo;
+    Create(combo, CBS_DROPDOWNLIST);
+    combo.SetCurSel(0);
+    const zotest::Dib first = zotest::RenderClient(combo.GetSafeHwnd());
+    // The platform moves the selection itself, without CB_SETCURSEL.
+    combo.SendMessage(WM_KEYDOWN, VK_DOWN, 0);
+    ASSERT_EQ(combo.GetCurSel(), 1);
+    CZoComboBox twin;
+    Create(twin, CBS_DROPDOWNLIST, CRect(10, 210, 150, 400));
+    twin.SetCurSel(1);
+    const zotest::Dib moved = zotest::RenderClient(combo.GetSafeHwnd());
+    EXPECT_GT(controltest::Differences(first, moved), 0);
+    EXPECT_EQ(controltest::Differences(moved, zotest::RenderClient(twin.GetSafeHwnd())), 0);
+}
+
 TEST_F(ComboTest, BtnFeelTakesTheDropListFrameAndSecondArrowRow)
 {
     CZoComboBoxBtnFeel dropList;

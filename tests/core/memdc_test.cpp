@@ -143,3 +143,61 @@ TEST(MemDC, CreatingAndDestroyingLeaksNoGdiObjects)
         CZoMemDC empty(&target.dc, 0, 0);
     }, zotest::count_gdi);
 }
+
+// ---- the surface kept between paints ------------------------------------------------------
+
+TEST(MemDC, KeptSurfaceIsLentAgainBlackAndInAFreshState)
+{
+    Target target(90, 60);
+    const COLORREF defaultText = [&] {
+        CZoMemDC fresh(&target.dc, 10, 10);
+        return fresh.GetTextColor();
+    }();
+    HDC lent = nullptr;
+    {
+        CZoMemDC mem(&target.dc, 90, 60, true);
+        lent = mem.GetSafeHdc();
+        mem.FillSolidRect(0, 0, 90, 60, kFill);
+        mem.SetTextColor(RGB(1, 2, 3));
+        mem.IntersectClipRect(0, 0, 5, 5);
+        mem.SetViewportOrg(7, 7);
+    }
+    // Lent again, as large and smaller: nothing of the last paint shows.
+    for (const SIZE size : {SIZE{90, 60}, SIZE{20, 20}}) {
+        CZoMemDC mem(&target.dc, size.cx, size.cy, true);
+        EXPECT_EQ(mem.GetSafeHdc(), lent);
+        EXPECT_EQ(mem.GetTextColor(), defaultText);
+        EXPECT_EQ(mem.GetViewportOrg(), CPoint(0, 0));
+        EXPECT_TRUE(mem.PtVisible(size.cx - 1, size.cy - 1));
+        mem.CopyToTarget();
+        ZOTEST_EXPECT_FILL(target.dib, (RECT{0, 0, size.cx, size.cy}), RGB(0, 0, 0));
+        mem.FillSolidRect(0, 0, size.cx, size.cy, kFill);
+    }
+}
+
+TEST(MemDC, SurfaceAskedForWhileTheKeptOneIsLentIsItsOwn)
+{
+    Target target(30, 30);
+    CZoMemDC outer(&target.dc, 30, 30, true);
+    outer.FillSolidRect(0, 0, 30, 30, kFill);
+    {
+        CZoMemDC inner(&target.dc, 30, 30, true);
+        ASSERT_TRUE(inner.HasSurface());
+        EXPECT_NE(inner.GetSafeHdc(), outer.GetSafeHdc());
+        inner.FillSolidRect(0, 0, 30, 30, RGB(255, 0, 0));
+    }
+    EXPECT_EQ(outer.GetPixel(3, 3), kFill);
+}
+
+TEST(MemDC, FreeingTheKeptSurfaceLeavesNoGdiObjects)
+{
+    Target target(64, 64);
+    CZoMemDC::FreeKeptSurface();
+    ZOTEST_EXPECT_NO_LEAKS(3, [&] {
+        for (int side = 16; side <= 64; side += 16) {
+            CZoMemDC mem(&target.dc, side, side, true);
+            mem.FillSolidRect(0, 0, side, side, kFill);
+        }
+        CZoMemDC::FreeKeptSurface();
+    }, zotest::count_gdi);
+}

@@ -70,7 +70,7 @@ TEST_P(GalleryPageTest, OpensPaintsAndClosesWithoutLeaks)
         EXPECT_FALSE(IsRectEmpty(&drawn)) << "a blank page: " << GetParam();
 
         const std::wstring path = TempBitmapPath();
-        EXPECT_TRUE(SaveWindowClientBitmap(page->m_hWnd, path.c_str()));
+        EXPECT_TRUE(SaveWindowBitmap(page->m_hWnd, path.c_str()));
         ::DeleteFileW(path.c_str());
 
         page->DestroyWindow();

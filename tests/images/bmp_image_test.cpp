@@ -153,8 +153,10 @@ TEST_P(CellCopyTest, EveryCellCopiesItsSourceRectangle)
 
     const int uw = image.GetUnitWidth();
     const int uh = image.GetUnitHeight();
+    // Each cell twice: made from the strip, then drawn again from the cell the image keeps.
     for (int row = 0; row < strip.rows; ++row)
-        for (int column = 0; column < strip.columns; ++column) {
+        for (int draw = 0; draw < strip.columns * 2; ++draw) {
+            const int column = draw / 2;
             DibCanvas canvas(uw + 6, uh + 6);
             const POINT at = {3, 2};
             image.DrawUnitImage(canvas.dc(), at.x, at.y, column, row, kMagenta);

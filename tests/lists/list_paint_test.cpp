@@ -21,6 +21,7 @@ enum
     kBackground = 38,
     kGrid = 39,
     kSelectedRow = 40,
+    kCellText = 42,
     kSelectedFocusRow = 43,
     kFocusFrame = 44
 };
@@ -64,6 +65,48 @@ TEST_F(ListPaintTest, RowsFillGridAndFocusFrameInThemeColours)
     ZOTEST_EXPECT_PIXEL(dib, focusRow.right - 1, focusRow.CenterPoint().y, Slot(kGrid));
     // No frame on other rows.
     ZOTEST_EXPECT_PIXEL(dib, x, selectedRow.top, Slot(kSelectedRow));
+}
+
+// A column's alignment is read afresh by every paint: changed between two, the text moves.
+TEST_F(ListPaintTest, CellTextFollowsItsColumnsAlignment)
+{
+    CZoListCtrl& list = MakeList(0, kRows);
+    const CRect cell = Label(2, 1);
+    // The leftmost pixel in the cell's text colour.
+    const auto inkLeft = [&] {
+        const zotest::Dib dib = zotest::RenderClient(list.GetSafeHwnd());
+        for (int x = cell.left; x < cell.right; ++x)
+            for (int y = cell.top; y < cell.bottom; ++y)
+                if (dib.Pixel(x, y) == Slot(kCellText))
+                    return static_cast<int>(x - cell.left);
+        return -1;
+    };
+    const int left = inkLeft();
+    ASSERT_GE(left, 0);
+    LVCOLUMNW column = {};
+    column.mask = LVCF_FMT;
+    column.fmt = LVCFMT_RIGHT;
+    list.SetColumn(1, &column);
+    const int right = inkLeft();
+    EXPECT_GT(right, left + cell.Width() / 2);
+    column.fmt = LVCFMT_LEFT;
+    list.SetColumn(1, &column);
+    EXPECT_EQ(inkLeft(), left);
+}
+
+// Cell places are read afresh by every paint: a column made wider draws its grid line further.
+TEST_F(ListPaintTest, CellsFollowAColumnWidthChangedBetweenPaints)
+{
+    CZoListCtrl& list = MakeList(0, kRows);
+    const CRect before = Label(2, 1);
+    ZOTEST_EXPECT_PIXEL(zotest::RenderClient(list.GetSafeHwnd()), before.right - 1, before.CenterPoint().y,
+                        Slot(kGrid));
+    list.SetColumnWidth(1, 160);
+    const CRect after = Label(2, 1);
+    ASSERT_GT(after.right, before.right + 20);
+    const zotest::Dib dib = zotest::RenderClient(list.GetSafeHwnd());
+    ZOTEST_EXPECT_PIXEL(dib, after.right - 1, after.CenterPoint().y, Slot(kGrid));
+    ZOTEST_EXPECT_PIXEL(dib, before.right - 1, before.CenterPoint().y, Slot(kBackground));
 }
 
 TEST_F(ListPaintTest, ColumnZeroDrawsTheSmallImageAndCheckBoxes)

@@ -5,6 +5,8 @@
 #include <commctrl.h>
 
 #include <climits>
+#include <utility>
+#include <vector>
 
 #include "controls/SeparatorWnd.h"
 #include "controls/ZoButton.h"
@@ -21,6 +23,7 @@
 #include "controls/ZoTabCtrl.h"
 #include "lists/ZoHeaderCtrl.h"
 #include "lists/ZoListCtrl.h"
+#include "lists/ZoTreeListCtrl.h"
 
 using namespace ZoControls;
 
@@ -195,10 +198,29 @@ std::vector<Message> SpinMessages()
                     }}};
 }
 
+// Range ends the platform's own trackbar survives: under Wine it allocates its automatic ticks
+// for the whole range itself, and a range near the full int span overflows that allocation. A
+// million still makes far more ticks than the slider keeps.
+int SliderRangeEnd(Random& random)
+{
+    const int end = Extreme(random);
+    return end > 1000000 ? 1000000 : end < -1000000 ? -1000000 : end;
+}
+
+Message RangeEnd(const char* name, UINT message)
+{
+    return Message{name, [message](HWND control, Random& random) {
+                       const LPARAM lParam = message == TBM_SETRANGE
+                                                 ? MAKELPARAM(SliderRangeEnd(random) & 0xFFFF, SliderRangeEnd(random) & 0xFFFF)
+                                                 : (LPARAM)SliderRangeEnd(random);
+                       SendMessageW(control, message, random.Below(2), lParam);
+                   }};
+}
+
 std::vector<Message> SliderMessages()
 {
-    return {Values("TBM_SETRANGE", TBM_SETRANGE),       Values("TBM_SETRANGEMIN", TBM_SETRANGEMIN),
-            Values("TBM_SETRANGEMAX", TBM_SETRANGEMAX), Values("TBM_SETPOS", TBM_SETPOS),
+    return {RangeEnd("TBM_SETRANGE", TBM_SETRANGE),       RangeEnd("TBM_SETRANGEMIN", TBM_SETRANGEMIN),
+            RangeEnd("TBM_SETRANGEMAX", TBM_SETRANGEMAX), Values("TBM_SETPOS", TBM_SETPOS),
             Values("TBM_SETTIC", TBM_SETTIC),           Values("TBM_SETTICFREQ", TBM_SETTICFREQ),
             Values("TBM_CLEARTICS", TBM_CLEARTICS),     Values("TBM_SETSEL", TBM_SETSEL),
             Values("TBM_SETSELSTART", TBM_SETSELSTART), Values("TBM_SETSELEND", TBM_SETSELEND),
@@ -284,10 +306,18 @@ std::vector<Message> HeaderMessages()
             With<RECT>("HDM_GETITEMRECT", HDM_GETITEMRECT,
                        [](RECT&, Random& random) { return (WPARAM)(INT_PTR)Extreme(random); }),
             Message{"HDM_SETORDERARRAY", [](HWND control, Random& random) {
-                        int order[8];
-                        for (int& column : order)
-                            column = Extreme(random);
-                        SendMessageW(control, HDM_SETORDERARRAY, random.Below(9), (LPARAM)order);
+                        // A shuffled order of the items there are, its count sometimes wrong. Wine's
+                        // header trusts every index in the array and writes outside its items for
+                        // a bad one (its native control corrupts the heap on the same input).
+                        const int count = (int)SendMessageW(control, HDM_GETITEMCOUNT, 0, 0);
+                        std::vector<int> order(count > 0 ? count : 1);
+                        for (int i = 0; i < (int)order.size(); ++i)
+                            order[i] = i;
+                        for (size_t i = order.size(); i > 1; --i)
+                            std::swap(order[i - 1], order[random.Below(i)]);
+                        const WPARAM claimed = random.OneIn(4) ? (WPARAM)random.Below(order.size() + 2) : order.size();
+                        SendMessageW(control, HDM_SETORDERARRAY, claimed <= order.size() ? claimed : order.size(),
+                                     (LPARAM)order.data());
                     }},
             Call<CZoHeaderCtrl>("SetSortOption", [](CZoHeaderCtrl& header, Random& random) {
                 header.SetSortOption(Extreme(random), random.OneIn(2));
@@ -402,6 +432,38 @@ std::vector<Message> ComboMessages()
             })};
 }
 
+std::vector<Message> TreeListMessages()
+{
+    std::vector<Message> messages = ListMessages();
+    // Node handles are pointers: only those of existing rows (or 0) are passed.
+    auto nodeOfSomeRow = [](CZoTreeListCtrl& tree, Random& random) {
+        return tree.GetItemNode(random.OneIn(3) ? Extreme(random) : (int)random.Below(20));
+    };
+    messages.push_back(Call<CZoTreeListCtrl>("InsertNode", [nodeOfSomeRow](CZoTreeListCtrl& tree, Random& random) {
+        tree.InsertNode(nodeOfSomeRow(tree, random), L"node & (child)", Extreme(random));
+    }));
+    messages.push_back(Call<CZoTreeListCtrl>("Expand/Collapse", [](CZoTreeListCtrl& tree, Random& random) {
+        const int row = random.OneIn(3) ? Extreme(random) : (int)random.Below(20);
+        if (random.OneIn(2))
+            tree.Expand(row);
+        else
+            tree.Collapse(row);
+    }));
+    messages.push_back(Call<CZoTreeListCtrl>("DeleteNode", [](CZoTreeListCtrl& tree, Random& random) {
+        tree.DeleteNode(random.OneIn(3) ? Extreme(random) : (int)random.Below(20), random.OneIn(2));
+    }));
+    messages.push_back(Call<CZoTreeListCtrl>("SetItemBold/Focus", [](CZoTreeListCtrl& tree, Random& random) {
+        tree.SetItemBold(Extreme(random), Extreme(random));
+        tree.SetItemFocus(Extreme(random));
+        tree.SetItemText(Extreme(random), Extreme(random), L"text");
+    }));
+    messages.push_back(Call<CZoTreeListCtrl>("Reset", [](CZoTreeListCtrl& tree, Random& random) {
+        if (random.OneIn(4))
+            tree.Reset(Extreme(random));
+    }));
+    return messages;
+}
+
 // ---------------------------------------------------------------- creation of the odd ones
 
 CWnd* CreateSeparator(CWnd& host, DWORD style, const RECT& rect, UINT id)
@@ -446,6 +508,18 @@ void ProvokeList(HWND control)
     if (HWND editor = (HWND)SendMessageW(control, LVM_GETEDITCONTROL, 0, 0))
         PressKey(editor, VK_RETURN);
     SetFocus(GetParent(control));
+}
+
+void ProvokeTree(HWND control)
+{
+    if (CZoTreeListCtrl* tree = dynamic_cast<CZoTreeListCtrl*>(CWnd::FromHandlePermanent(control))) {
+        tree->InsertColumn(0, L"Name", LVCFMT_LEFT, 120);
+        const DWORD_PTR parent = tree->InsertNode(0, L"parent");
+        tree->InsertNode(parent, L"child");
+        tree->Collapse(0);
+        tree->Expand(0);
+    }
+    ProvokeList(control);
 }
 
 void ProvokeCombo(HWND control)
@@ -611,6 +685,8 @@ const std::vector<Kind>& Kinds()
          {LVS_REPORT | LVS_EDITLABELS, LVS_REPORT | LVS_OWNERDATA, LVS_ICON, LVS_LIST, LVS_SMALLICON,
           LVS_REPORT | LVS_NOCOLUMNHEADER, LVS_REPORT | LVS_SINGLESEL | LVS_SHOWSELALWAYS | WS_BORDER},
          CreatePlain<CZoListCtrl>, ListMessages(), ProvokeList, CreatePlain<CListCtrl>},
+        {"CZoTreeListCtrl", {LVS_REPORT | LVS_SHOWSELALWAYS, LVS_REPORT | LVS_EDITLABELS | WS_BORDER},
+         CreatePlain<CZoTreeListCtrl>, TreeListMessages(), ProvokeTree, CreatePlain<CListCtrl>},
     };
     return kinds;
 }

@@ -3,6 +3,17 @@
 #include "GalleryPage.h"
 #include "core/ZoMemDC.h"
 
+namespace {
+// Colour slot 0 is the themed windows' background.
+const ZoControls::E_ZoThemeColors kBackSlot = ZoControls::ZoThemeColor_First;
+} // namespace
+
+COLORREF GalleryBackColor(ZoControls::E_ZoTheme theme)
+{
+    const ZoControls::CZoThemeManager* manager = ZoControls::CZoThemeManager::GetInstance();
+    return manager ? manager->GetGDIColor(kBackSlot, theme) : ::GetSysColor(COLOR_WINDOW);
+}
+
 BEGIN_MESSAGE_MAP(CGalleryPage, ZoControls::CZoWnd)
     ON_WM_PAINT()
     ON_WM_ERASEBKGND()
@@ -20,7 +31,8 @@ CGalleryPage::~CGalleryPage()
 BOOL CGalleryPage::CreatePage(CWnd* pParent, const CRect& rect, UINT nID)
 {
     const LPCTSTR className = AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursor(NULL, IDC_ARROW));
-    if (!CreateEx(0, className, L"", WS_CHILD | WS_CLIPCHILDREN, rect.left, rect.top, rect.Width(),
+    // A control parent, so that Tab walks into the page's controls.
+    if (!CreateEx(WS_EX_CONTROLPARENT, className, L"", WS_CHILD | WS_CLIPCHILDREN, rect.left, rect.top, rect.Width(),
                   rect.Height(), pParent->GetSafeHwnd(), reinterpret_cast<HMENU>(static_cast<UINT_PTR>(nID))))
         return FALSE;
     return OnCreatePage();
@@ -33,10 +45,7 @@ BOOL CGalleryPage::OnCreatePage()
 
 void CGalleryPage::DrawPage(CDC& dc, const CRect& client)
 {
-    const ZoControls::CZoThemeManager* manager = ZoControls::CZoThemeManager::GetInstance();
-    const COLORREF back = manager ? manager->GetGDIColor(static_cast<ZoControls::E_ZoThemeColors>(0), GetZoTheme())
-                                  : ::GetSysColor(COLOR_WINDOW);
-    dc.FillSolidRect(&client, back);
+    dc.FillSolidRect(&client, GalleryBackColor(GetZoTheme()));
 }
 
 void CGalleryPage::_paintInto(CDC& dc)

@@ -170,7 +170,7 @@ BOOL CMenusPage::OnCreatePage()
 {
     m_preview.Attach(BuildEditMenu());
     CMenuXP::SetXPLookNFeel(this, m_preview.GetSafeHmenu(), true, false);
-    return m_openButton.Create(L"BUTTON", L"Open a frame with menu bar and toolbar", WS_CHILD | WS_VISIBLE | BS_PUSHBUTTON,
+    return m_openButton.Create(L"Open a frame with menu bar and toolbar", WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_PUSHBUTTON,
                                CRect(kMargin * 2 + kPreviewWidth, kMargin, kMargin * 2 + kPreviewWidth + 280, kMargin + 28),
                                this, kOpenFrameButton);
 }

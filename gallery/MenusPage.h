@@ -42,5 +42,5 @@ private:
     void _drawPopupPreview(CDC& dc, const CPoint& origin);
 
     CMenu m_preview;
-    CWnd m_openButton;
+    ZoControls::CZoButton m_openButton;
 };

@@ -13,7 +13,7 @@ const DWORD kChild = WS_CHILD | WS_VISIBLE;
 
 const CPoint kHorizontalHeading(12, 8);
 const CRect kFirstHorizontal(12, 32, 292, 72);
-const int kHorizontalPitch = 48;
+const int kHorizontalPitch = 60;
 const int kLabelWidth = 260;
 
 struct SliderSpec
@@ -33,7 +33,7 @@ const SliderSpec kHorizontal[] = {
 };
 
 const CPoint kVerticalHeading(600, 8);
-const CRect kFirstVertical(600, 32, 650, 272);
+const CRect kFirstVertical(600, 32, 650, 472);
 const int kVerticalPitch = 70;
 const SliderSpec kVertical[] = {
     {TBS_VERT | TBS_BOTH | TBS_AUTOTICKS, L"both"},
@@ -42,9 +42,9 @@ const SliderSpec kVertical[] = {
     {TBS_VERT | TBS_BOTH | TBS_AUTOTICKS | WS_DISABLED, L"disabled"},
 };
 
-const CPoint kRangeHeading(12, 392);
-const CRect kRangeRect(12, 416, 412, 476);
-const CRect kRangeReadout(424, 430, 824, 450);
+const CPoint kRangeHeading(12, 512);
+const CRect kRangeRect(12, 536, 712, 596);
+const CRect kRangeReadout(724, 550, 1004, 570);
 
 } // namespace
 

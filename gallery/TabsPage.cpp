@@ -8,8 +8,8 @@ namespace {
 
 const UINT kFirstTabId = 100;
 const UINT kFirstPageId = 120;
-const CRect kFirstCell(12, 32, 312, 212);
-const CSize kCellStep(336, 240);
+const CRect kFirstCell(12, 32, 312, 272);
+const CSize kCellStep(336, 280);
 const int kColumns = 3;
 const int kFixedTabWidth = 70;
 

@@ -42,10 +42,14 @@ BOOL CGalleryMainWnd::CreateMain(int clientWidth, int clientHeight)
     if (!CreateEx(0, NULL, L"ZoCtrl Gallery", style, 40, 40, clientWidth, clientHeight, NULL,
                   NULL))
         return FALSE;
-    // The border's thickness depends on the size class the frame found: add it now.
+    // The border's thickness and the zoom depend on the size class the frame found: the pages
+    // and the list grow by the zoom, the border is added around them.
     CRect client;
     GetClientRect(&client);
-    SetWindowPos(NULL, 0, 0, 2 * clientWidth - client.Width(), 2 * clientHeight - client.Height(),
+    const float zoom = GetZoZoomFactor();
+    const int width = static_cast<int>((clientWidth - kListWidth) * zoom + 0.5f) + _listWidth();
+    const int height = static_cast<int>(clientHeight * zoom + 0.5f);
+    SetWindowPos(NULL, 0, 0, width + clientWidth - client.Width(), height + clientHeight - client.Height(),
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     return TRUE;
 }

@@ -22,6 +22,7 @@ public:
     CGalleryMainWnd();
     virtual ~CGalleryMainWnd();
 
+    // The client size is that of the normal size class; larger classes magnify it by their zoom.
     BOOL CreateMain(int clientWidth, int clientHeight);
     int GetPageCount() const;
     CString GetPageTitle(int index) const;

@@ -27,6 +27,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    void _registerChildren();
     void _paintInto(CDC& dc);
 };
 

@@ -9,7 +9,7 @@ namespace {
 const UINT kFirstHorizontalId = 100;
 const UINT kFirstVerticalId = 120;
 const UINT kRangeId = 140;
-const DWORD kChild = WS_CHILD | WS_VISIBLE;
+const DWORD kChild = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
 
 const CPoint kHorizontalHeading(12, 8);
 const CRect kFirstHorizontal(12, 32, 292, 72);
@@ -110,7 +110,7 @@ BOOL CSlidersPage::_createVertical()
 BOOL CSlidersPage::_createRangeSlider()
 {
     if (!m_range.Create(kChild | TBS_ENABLESELRANGE | TBS_BOTH | TBS_AUTOTICKS, kRangeRect, this, kRangeId) ||
-        !m_rangeReadout.Create(L"", kChild | SS_LEFT | SS_CENTERIMAGE, kRangeReadout, this))
+        !m_rangeReadout.Create(L"", WS_CHILD | WS_VISIBLE | SS_LEFT | SS_CENTERIMAGE, kRangeReadout, this))
         return FALSE;
     m_range.SetRange(0, 100, TRUE);
     m_range.SetTicFreq(10);

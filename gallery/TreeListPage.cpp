@@ -138,7 +138,7 @@ BOOL CTreeListPage::OnCreatePage()
     if (!m_save.Create(L"Save to file", kChild | BS_PUSHBUTTON, kSaveRect, this, kSaveId) ||
         !m_load.Create(L"Load from file", kChild | BS_PUSHBUTTON, kLoadRect, this, kLoadId) ||
         !m_build.Create(L"Build 100,000 nodes", kChild | BS_PUSHBUTTON, kBuildRect, this, kBuildId) ||
-        !m_status.Create(L"", kChild | SS_LEFT | SS_CENTERIMAGE, kStatusRect, this))
+        !m_status.Create(L"", WS_CHILD | WS_VISIBLE | SS_LEFT | SS_CENTERIMAGE, kStatusRect, this))
         return FALSE;
     return TRUE;
 }

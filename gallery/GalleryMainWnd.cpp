@@ -90,8 +90,7 @@ void CGalleryMainWnd::OnDestroy()
         delete m_pages[i];
     }
     m_pages.clear();
-    ZoControls::CZoFrameWnd::OnDestroy();
-    AfxPostQuitMessage(0);
+    ZoControls::CZoFrameWnd::OnDestroy(); // as the main window, the framework ends the application
 }
 
 // One top-level row per family, its pages below it, all open. A page row's item data is its

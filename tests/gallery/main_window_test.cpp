@@ -9,6 +9,7 @@
 #include <zotest/zotest.h>
 
 #include "GalleryMainWnd.h"
+#include "gallery_test_support.h"
 #include "ZoCtrl.h"
 
 namespace {
@@ -38,10 +39,8 @@ int ShownPage(const CGalleryMainWnd& main)
 
 TEST(GalleryMainWindow, PageListRowsShowTheirPages)
 {
-    ULONG_PTR token = 0;
-    Gdiplus::GdiplusStartupInput input;
-    Gdiplus::GdiplusStartup(&token, &input, nullptr);
-    ASSERT_TRUE(InitializeZoCtrl());
+    ScopedGalleryLibrary library;
+    ASSERT_TRUE(library.Started());
     CGalleryMainWnd* main = new CGalleryMainWnd; // deletes itself when destroyed
     ASSERT_TRUE(main->CreateMain(1200, 860));
     const HWND list = ::GetDlgItem(main->m_hWnd, kPageListId);
@@ -83,8 +82,6 @@ TEST(GalleryMainWindow, PageListRowsShowTheirPages)
 
     main->DestroyWindow();
     zotest::PumpUntilIdle();
-    UninitializeZoCtrl();
-    Gdiplus::GdiplusShutdown(token);
 }
 
 } // namespace

@@ -3,6 +3,17 @@
 #include "GalleryPage.h"
 #include "core/ZoMemDC.h"
 
+namespace {
+// Colour slot 0 is the themed windows' background.
+const ZoControls::E_ZoThemeColors kBackSlot = ZoControls::ZoThemeColor_First;
+} // namespace
+
+COLORREF GalleryBackColor(ZoControls::E_ZoTheme theme)
+{
+    const ZoControls::CZoThemeManager* manager = ZoControls::CZoThemeManager::GetInstance();
+    return manager ? manager->GetGDIColor(kBackSlot, theme) : ::GetSysColor(COLOR_WINDOW);
+}
+
 BEGIN_MESSAGE_MAP(CGalleryPage, ZoControls::CZoWnd)
     ON_WM_PAINT()
     ON_WM_ERASEBKGND()
@@ -20,10 +31,33 @@ CGalleryPage::~CGalleryPage()
 BOOL CGalleryPage::CreatePage(CWnd* pParent, const CRect& rect, UINT nID)
 {
     const LPCTSTR className = AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursor(NULL, IDC_ARROW));
-    if (!CreateEx(0, className, L"", WS_CHILD | WS_CLIPCHILDREN, rect.left, rect.top, rect.Width(),
+    // A control parent, so that Tab walks into the page's controls.
+    if (!CreateEx(WS_EX_CONTROLPARENT, className, L"", WS_CHILD | WS_CLIPCHILDREN, rect.left, rect.top, rect.Width(),
                   rect.Height(), pParent->GetSafeHwnd(), reinterpret_cast<HMENU>(static_cast<UINT_PTR>(nID))))
         return FALSE;
-    return OnCreatePage();
+    if (!OnCreatePage())
+        return FALSE;
+    _registerChildren();
+    return TRUE;
+}
+
+// Pages are laid out for the normal size class. At a larger one every control keeps its place
+// and size in those units, scaled by the zoom each time the page is sized, so that the larger
+// fonts find room.
+void CGalleryPage::_registerChildren()
+{
+    if (GetZoZoomFactor() == 1.0f)
+        return;
+    for (HWND child = ::GetWindow(m_hWnd, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
+        CWnd* pChild = CWnd::FromHandlePermanent(child);
+        if (!pChild)
+            continue;
+        CRect rect;
+        pChild->GetWindowRect(&rect);
+        ScreenToClient(&rect);
+        RegisterChildWindow(pChild, rect, true);
+    }
+    ResizeRegisteredWindows();
 }
 
 BOOL CGalleryPage::OnCreatePage()
@@ -33,10 +67,7 @@ BOOL CGalleryPage::OnCreatePage()
 
 void CGalleryPage::DrawPage(CDC& dc, const CRect& client)
 {
-    const ZoControls::CZoThemeManager* manager = ZoControls::CZoThemeManager::GetInstance();
-    const COLORREF back = manager ? manager->GetGDIColor(static_cast<ZoControls::E_ZoThemeColors>(0), GetZoTheme())
-                                  : ::GetSysColor(COLOR_WINDOW);
-    dc.FillSolidRect(&client, back);
+    dc.FillSolidRect(&client, GalleryBackColor(GetZoTheme()));
 }
 
 void CGalleryPage::_paintInto(CDC& dc)
@@ -44,7 +75,18 @@ void CGalleryPage::_paintInto(CDC& dc)
     CRect client;
     GetClientRect(&client);
     ZoControls::CZoMemDC mem(&dc, client.Width(), client.Height());
-    DrawPage(mem, client);
+    // Drawn in the normal size class's units, magnified like the controls.
+    const float zoom = GetZoZoomFactor();
+    if (zoom == 1.0f || zoom <= 0.0f) {
+        DrawPage(mem, client);
+    } else {
+        const int oldMode = ::SetGraphicsMode(mem.GetSafeHdc(), GM_ADVANCED);
+        const XFORM scale = {zoom, 0.0f, 0.0f, zoom, 0.0f, 0.0f};
+        ::SetWorldTransform(mem.GetSafeHdc(), &scale);
+        DrawPage(mem, CRect(0, 0, static_cast<int>(client.Width() / zoom), static_cast<int>(client.Height() / zoom)));
+        ::ModifyWorldTransform(mem.GetSafeHdc(), NULL, MWT_IDENTITY);
+        ::SetGraphicsMode(mem.GetSafeHdc(), oldMode);
+    }
     mem.CopyToTarget();
 }
 

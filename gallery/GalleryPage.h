@@ -27,6 +27,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    void _registerChildren();
     void _paintInto(CDC& dc);
 };
 
@@ -41,9 +42,15 @@ LRESULT PaintForPrintClient(WPARAM wParam, Paint paint)
     return 0;
 }
 
-// One registered page: its title (also the screenshot's file name) and how to make it.
+// The gallery's background: the theme's window colour (the system's face colour before the
+// library starts).
+COLORREF GalleryBackColor(ZoControls::E_ZoTheme theme);
+
+// One registered page: the family it is listed under, its title (also the screenshot's file
+// name) and how to make it.
 struct GalleryPageEntry
 {
+    const wchar_t* family;
     const wchar_t* title;
     CGalleryPage* (*create)();
 };
@@ -54,5 +61,5 @@ CGalleryPage* CreateGalleryPage()
     return new TPage;
 }
 
-// The registered pages, in the order the gallery lists them.
+// The registered pages, in the order the gallery lists them; pages of one family are adjacent.
 const GalleryPageEntry* GetGalleryPages(int& count);

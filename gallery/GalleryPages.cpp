@@ -1,4 +1,4 @@
-// The gallery's pages, in the order they are listed. One line per page.
+// The gallery's pages, in the order they are listed, under their families. One line per page.
 #include <afxwin.h>
 
 #include "ButtonsPage.h"
@@ -16,21 +16,22 @@
 #include "TreeListPage.h"
 
 namespace {
+// The controls first, the theme and skin sheets last.
 const GalleryPageEntry kPages[] = {
-    {L"Theme", &CreateGalleryPage<CThemePage>},
-    {L"Skins", &CreateGalleryPage<CSkinsPage>},
-    {L"Skins 3M", &CreateGalleryPage<CSkins3MPage>},
-    {L"Skins 5M", &CreateGalleryPage<CSkins5MPage>},
-    {L"Menus", &CreateGalleryPage<CMenusPage>},
-    {L"Scrolling", &CreateGalleryPage<CScrollingPage>},
-    {L"Buttons", &CreateGalleryPage<CButtonsPage>},
-    {L"Statics", &CreateGalleryPage<CStaticsPage>},
-    {L"Edits and combos", &CreateGalleryPage<CEditsPage>},
-    {L"Sliders", &CreateGalleryPage<CSlidersPage>},
-    {L"Tabs", &CreateGalleryPage<CTabsPage>},
-    {L"Lists", &CreateGalleryPage<CListsPage>},
-    {L"Tree-list", &CreateGalleryPage<CTreeListPage>},
-    {L"Dialogs", &CreateGalleryPage<CDialogsPage>},
+    {L"Controls", L"Buttons", &CreateGalleryPage<CButtonsPage>},
+    {L"Controls", L"Statics", &CreateGalleryPage<CStaticsPage>},
+    {L"Controls", L"Edits and combos", &CreateGalleryPage<CEditsPage>},
+    {L"Controls", L"Scrolling", &CreateGalleryPage<CScrollingPage>},
+    {L"Controls", L"Sliders", &CreateGalleryPage<CSlidersPage>},
+    {L"Controls", L"Tabs", &CreateGalleryPage<CTabsPage>},
+    {L"Lists", L"Lists", &CreateGalleryPage<CListsPage>},
+    {L"Lists", L"Tree-list", &CreateGalleryPage<CTreeListPage>},
+    {L"Windows", L"Dialogs", &CreateGalleryPage<CDialogsPage>},
+    {L"Windows", L"Menus", &CreateGalleryPage<CMenusPage>},
+    {L"Look", L"Theme", &CreateGalleryPage<CThemePage>},
+    {L"Look", L"Skins", &CreateGalleryPage<CSkinsPage>},
+    {L"Look", L"Skins 3M", &CreateGalleryPage<CSkins3MPage>},
+    {L"Look", L"Skins 5M", &CreateGalleryPage<CSkins5MPage>},
 };
 } // namespace
 

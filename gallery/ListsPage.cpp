@@ -8,9 +8,9 @@ namespace {
 
 const DWORD kChild = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
 const int kMargin = 10;
-const CRect kReportRect(kMargin, 30, kMargin + 470, 330);
-const CRect kFillRect(kMargin, 340, kMargin + 160, 366);
-const CRect kVirtualRect(kMargin + 490, 30, kMargin + 490 + 300, 330);
+const CRect kReportRect(kMargin, 30, kMargin + 470, 780);
+const CRect kFillRect(kMargin, 790, kMargin + 160, 816);
+const CRect kVirtualRect(kMargin + 490, 30, kMargin + 490 + 300, 780);
 const UINT kReportId = 1400;
 const UINT kVirtualId = 1401;
 const UINT kFillId = 1402;

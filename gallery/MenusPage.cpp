@@ -10,6 +10,7 @@ namespace {
 const UINT kOpenFrameButton = 300;
 const int kMargin = 12;
 const int kPreviewWidth = 230;
+const int kButtonTop = 200; // below the previews
 
 // Commands shared by the demo menus and the demo toolbar.
 enum DemoCommand
@@ -168,38 +169,46 @@ CMenusPage::~CMenusPage()
 
 BOOL CMenusPage::OnCreatePage()
 {
-    m_preview.Attach(BuildEditMenu());
-    CMenuXP::SetXPLookNFeel(this, m_preview.GetSafeHmenu(), true, false);
-    return m_openButton.Create(L"BUTTON", L"Open a frame with menu bar and toolbar", WS_CHILD | WS_VISIBLE | BS_PUSHBUTTON,
-                               CRect(kMargin * 2 + kPreviewWidth, kMargin, kMargin * 2 + kPreviewWidth + 280, kMargin + 28),
+    m_previews[0].Attach(BuildFileMenu());
+    m_previews[1].Attach(BuildEditMenu());
+    m_previews[2].Attach(BuildViewMenu());
+    for (CMenu& preview : m_previews)
+        CMenuXP::SetXPLookNFeel(this, preview.GetSafeHmenu(), true, false);
+    return m_openButton.Create(L"Open a frame with menu bar and toolbar", WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_PUSHBUTTON,
+                               CRect(kMargin, kButtonTop, kMargin + 280, kButtonTop + 28),
                                this, kOpenFrameButton);
 }
 
 void CMenusPage::OnDestroy()
 {
-    m_preview.DestroyMenu();
+    for (CMenu& preview : m_previews)
+        preview.DestroyMenu();
     CGalleryPage::OnDestroy();
 }
 
 void CMenusPage::DrawPage(CDC& dc, const CRect& client)
 {
     CGalleryPage::DrawPage(dc, client);
-    _drawPopupPreview(dc, CPoint(client.left + kMargin, client.top + kMargin));
+    // Each popup as it looks when open, its second item under the mouse.
+    for (int i = 0; i < PreviewCount; ++i)
+        _drawPopupPreview(dc, m_previews[i], CPoint(client.left + kMargin + i * (kPreviewWidth + kMargin), client.top + kMargin),
+                          1);
     const CZoThemeManager* pTheme = CZoThemeManager::GetInstance();
     if (!pTheme)
         return;
     CFont* pOld = dc.SelectObject(const_cast<CFont*>(pTheme->GetCacheGDIFont(ZoThemeFont_2, ZoMonitorSize_Normal)));
     dc.SetBkMode(TRANSPARENT);
     dc.SetTextColor(pTheme->GetGDIColor(static_cast<E_ZoThemeColors>(2), ZoTheme_Default));
-    CRect hint(client.left + kMargin * 2 + kPreviewWidth, client.top + kMargin + 40, client.right - kMargin, client.top + 120);
-    dc.DrawText(L"Right-click anywhere on this page for a context menu.", &hint, DT_LEFT | DT_WORDBREAK | DT_NOPREFIX);
+    CRect hint(client.left + kMargin * 2 + 280, client.top + kButtonTop, client.right - kMargin, client.top + kButtonTop + 28);
+    dc.DrawText(L"Right-click anywhere on this page for a context menu.", &hint,
+                DT_LEFT | DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
     dc.SelectObject(pOld);
 }
 
-// The "Edit" popup as it looks when open, with its second item highlighted.
-void CMenusPage::_drawPopupPreview(CDC& dc, const CPoint& origin)
+// A popup as it looks when open, with item `highlighted` highlighted.
+void CMenusPage::_drawPopupPreview(CDC& dc, const CMenu& menu, const CPoint& origin, int highlighted)
 {
-    const HMENU hMenu = m_preview.GetSafeHmenu();
+    const HMENU hMenu = menu.GetSafeHmenu();
     if (!hMenu)
         return;
     int y = origin.y + 3;
@@ -217,7 +226,7 @@ void CMenusPage::_drawPopupPreview(CDC& dc, const CPoint& origin)
         dis.CtlType = ODT_MENU;
         dis.itemID = info.wID;
         dis.itemAction = ODA_DRAWENTIRE;
-        dis.itemState = i == 1 ? ODS_SELECTED : 0;
+        dis.itemState = i == highlighted ? ODS_SELECTED : 0;
         dis.hwndItem = reinterpret_cast<HWND>(hMenu);
         dis.hDC = dc.GetSafeHdc();
         dis.rcItem = CRect(origin.x + 3, y, origin.x + kPreviewWidth - 3, y + static_cast<int>(measure.itemHeight));

@@ -1,4 +1,4 @@
-// "Menus": the owner-drawn menus. The page shows a drawn preview of a popup, a button that opens
+// "Menus": the owner-drawn menus. The page shows drawn previews of the File, Edit and View popups, a button that opens
 // a frame window with a menu bar and a toolbar whose buttons share their commands with menu
 // items (so those items show the buttons' icons), and a context menu on right click.
 #pragma once
@@ -39,8 +39,9 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    void _drawPopupPreview(CDC& dc, const CPoint& origin);
+    void _drawPopupPreview(CDC& dc, const CMenu& menu, const CPoint& origin, int highlighted);
 
-    CMenu m_preview;
-    CWnd m_openButton;
+    enum { PreviewCount = 3 };
+    CMenu m_previews[PreviewCount]; // File, Edit, View
+    ZoControls::CZoButton m_openButton;
 };

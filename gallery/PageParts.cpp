@@ -9,7 +9,7 @@ namespace {
 
 const int kHeadingHeight = 20;
 const int kLabelHeight = 16;
-const int kHeadingWidth = 500;
+const int kHeadingWidth = 1000; // the page's width: headings are never clipped
 // Theme slots of the captions: labels as group-box text, headings as dialog caption text.
 const int kLabelSlot = 50;
 const int kHeadingSlot = 2;

@@ -40,7 +40,7 @@ const CPoint kSpinHeading(320, 252);
 const CRect kSpinEdits[2] = {CRect(320, 280, 380, 302), CRect(320, 312, 380, 334)};
 const CRect kSpinLabels[2] = {CRect(392, 280, 560, 302), CRect(392, 312, 560, 334)};
 const CPoint kPanesHeading(12, 424);
-const CRect kPanesArea(12, 448, 560, 568);
+const CRect kPanesArea(12, 448, 1010, 840);
 
 const CZoThemeManager* Theme()
 {
@@ -240,7 +240,7 @@ BOOL CScrollingPage::_createSpinButtons()
     // Each starts at one end of its range, so that half shows its disabled look.
     const DWORD child = WS_CHILD | WS_VISIBLE;
     const DWORD spin = child | UDS_SETBUDDYINT | UDS_ALIGNRIGHT | UDS_ARROWKEYS;
-    const DWORD edit = child | WS_BORDER | ES_NUMBER;
+    const DWORD edit = child | WS_TABSTOP | WS_BORDER | ES_NUMBER;
     if (!m_editVertical.Create(edit, kSpinEdits[0], this, kFirstSpinId) ||
         !m_spinVertical.Create(spin, CRect(0, 0, 0, 0), this, kFirstSpinId + 1) ||
         !m_editHorizontal.Create(edit, kSpinEdits[1], this, kFirstSpinId + 2) ||

@@ -85,8 +85,8 @@ private:
     ZoControls::CZoProgressCtrl m_aProgress[ProgressCount];
     ZoControls::CZoSpinButtonCtrl m_spinVertical;
     ZoControls::CZoSpinButtonCtrl m_spinHorizontal;
-    CEdit m_editVertical;
-    CEdit m_editHorizontal;
+    ZoControls::CZoEdit m_editVertical;
+    ZoControls::CZoEdit m_editHorizontal;
     ZoControls::CSeparatorWnd* m_pSeparator;
     SplitPanesLayout m_panes;
     CPageLabels m_labels;

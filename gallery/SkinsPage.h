@@ -21,6 +21,7 @@ public:
         int width;           // picture size in pixels
         int height;
         CRect place;         // the whole tile: label, numbers and magnified picture
+        int labelWidth = 0;  // the label's width in pixels: the tile is never narrower
     };
 
     // Places the tiles, tallest first, left to right in rows inside `area` at magnification
@@ -33,6 +34,7 @@ protected:
 
 private:
     std::vector<Tile> _makeTiles() const;
+    CString _label(const Tile& tile) const;
     void _drawTile(CDC& dc, const Tile& tile, int scale) const;
     void _drawPicture(CDC& dc, const Tile& tile, const CRect& picture, int scale) const;
     void _drawGrid(CDC& dc, const Tile& tile, const CRect& picture, int scale) const;

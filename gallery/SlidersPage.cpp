@@ -9,11 +9,11 @@ namespace {
 const UINT kFirstHorizontalId = 100;
 const UINT kFirstVerticalId = 120;
 const UINT kRangeId = 140;
-const DWORD kChild = WS_CHILD | WS_VISIBLE;
+const DWORD kChild = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
 
 const CPoint kHorizontalHeading(12, 8);
 const CRect kFirstHorizontal(12, 32, 292, 72);
-const int kHorizontalPitch = 48;
+const int kHorizontalPitch = 60;
 const int kLabelWidth = 260;
 
 struct SliderSpec
@@ -33,7 +33,7 @@ const SliderSpec kHorizontal[] = {
 };
 
 const CPoint kVerticalHeading(600, 8);
-const CRect kFirstVertical(600, 32, 650, 272);
+const CRect kFirstVertical(600, 32, 650, 472);
 const int kVerticalPitch = 70;
 const SliderSpec kVertical[] = {
     {TBS_VERT | TBS_BOTH | TBS_AUTOTICKS, L"both"},
@@ -42,9 +42,9 @@ const SliderSpec kVertical[] = {
     {TBS_VERT | TBS_BOTH | TBS_AUTOTICKS | WS_DISABLED, L"disabled"},
 };
 
-const CPoint kRangeHeading(12, 392);
-const CRect kRangeRect(12, 416, 412, 476);
-const CRect kRangeReadout(424, 430, 824, 450);
+const CPoint kRangeHeading(12, 512);
+const CRect kRangeRect(12, 536, 712, 596);
+const CRect kRangeReadout(724, 550, 1004, 570);
 
 } // namespace
 
@@ -110,7 +110,7 @@ BOOL CSlidersPage::_createVertical()
 BOOL CSlidersPage::_createRangeSlider()
 {
     if (!m_range.Create(kChild | TBS_ENABLESELRANGE | TBS_BOTH | TBS_AUTOTICKS, kRangeRect, this, kRangeId) ||
-        !m_rangeReadout.Create(L"", kChild | SS_LEFT | SS_CENTERIMAGE, kRangeReadout, this))
+        !m_rangeReadout.Create(L"", WS_CHILD | WS_VISIBLE | SS_LEFT | SS_CENTERIMAGE, kRangeReadout, this))
         return FALSE;
     m_range.SetRange(0, 100, TRUE);
     m_range.SetTicFreq(10);

@@ -8,8 +8,8 @@ namespace {
 
 const UINT kFirstTabId = 100;
 const UINT kFirstPageId = 120;
-const CRect kFirstCell(12, 32, 312, 212);
-const CSize kCellStep(336, 240);
+const CRect kFirstCell(12, 32, 312, 272);
+const CSize kCellStep(336, 280);
 const int kColumns = 3;
 const int kFixedTabWidth = 70;
 
@@ -45,7 +45,7 @@ BOOL CTabsPage::OnCreatePage()
         const CRect cell = GridCell(kFirstCell, kCellStep, i % kColumns, i / kColumns);
         m_labels.AddHeading(cell.left, cell.top - 24, kTabs[i].heading);
         CZoTabCtrl& tabs = m_aTabs[i];
-        if (!tabs.Create(WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN | kTabs[i].style, cell, this, kFirstTabId + i))
+        if (!tabs.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_CLIPCHILDREN | kTabs[i].style, cell, this, kFirstTabId + i))
             return FALSE;
         for (int item = 0; item < 3; ++item)
             tabs.InsertItem(item, kTabs[i].captions[item]);

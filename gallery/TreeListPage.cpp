@@ -11,11 +11,11 @@ namespace {
 
 const DWORD kChild = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
 const int kMargin = 10;
-const CRect kTreeRect(kMargin, 30, kMargin + 620, 400);
-const CRect kSaveRect(kMargin, 410, kMargin + 110, 436);
-const CRect kLoadRect(kMargin + 120, 410, kMargin + 230, 436);
-const CRect kBuildRect(kMargin + 240, 410, kMargin + 440, 436);
-const CRect kStatusRect(kMargin, 446, kMargin + 620, 470);
+const CRect kTreeRect(kMargin, 30, kMargin + 720, 760);
+const CRect kSaveRect(kMargin, 770, kMargin + 110, 796);
+const CRect kLoadRect(kMargin + 120, 770, kMargin + 230, 796);
+const CRect kBuildRect(kMargin + 240, 770, kMargin + 440, 796);
+const CRect kStatusRect(kMargin, 806, kMargin + 720, 830);
 const UINT kTreeId = 1500;
 const UINT kSaveId = 1501;
 const UINT kLoadId = 1502;
@@ -138,7 +138,7 @@ BOOL CTreeListPage::OnCreatePage()
     if (!m_save.Create(L"Save to file", kChild | BS_PUSHBUTTON, kSaveRect, this, kSaveId) ||
         !m_load.Create(L"Load from file", kChild | BS_PUSHBUTTON, kLoadRect, this, kLoadId) ||
         !m_build.Create(L"Build 100,000 nodes", kChild | BS_PUSHBUTTON, kBuildRect, this, kBuildId) ||
-        !m_status.Create(L"", kChild | SS_LEFT | SS_CENTERIMAGE, kStatusRect, this))
+        !m_status.Create(L"", WS_CHILD | WS_VISIBLE | SS_LEFT | SS_CENTERIMAGE, kStatusRect, this))
         return FALSE;
     return TRUE;
 }

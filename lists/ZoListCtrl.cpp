@@ -634,8 +634,25 @@ void CZoListCtrl::OnCustomDraw(NMHDR* pNMHDR, LRESULT* pResult)
         *pResult = _isReport() ? CDRF_NOTIFYITEMDRAW : CDRF_DODEFAULT;
         break;
     case CDDS_ITEMPREPAINT:
-        *pResult = CDRF_NOTIFYSUBITEMDRAW;
+    {
+        // The whole row at once: a notification costs more than drawing a cell (under Wine every
+        // sent message passes the thread's hooks), and the cells come out as the list would ask
+        // for them, column by column.
+        const HWND hHeader = (HWND)_ask(LVM_GETHEADER, 0, 0);
+        const int columns = hHeader ? (int)ZoCallWindow(hHeader, HDM_GETITEMCOUNT, 0, 0) : 0;
+        if (columns <= 0)
+        {
+            *pResult = CDRF_NOTIFYSUBITEMDRAW;
+            break;
+        }
+        CDC dc;
+        dc.Attach(pDraw->nmcd.hdc);
+        for (int column = 0; column < columns; ++column)
+            DrawSubItem(dc, (int)pDraw->nmcd.dwItemSpec, column);
+        dc.Detach();
+        *pResult = CDRF_SKIPDEFAULT;
         break;
+    }
     case CDDS_ITEMPREPAINT | CDDS_SUBITEM:
     {
         CDC dc;

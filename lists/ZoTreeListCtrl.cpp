@@ -66,11 +66,32 @@ int compareCells(const CZoTreeListCtrlItem* x, const CZoTreeListCtrlItem* y, voi
     return ZoCompareTreeKeys(context.method, keyOf(context, x, 0), keyOf(context, y, 1));
 }
 
-int CALLBACK compareRows(LPARAM lParam1, LPARAM lParam2, LPARAM lParamSort)
+// Two rows by their nodes' whole paths.
+int CALLBACK compareRowPaths(LPARAM lParam1, LPARAM lParam2, LPARAM lParamSort)
 {
     TreeSortContext& context = *reinterpret_cast<TreeSortContext*>(lParamSort);
     return ZoCompareTreeNodes(nodeOf((DWORD_PTR)lParam1), nodeOf((DWORD_PTR)lParam2), context.levels,
                               context.ascending, context.path1.data(), context.path2.data(), &compareCells, &context);
+}
+
+// Two rows by the places worked out for their nodes.
+int CALLBACK compareByPlace(LPARAM lParam1, LPARAM lParam2, LPARAM)
+{
+    return nodeOf((DWORD_PTR)lParam1)->GetTempItemNumber() - nodeOf((DWORD_PTR)lParam2)->GetTempItemNumber();
+}
+
+// Two rows of the same parent: bold first in either direction, then their cells in the sort's
+// direction. Below the deepest level the view sorts, siblings keep their order.
+int compareSiblingRows(int row1, int row2, void* pContext)
+{
+    const TreeSortContext& context = *static_cast<const TreeSortContext*>(pContext);
+    const SortRow& first = (*context.rows)[row1];
+    const SortRow& second = (*context.rows)[row2];
+    if (first.node->GetDepthLevel() >= context.levels)
+        return 0;
+    if (first.node->GetBold() != second.node->GetBold())
+        return first.node->GetBold() ? -1 : 1;
+    return ZoDirected(ZoCompareTreeKeys(context.method, first.key, second.key), context.ascending);
 }
 
 } // namespace
@@ -219,7 +240,7 @@ void CZoTreeListCtrl::_reloadRows()
     const int count = ::IsWindow(m_hWnd) ? CListCtrl::GetItemCount() : 0;
     std::vector<CZoTreeListCtrlItem*> rows((size_t)std::max(count, 0));
     for (int row = 0; row < count; ++row)
-        rows[row] = nodeOf(CListCtrl::GetItemData(row));
+        rows[row] = nodeOf(_itemData(row));
     m_rows.Assign(rows);
 }
 
@@ -721,6 +742,8 @@ void CZoTreeListCtrl::DrawSubitemText(CDC& dc, int item, int subItem, bool selec
 
 // --- Sorting ---------------------------------------------------------------------------------
 
+// The order is worked out here, sibling group by sibling group on the rows' prepared cells; the
+// native list then only puts its rows in that order, each comparison a look-up of two places.
 void CZoTreeListCtrl::SortOnColumn(int column, bool ascending)
 {
     if (!m_bSortEnabled || !::IsWindow(m_hWnd) || column < 0)
@@ -736,30 +759,39 @@ void CZoTreeListCtrl::SortOnColumn(int column, bool ascending)
     context.column = column;
     context.path1.assign((size_t)m_nLevels, NULL);
     context.path2.assign((size_t)m_nLevels, NULL);
-    // Each row's cell is read once; its node's temp item number leads the comparison to it. A
-    // sort on a later column leaves the rows' old positions there; the first column's sort gives
-    // the numbers back.
+    // Each row's cell is read once. A sort on a later column leaves every node its row before the
+    // sort as temp item number; the first column's sort leaves the numbers as they were.
     std::vector<SortRow> rows((size_t)count);
-    std::vector<int> previous;
-    if (column == 0)
-        previous.resize((size_t)count);
+    std::vector<const CZoTreeListCtrlItem*> nodes((size_t)count);
+    std::vector<int> previous((size_t)count, -1);
     for (int row = 0; row < count; ++row)
     {
         CZoTreeListCtrlItem* node = _nodeOf(row);
-        rows[row].node = node;
+        rows[row].node = nodes[row] = node;
         if (!node)
             continue;
-        if (column == 0)
-            previous[row] = node->GetTempItemNumber();
+        previous[row] = column == 0 ? node->GetTempItemNumber() : row;
         node->SetTempItemNumber(row);
         rows[row].key = ZoMakeTreeSortKey(context.method, node->GetSubItemText(column));
     }
     context.rows = &rows;
-    SortItems(&compareRows, reinterpret_cast<DWORD_PTR>(&context));
-    if (column == 0)
-        for (int row = count - 1; row >= 0; --row)
-            if (rows[row].node)
-                const_cast<CZoTreeListCtrlItem*>(rows[row].node)->SetTempItemNumber(previous[row]);
+    std::vector<int> parents;
+    if (ZoTreeRowParents(nodes, parents))
+    {
+        // Every node takes its place after the sort as temp item number while the list sorts.
+        const std::vector<int> order = ZoTreeSortedRowOrder(parents, &compareSiblingRows, &context);
+        for (size_t place = 0; place < order.size(); ++place)
+            const_cast<CZoTreeListCtrlItem*>(rows[(size_t)order[place]].node)->SetTempItemNumber((int)place);
+        SortItems(&compareByPlace, 0);
+    }
+    else
+    {
+        // Rows a host has added or changed itself: every pair compared by whole node paths.
+        SortItems(&compareRowPaths, reinterpret_cast<DWORD_PTR>(&context));
+    }
+    for (int row = count - 1; row >= 0; --row)
+        if (rows[row].node)
+            const_cast<CZoTreeListCtrlItem*>(rows[row].node)->SetTempItemNumber(previous[row]);
 }
 
 void CZoTreeListCtrl::OnHeaderItemClick(NMHDR* pNMHDR, LRESULT* pResult)

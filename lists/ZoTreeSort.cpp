@@ -2,8 +2,11 @@
 
 #include <oleauto.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <unordered_set>
+#include <utility>
 
 #include "lists/ZoTreeListCtrlItem.h"
 
@@ -74,6 +77,24 @@ int compareDates(const ZoTreeSortKey& key1, const ZoTreeSortKey& key2)
     return std::fabs(difference) > kMaxSpanDays ? 0 : signOf(difference);
 }
 
+// Sorts items[first .. last] (inclusive), with `scratch` as room for merging.
+void mergeSort(int* items, int first, int last, ZoRowCompare compare, void* context, std::vector<int>& scratch)
+{
+    if (first >= last)
+        return;
+    const int middle = (first + last) / 2;
+    mergeSort(items, first, middle, compare, context, scratch);
+    mergeSort(items, middle + 1, last, compare, context, scratch);
+    scratch.assign(items + first, items + middle + 1);
+    size_t left = 0;
+    int right = middle + 1;
+    int out = first;
+    while (left < scratch.size() && right <= last)
+        items[out++] = compare(scratch[left], items[right], context) > 0 ? items[right++] : scratch[left++];
+    while (left < scratch.size())
+        items[out++] = scratch[left++];
+}
+
 } // namespace
 
 double ZoOleDateToLinear(double date)
@@ -134,6 +155,102 @@ int ZoCompareTreeKeys(int method, const ZoTreeSortKey& key1, const ZoTreeSortKey
 int ZoCompareTreeTexts(int method, const wchar_t* text1, const wchar_t* text2)
 {
     return ZoCompareTreeKeys(method, ZoMakeTreeSortKey(method, text1), ZoMakeTreeSortKey(method, text2));
+}
+
+void ZoStableSortRows(std::vector<int>& items, ZoRowCompare compare, void* context)
+{
+    if (items.size() < 2 || !compare)
+        return;
+    std::vector<int> scratch;
+    scratch.reserve(items.size() / 2 + 1);
+    mergeSort(items.data(), 0, (int)items.size() - 1, compare, context, scratch);
+}
+
+bool ZoTreeRowParents(const std::vector<const CZoTreeListCtrlItem*>& rows, std::vector<int>& parents)
+{
+    parents.assign(rows.size(), -1);
+    std::unordered_set<const CZoTreeListCtrlItem*> seen;
+    seen.reserve(rows.size());
+    // The rows of the current node's ancestors, the top-level one first.
+    std::vector<int> line;
+    for (size_t row = 0; row < rows.size(); ++row)
+    {
+        const CZoTreeListCtrlItem* node = rows[row];
+        if (!node || !seen.insert(node).second)
+            return false;
+        const CZoTreeListCtrlItem* parent = node->GetParentItem();
+        while (!line.empty() && rows[line.back()] != parent)
+            line.pop_back();
+        // A top-level node hangs below the invisible root, which has no parent and no row.
+        const bool topLevel = line.empty();
+        if (topLevel && (!parent || parent->GetParentItem()))
+            return false;
+        if (node->GetDepthLevel() != (int)line.size())
+            return false;
+        parents[row] = topLevel ? -1 : line.back();
+        line.push_back((int)row);
+    }
+    return true;
+}
+
+std::vector<int> ZoTreeSortedRowOrder(const std::vector<int>& parents, ZoRowCompare compare, void* context)
+{
+    const int count = (int)parents.size();
+    // The children of each row, in row order, in one array: group g (0 for the top level, row + 1
+    // for a row's children) holds members[start[g] .. start[g + 1] - 1].
+    std::vector<int> start((size_t)count + 2, 0);
+    for (int row = 0; row < count; ++row)
+    {
+        const int parent = parents[row] >= 0 && parents[row] < count ? parents[row] : -1;
+        ++start[(size_t)parent + 2];
+    }
+    for (size_t group = 1; group < start.size(); ++group)
+        start[group] += start[group - 1];
+    std::vector<int> members((size_t)count);
+    std::vector<int> filled(start.begin(), start.end() - 1);
+    for (int row = 0; row < count; ++row)
+    {
+        const int parent = parents[row] >= 0 && parents[row] < count ? parents[row] : -1;
+        members[(size_t)filled[(size_t)parent + 1]++] = row;
+    }
+    std::vector<int> group;
+    for (size_t g = 0; g + 1 < start.size(); ++g)
+    {
+        if (start[g + 1] - start[g] < 2)
+            continue;
+        group.assign(members.begin() + start[g], members.begin() + start[g + 1]);
+        ZoStableSortRows(group, compare, context);
+        std::copy(group.begin(), group.end(), members.begin() + start[g]);
+    }
+    // Depth first: each row followed by its sorted children.
+    std::vector<int> order;
+    order.reserve((size_t)count);
+    std::vector<std::pair<int, int>> pending(1, std::make_pair(start[0], start[1]));
+    while (!pending.empty())
+    {
+        std::pair<int, int>& next = pending.back();
+        if (next.first >= next.second)
+        {
+            pending.pop_back();
+            continue;
+        }
+        const int row = members[(size_t)next.first++];
+        order.push_back(row);
+        if (start[(size_t)row + 2] > start[(size_t)row + 1])
+            pending.push_back(std::make_pair(start[(size_t)row + 1], start[(size_t)row + 2]));
+    }
+    // Parents that are no rows before their children (a loop) leave rows unreached: they follow
+    // in their old order.
+    if ((int)order.size() < count)
+    {
+        std::vector<bool> placed((size_t)count, false);
+        for (int row : order)
+            placed[(size_t)row] = true;
+        for (int row = 0; row < count; ++row)
+            if (!placed[(size_t)row])
+                order.push_back(row);
+    }
+    return order;
 }
 
 void ZoTreeNodePath(const CZoTreeListCtrlItem* node, int levels, const CZoTreeListCtrlItem** path)

@@ -6,6 +6,8 @@
 #pragma once
 #include <afxwin.h>
 
+#include <vector>
+
 #include "core/ZoCtrlExport.h"
 #include "lists/ZoListSort.h"
 
@@ -58,5 +60,26 @@ typedef int (*ZoTreeCellCompare)(const CZoTreeListCtrlItem* x, const CZoTreeList
 ZOCTRL_API int ZoCompareTreeNodes(const CZoTreeListCtrlItem* a, const CZoTreeListCtrlItem* b, int levels,
                                   bool ascending, const CZoTreeListCtrlItem** path1,
                                   const CZoTreeListCtrlItem** path2, ZoTreeCellCompare compare, void* context);
+
+// Two rows (by index) compared for the sorts below: negative, 0 or positive.
+typedef int (*ZoRowCompare)(int first, int second, void* context);
+
+// A stable merge sort of `items` that asks its questions as the native list's own sort does: the
+// range splits at its middle (the left half keeping the middle item), and a right-hand item goes
+// before a left-hand one only when compare(left, right) > 0. Equal items keep their order, and
+// even a comparison that is not a consistent order gives what the native list would give.
+ZOCTRL_API void ZoStableSortRows(std::vector<int>& items, ZoRowCompare compare, void* context);
+
+// The parent row of every row (-1 for a top-level row) when the rows show the tree as the view
+// builds it: every node in one row, each followed directly by the rows of its shown descendants,
+// depths from 0 at the top. False when they do not (a row without node, a node in two rows, a
+// child away from its parent's row, a depth that does not fit its parent's).
+ZOCTRL_API bool ZoTreeRowParents(const std::vector<const CZoTreeListCtrlItem*>& rows, std::vector<int>& parents);
+
+// The rows in tree order after each group of siblings has been sorted on its own (`compare`
+// only ever sees two rows of the same parent): result[i] is the row that moves to place i. The
+// work grows with the number of rows times the logarithm of the largest group.
+ZOCTRL_API std::vector<int> ZoTreeSortedRowOrder(const std::vector<int>& parents, ZoRowCompare compare,
+                                                 void* context);
 
 } // namespace ZoControls

@@ -41,6 +41,26 @@ protected:
         return GetGalleryPages(count)[GetParam()];
     }
 
+    // The page under test, created over the parent's client area and shown.
+    CGalleryPage* OpenPage() const
+    {
+        CGalleryPage* page = Entry().create();
+        if (!page->CreatePage(CWnd::FromHandle(parent_.get()), CRect(0, 0, 1040, 860), 200)) {
+            delete page;
+            return nullptr;
+        }
+        page->ShowWindow(SW_SHOW);
+        zotest::PumpUntilIdle();
+        return page;
+    }
+
+    static void ClosePage(CGalleryPage* page)
+    {
+        page->DestroyWindow();
+        delete page;
+        zotest::PumpUntilIdle();
+    }
+
     zotest::ScopedWindow parent_;
 };
 
@@ -53,13 +73,9 @@ std::wstring TempBitmapPath()
 
 TEST_P(GalleryPageTest, OpensPaintsAndClosesWithoutLeaks)
 {
-    const GalleryPageEntry& entry = Entry();
-    const CRect area(0, 0, 1040, 860);
     auto cycle = [&] {
-        CGalleryPage* page = entry.create();
-        ASSERT_TRUE(page->CreatePage(CWnd::FromHandle(parent_.get()), area, 200));
-        page->ShowWindow(SW_SHOW);
-        zotest::PumpUntilIdle();
+        CGalleryPage* page = OpenPage();
+        ASSERT_TRUE(page);
 
         // The page covers its client area and shows more than one colour.
         const zotest::Dib dib = zotest::RenderClient(page->m_hWnd);
@@ -73,13 +89,23 @@ TEST_P(GalleryPageTest, OpensPaintsAndClosesWithoutLeaks)
         EXPECT_TRUE(SaveWindowBitmap(page->m_hWnd, path.c_str()));
         ::DeleteFileW(path.c_str());
 
-        page->DestroyWindow();
-        delete page;
-        zotest::PumpUntilIdle();
+        ClosePage(page);
     };
     // GDI objects and windows. (The Menus, Scrolling and Statics pages leave a few heap blocks
     // per cycle under our layer; not judged here until that is explained.)
     ZOTEST_EXPECT_NO_LEAKS(1, cycle, zotest::count_gdi | zotest::count_user);
+}
+
+// Pages are control parents: Tab from the window that holds them lands on a page's control.
+TEST_P(GalleryPageTest, TabReachesThePageControls)
+{
+    CGalleryPage* page = OpenPage();
+    ASSERT_TRUE(page);
+    if (::GetWindow(page->m_hWnd, GW_CHILD)) { // the theme and skin sheets have no controls
+        const HWND first = ::GetNextDlgTabItem(parent_.get(), NULL, FALSE);
+        EXPECT_TRUE(first && ::IsChild(page->m_hWnd, first)) << "Tab stays out of page " << GetParam();
+    }
+    ClosePage(page);
 }
 
 int PageCount()

@@ -6,6 +6,7 @@
 #include <zotest/zotest.h>
 
 #include "GalleryPage.h"
+#include "gallery_test_support.h"
 #include "TreeListPage.h"
 #include "ZoCtrl.h"
 
@@ -21,10 +22,8 @@ CString RowsOf(CListCtrl& list)
 
 TEST(TreeListPage, SavedTreeLoadsBackWithTheSameRows)
 {
-    ULONG_PTR token = 0;
-    Gdiplus::GdiplusStartupInput input;
-    Gdiplus::GdiplusStartup(&token, &input, nullptr);
-    ASSERT_TRUE(InitializeZoCtrl());
+    ScopedGalleryLibrary library;
+    ASSERT_TRUE(library.Started());
     {
         zotest::ScopedWindow parent(zotest::CreateSolidWindow(RECT{0, 0, 1040, 860}, RGB(10, 200, 30)));
         CTreeListPage page;
@@ -39,8 +38,6 @@ TEST(TreeListPage, SavedTreeLoadsBackWithTheSameRows)
         EXPECT_EQ(RowsOf(*tree), before);
         page.DestroyWindow();
     }
-    UninitializeZoCtrl();
-    Gdiplus::GdiplusShutdown(token);
 }
 
 } // namespace

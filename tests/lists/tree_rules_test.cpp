@@ -1,9 +1,11 @@
 // The tree-list view's rules with plain values: the row index against a plain vector through
-// thousands of inserts and removals, the tree's date and number comparisons, and node paths.
+// thousands of inserts and removals, the tree's date and number comparisons, node paths, and the
+// sibling-by-sibling sort against the comparison of whole node paths.
 #include <afx.h>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <random>
 #include <vector>
@@ -145,6 +147,135 @@ TEST(TreeNodePath, HoldsAncestorsPerLevel)
     ZoTreeNodePath(a11, 2, path);
     EXPECT_EQ(path[0], a);
     EXPECT_EQ(path[1], a1);
+}
+
+// --- Sorting rows ------------------------------------------------------------------------------
+
+// Rows compare by a key table; ties keep their order.
+int CompareKeys(int first, int second, void* context)
+{
+    const std::vector<int>& keys = *static_cast<const std::vector<int>*>(context);
+    return keys[(size_t)first] - keys[(size_t)second];
+}
+
+TEST(TreeRowSort, IsStableAndMovesARightItemOnlyWhenTheLeftOneIsGreater)
+{
+    std::vector<int> keys = {3, 1, 2, 1, 3, 0};
+    std::vector<int> rows = {0, 1, 2, 3, 4, 5};
+    ZoStableSortRows(rows, &CompareKeys, &keys);
+    EXPECT_EQ(rows, (std::vector<int>{5, 1, 3, 2, 0, 4}));
+    // Everything equal: nothing moves.
+    std::vector<int> same(6, 7);
+    ZoStableSortRows(rows, &CompareKeys, &same);
+    EXPECT_EQ(rows, (std::vector<int>{5, 1, 3, 2, 0, 4}));
+    std::vector<int> none;
+    ZoStableSortRows(none, &CompareKeys, &keys);
+    EXPECT_TRUE(none.empty());
+    ZoStableSortRows(rows, nullptr, &keys); // no comparison: left as it is
+    EXPECT_EQ(rows, (std::vector<int>{5, 1, 3, 2, 0, 4}));
+}
+
+TEST(TreeRowSort, RowParentsOnlyForRowsThatShowTheTree)
+{
+    CZoTreeListCtrlItem root;
+    root.Expand(true);
+    CZoTreeListCtrlItem* a = AddChild(root, L"a");
+    CZoTreeListCtrlItem* a1 = AddChild(*a, L"a1");
+    CZoTreeListCtrlItem* a11 = AddChild(*a1, L"a11");
+    CZoTreeListCtrlItem* a2 = AddChild(*a, L"a2");
+    CZoTreeListCtrlItem* b = AddChild(root, L"b");
+    std::vector<int> parents;
+    ASSERT_TRUE(ZoTreeRowParents({a, a1, a11, a2, b}, parents));
+    EXPECT_EQ(parents, (std::vector<int>{-1, 0, 1, 0, -1}));
+    ASSERT_TRUE(ZoTreeRowParents({a, b}, parents)); // a collapsed
+    EXPECT_EQ(parents, (std::vector<int>{-1, -1}));
+    ASSERT_TRUE(ZoTreeRowParents({}, parents));
+    EXPECT_FALSE(ZoTreeRowParents({a, a1, nullptr}, parents));   // a row without node
+    EXPECT_FALSE(ZoTreeRowParents({a, a1, a2, a1}, parents));    // a node twice
+    EXPECT_FALSE(ZoTreeRowParents({a, b, a1}, parents));         // a child away from its parent
+    EXPECT_FALSE(ZoTreeRowParents({a1, a}, parents));            // a child before its parent
+    EXPECT_FALSE(ZoTreeRowParents({a, a11}, parents));           // a level left out
+}
+
+// A random tree (texts all different, some rows bold) sorted sibling by sibling gives the rows
+// that sorting all of them by whole node paths gives, in both directions and with a level limit.
+struct PathContext
+{
+    std::vector<const CZoTreeListCtrlItem*> rows;
+    int levels;
+    bool ascending;
+    std::vector<const CZoTreeListCtrlItem*> path1, path2;
+};
+
+int CompareTexts(const CZoTreeListCtrlItem* x, const CZoTreeListCtrlItem* y, void*)
+{
+    return x->GetSubItemText(0).Compare(y->GetSubItemText(0));
+}
+
+int ComparePaths(int first, int second, void* context)
+{
+    PathContext& c = *static_cast<PathContext*>(context);
+    return ZoCompareTreeNodes(c.rows[(size_t)first], c.rows[(size_t)second], c.levels, c.ascending, c.path1.data(),
+                              c.path2.data(), &CompareTexts, nullptr);
+}
+
+int CompareSiblings(int first, int second, void* context)
+{
+    const PathContext& c = *static_cast<const PathContext*>(context);
+    const CZoTreeListCtrlItem* x = c.rows[(size_t)first];
+    const CZoTreeListCtrlItem* y = c.rows[(size_t)second];
+    if (x->GetDepthLevel() >= c.levels)
+        return 0;
+    if (x->GetBold() != y->GetBold())
+        return x->GetBold() ? -1 : 1;
+    return ZoDirected(CompareTexts(x, y, nullptr), c.ascending);
+}
+
+TEST(TreeRowSort, SiblingBySiblingEqualsWholePaths)
+{
+    std::mt19937 random(11);
+    for (int round = 0; round < 12; ++round)
+    {
+        CZoTreeListCtrlItem root;
+        root.Expand(true);
+        std::vector<int> names(400);
+        for (size_t i = 0; i < names.size(); ++i)
+            names[i] = (int)i;
+        std::shuffle(names.begin(), names.end(), random);
+        // Rows in tree order: each new node goes below a node of the current line.
+        PathContext context;
+        std::vector<CZoTreeListCtrlItem*> line;
+        for (int name : names)
+        {
+            const size_t depth = random() % (line.size() + 1);
+            line.resize(std::min<size_t>(depth, 4));
+            CString text;
+            text.Format(L"%04d", name);
+            CZoTreeListCtrlItem* node = AddChild(line.empty() ? root : *line.back(), text);
+            node->SetBold(random() % 5 == 0);
+            context.rows.push_back(node);
+            line.push_back(node);
+        }
+        context.levels = 2 + round % 3;
+        context.ascending = round % 2 == 0;
+        context.path1.assign((size_t)context.levels, nullptr);
+        context.path2.assign((size_t)context.levels, nullptr);
+        std::vector<int> parents;
+        ASSERT_TRUE(ZoTreeRowParents(context.rows, parents));
+        std::vector<int> whole(context.rows.size());
+        for (size_t i = 0; i < whole.size(); ++i)
+            whole[i] = (int)i;
+        ZoStableSortRows(whole, &ComparePaths, &context);
+        EXPECT_EQ(ZoTreeSortedRowOrder(parents, &CompareSiblings, &context), whole) << "round " << round;
+    }
+}
+
+TEST(TreeRowSort, ParentsThatAreNoEarlierRowsLeaveTheirRowsInOrderAtTheEnd)
+{
+    std::vector<int> keys = {0, 0, 0};
+    EXPECT_EQ(ZoTreeSortedRowOrder({-1, 2, 1}, &CompareKeys, &keys), (std::vector<int>{0, 1, 2}));
+    EXPECT_EQ(ZoTreeSortedRowOrder({7, -5}, &CompareKeys, &keys), (std::vector<int>{0, 1}));
+    EXPECT_TRUE(ZoTreeSortedRowOrder({}, &CompareKeys, &keys).empty());
 }
 
 } // namespace

@@ -405,6 +405,41 @@ TEST_F(TreeTest, HeaderSortKeepsChildrenUnderParentsAndBoldSiblingsFirst)
     EXPECT_EQ(Rows(), "B B1 A A2 A1 A11");
 }
 
+// The rows change places with everything they carry: cells of every column, selection, focus and
+// the selection mark; the parent hears of no item changes, and the view stays where it was.
+TEST_F(TreeTest, SortedRowsKeepTheirCellsSelectionAndFocus)
+{
+    MakeTree();
+    BuildSample();
+    const DWORD_PTR nodes[] = {a_, a1_, a11_, a2_, b_, b1_};
+    for (DWORD_PTR node : nodes)
+        tree_->SetItemText(RowOf(node), 1, CString(L"size of ") + tree_->GetItemText(RowOf(node), 0));
+    tree_->CListCtrl::SetItemText(RowOf(b1_), 2, L"row only"); // in the row, not in the node
+    tree_->SetItemFocus(RowOf(b1_));
+    tree_->SetItemState(RowOf(a2_), LVIS_SELECTED, LVIS_SELECTED);
+    tree_->SetSelectionMark(RowOf(b1_));
+    parent_.codes.clear();
+
+    ClickHeader(0);
+    EXPECT_EQ(Rows(), "B B1 A A2 A1 A11");
+    for (DWORD_PTR node : nodes)
+        EXPECT_EQ(tree_->GetItemText(RowOf(node), 1), CString(L"size of ") + tree_->GetItemText(RowOf(node), 0));
+    EXPECT_EQ(tree_->GetItemText(RowOf(b1_), 2), L"row only");
+    int focusRow = -1;
+    EXPECT_EQ(tree_->GetFocusedItem(&focusRow), b1_);
+    EXPECT_EQ(focusRow, 1);
+    EXPECT_EQ(tree_->GetSelectedCount(), 2u);
+    EXPECT_EQ(tree_->GetItemState(RowOf(a2_), LVIS_SELECTED), (UINT)LVIS_SELECTED);
+    EXPECT_EQ(tree_->GetSelectionMark(), 1);
+    EXPECT_EQ(tree_->GetTopIndex(), 0);
+    EXPECT_EQ(parent_.Count(LVN_ITEMCHANGING), 0u);
+    EXPECT_EQ(parent_.Count(LVN_ITEMCHANGED), 0u);
+    EXPECT_TRUE(RowsInStep());
+    // Item changes outside a sort still reach the parent.
+    tree_->SetItemState(RowOf(a_), LVIS_SELECTED, LVIS_SELECTED);
+    EXPECT_EQ(parent_.Count(LVN_ITEMCHANGED), 1u);
+}
+
 TEST_F(TreeTest, DateColumnsSortByTheTreesDateRules)
 {
     MakeTree();

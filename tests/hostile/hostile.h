@@ -51,9 +51,9 @@ struct Kind
     // The platform's own control of the same window class, to tell the platform's limits from
     // the library's faults (--native); null where there is none.
     std::function<CWnd*(CWnd& host, DWORD style, const RECT& rect, UINT id)> native = nullptr;
-    // The platform's EDIT under Wine scrolls its caret forever once it has no room to format its
-    // text (the native control hangs on the same input): such kinds keep a usable size.
-    SIZE minimumSize = {0, 0};
+    // Built on the platform's EDIT, whose Wine version scrolls its caret forever after some input
+    // (the native control hangs the same way): the storm spares it that input.
+    bool platformEdit = false;
 };
 
 // Every window class of the library, and the variants asking for skins that do not exist.

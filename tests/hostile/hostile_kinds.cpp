@@ -33,7 +33,6 @@ namespace {
 
 const DWORD kChild = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
 const wchar_t kText[] = L"Hostile & (text)";
-const SIZE kEditSize = {120, 24};
 
 // Value-only messages: both parameters drawn from the extremes, lParam sometimes a packed pair.
 Message Values(const char* name, UINT message)
@@ -654,10 +653,10 @@ const std::vector<Kind>& Kinds()
          {ES_AUTOHSCROLL, ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN | WS_VSCROLL, ES_READONLY, ES_PASSWORD,
           ES_NUMBER | WS_BORDER},
          CreatePlain<CZoEdit>, EditMessages(), [](HWND control) { PressKey(control, 'X'); SendMessageW(control, WM_CHAR, 'x', 1); },
-         CreatePlain<CEdit>, kEditSize},
+         CreatePlain<CEdit>, true},
         {"CZoEditInPlace", {ES_AUTOHSCROLL, ES_AUTOHSCROLL | WS_BORDER}, CreateInPlaceEditor, EditMessages(),
          [](HWND control) { PressKey(control, VK_DOWN); SetFocus(GetParent(control)); }, CreatePlain<CEdit>,
-         kEditSize},
+         true},
         {"CZoComboBox",
          {CBS_DROPDOWN | WS_VSCROLL, CBS_DROPDOWNLIST | WS_VSCROLL, CBS_SIMPLE, CBS_DROPDOWNLIST | CBS_SORT,
           CBS_DROPDOWN | CBS_AUTOHSCROLL, CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS},

@@ -117,7 +117,13 @@ void SendPlatformMessage(const Kind& kind, HWND control, Random& random)
     case 7: SendMessageW(control, WM_NCHITTEST, 0, ExtremePair(random)); break;
     case 8: SendMessageW(control, WM_CONTEXTMENU, (WPARAM)control, ExtremePair(random)); break;
     case 9: SendMessageW(control, WM_MOUSEWHEEL, MAKEWPARAM(0, Extreme(random)), ExtremePair(random)); break;
-    case 10: SendMessageW(control, random.OneIn(2) ? WM_HSCROLL : WM_VSCROLL, MAKEWPARAM(random.Below(10), Extreme(random)), 0); break;
+    case 10: {
+        // Wine's EDIT takes a thumb position it never reported as its scroll offset, and a negative
+        // one then sends its caret scrolling forever (its native control hangs the same way).
+        const int position = kind.platformEdit ? (int)random.Below(100) : Extreme(random);
+        SendMessageW(control, random.OneIn(2) ? WM_HSCROLL : WM_VSCROLL, MAKEWPARAM(random.Below(10), position), 0);
+        break;
+    }
     case 11: SendMessageW(control, random.OneIn(2) ? WM_CAPTURECHANGED : WM_CANCELMODE, 0, 0); break;
     case 12: SendMessageW(control, WM_TIMER, Pick(random, kTimerIds), 0); break;
     case 13: {
@@ -153,8 +159,9 @@ void SendPlatformMessage(const Kind& kind, HWND control, Random& random)
 
 SIZE UsableSize(const Kind& kind, int width, int height)
 {
-    return SIZE{(short)width < kind.minimumSize.cx ? kind.minimumSize.cx : width,
-                (short)height < kind.minimumSize.cy ? kind.minimumSize.cy : height};
+    // An edit needs room to format its text in.
+    const SIZE minimum = kind.platformEdit ? SIZE{120, 24} : SIZE{SHRT_MIN, SHRT_MIN};
+    return SIZE{(short)width < minimum.cx ? minimum.cx : width, (short)height < minimum.cy ? minimum.cy : height};
 }
 
 int Extreme(Random& random)
@@ -263,6 +270,9 @@ LRESULT CHost::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     }
     const LRESULT result = CWnd::WindowProc(message, wParam, lParam);
     if (reaction != Reaction::None && IsNotification(message, lParam) && m_depth < 2) {
+        if (g_trace)
+            fprintf(stderr, "  host reacts to 0x%X code %d\n", message,
+                    message == WM_NOTIFY ? (int)reinterpret_cast<const NMHDR*>(lParam)->code : (int)wParam);
         ++m_depth;
         _react();
         --m_depth;
@@ -284,8 +294,12 @@ void CHost::_react()
         break;
     case Reaction::Reenter:
         if (kind && random && tally && IsWindow(control)) {
-            for (int i = 0; i < 3 && !kind->messages.empty(); ++i)
-                kind->messages[random->Below(kind->messages.size())].send(control, *random);
+            for (int i = 0; i < 3 && !kind->messages.empty(); ++i) {
+                const Message& sent = kind->messages[random->Below(kind->messages.size())];
+                if (g_trace)
+                    fprintf(stderr, "    re-entering with %s\n", sent.name);
+                sent.send(control, *random);
+            }
             const SIZE size = UsableSize(*kind, (int)random->Below(400), (int)random->Below(120));
             ::SetWindowPos(control, NULL, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
             tally->messages += 4;

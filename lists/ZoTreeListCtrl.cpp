@@ -268,7 +268,7 @@ void CZoTreeListCtrl::_fillTexts(int row, const CZoTreeListCtrlItem* node)
         CListCtrl::SetItemText(row, column, node->GetSubItemText(column));
 }
 
-void CZoTreeListCtrl::_deleteRow(int row) { CListCtrl::DeleteItem(row); }
+bool CZoTreeListCtrl::_deleteRow(int row) { return CListCtrl::DeleteItem(row) && ::IsWindow(m_hWnd); }
 
 void CZoTreeListCtrl::_notify(E_TreeListNotification code, LPARAM lParam, bool post)
 {
@@ -279,6 +279,12 @@ void CZoTreeListCtrl::_notify(E_TreeListNotification code, LPARAM lParam, bool p
         ::PostMessageW(hParent, ZoTreeListNotify, (WPARAM)code, lParam);
     else
         ::SendMessageW(hParent, ZoTreeListNotify, (WPARAM)code, lParam);
+}
+
+bool CZoTreeListCtrl::_isDescendantRow(int row, int depth) const
+{
+    const CZoTreeListCtrlItem* node = _nodeOf(row);
+    return node && node->GetDepthLevel() > depth;
 }
 
 bool CZoTreeListCtrl::_atLevelLimit(const CZoTreeListCtrlItem* node) const
@@ -338,10 +344,13 @@ void CZoTreeListCtrl::DeleteNode(int row, bool deleteEmptyParents)
         if (!node)
             break;
         deletedDepth = node->GetDepthLevel();
-        for (CZoTreeListCtrlItem* next = _nodeOf(row + 1); next && next->GetDepthLevel() > deletedDepth;
-             next = _nodeOf(row + 1))
-            _deleteRow(row + 1);
-        _deleteRow(row);
+        // At most the rows there were: a parent adding rows from its handler of each deletion, or
+        // one that refuses or ends it, must not keep the loop going.
+        for (int left = m_rows.GetCount() - row - 1; left > 0 && _isDescendantRow(row + 1, deletedDepth); --left)
+            if (!_deleteRow(row + 1))
+                break;
+        if (!_deleteRow(row))
+            break;
 
         CZoTreeListCtrlItem* parent = parentOf(node);
         if (!parent)
@@ -454,7 +463,8 @@ void CZoTreeListCtrl::Collapse(int row)
         int number = 0;
         UINT collected = 0;
         bool focusGiven = false;
-        while (row + 1 < m_rows.GetCount())
+        // At most the rows there were, whatever the parent does in its handlers of the deletions.
+        for (int left = m_rows.GetCount() - row - 1; left > 0 && row + 1 < m_rows.GetCount(); --left)
         {
             CZoTreeListCtrlItem* next = _nodeOf(row + 1);
             // The first row after the subtree is numbered too before the walk stops at it.
@@ -468,7 +478,8 @@ void CZoTreeListCtrl::Collapse(int row)
                 SetItemState(row, collected, collected);
                 focusGiven = true;
             }
-            _deleteRow(row + 1);
+            if (!_deleteRow(row + 1))
+                break;
         }
     }
     // Kept children take the order their rows had; otherwise they go, and the next Expand asks

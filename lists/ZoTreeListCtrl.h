@@ -158,7 +158,10 @@ private:
     // Inserts a row for `node` with its column 0 text (and `image` when >= 0).
     int _insertRow(int row, CZoTreeListCtrlItem* node, const wchar_t* text, int image);
     void _fillTexts(int row, const CZoTreeListCtrlItem* node);
-    void _deleteRow(int row);
+    // False when the row stayed or the window went in a handler of the deletion.
+    bool _deleteRow(int row);
+    // Whether `row` shows a node deeper than `depth`.
+    bool _isDescendantRow(int row, int depth) const;
     void _toggle(int row);
     void _moveFocus(int from, int to);
     void _notify(E_TreeListNotification code, LPARAM lParam, bool post);

@@ -31,12 +31,15 @@ class TreeParent : public listtest::ParentSpy
 {
 public:
     std::function<void(WPARAM, LPARAM)> onNotify;
+    std::function<void(const NMHDR&)> onListNotify; // the list's own notifications
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
         if (message == ZoTreeListNotify && onNotify)
             onNotify(wParam, lParam);
+        if (message == WM_NOTIFY && onListNotify)
+            onListNotify(*reinterpret_cast<const NMHDR*>(lParam));
         return listtest::ParentSpy::WindowProc(message, wParam, lParam);
     }
 };
@@ -55,6 +58,7 @@ protected:
             tree_->DestroyWindow();
         tree_.reset();
         parent_.onNotify = nullptr;
+        parent_.onListNotify = nullptr;
         if (parent_.GetSafeHwnd())
             parent_.UnsubclassWindow();
         controltest::ControlTest::TearDown();
@@ -612,6 +616,31 @@ std::string Exercise(CZoTreeListCtrl& tree, int tops, int children)
             rows += Narrow(name.Mid(0, 6) + name.Right(name.GetLength() > 6 ? 2 : 0)) + " ";
     }
     return rows;
+}
+
+// A parent that adds a row each time one goes would keep a collapse or a delete deleting for as
+// long as it likes: both stop after the rows they started with.
+TEST_F(TreeTest, AParentAddingRowsWhileRowsGoCannotKeepACollapseOrDeleteGoing)
+{
+    for (const bool collapse : {true, false}) {
+        CZoTreeListCtrl& tree = MakeTree();
+        const DWORD_PTR top = Add(0, L"top");
+        Add(top, L"a");
+        Add(top, L"b");
+        int added = 0;
+        parent_.onListNotify = [&](const NMHDR& header) {
+            if (header.code == LVN_DELETEITEM && added < 50) {
+                ++added;
+                tree.InsertNode(top, L"more");
+            }
+        };
+        if (collapse)
+            tree.Collapse(0);
+        else
+            tree.DeleteNode(0, false);
+        parent_.onListNotify = nullptr;
+        EXPECT_LE(added, 3) << (collapse ? "collapse" : "delete");
+    }
 }
 
 TEST_F(TreeTest, LargeTreesGiveTheSameRowsAsSmallOnes)

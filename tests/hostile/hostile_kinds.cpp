@@ -328,7 +328,9 @@ int CALLBACK CompareAnyhow(LPARAM a, LPARAM b, LPARAM)
     return a < b ? -1 : a > b ? 1 : 0;
 }
 
-std::vector<Message> ListMessages()
+// `itemDataIsNode`: the rows' item data are the tree-list's node pointers, which a host never
+// makes up, so rows are inserted without item data.
+std::vector<Message> ListMessages(bool itemDataIsNode = false)
 {
     return {With<LVCOLUMNW>("LVM_INSERTCOLUMNW", LVM_INSERTCOLUMNW,
                             [](LVCOLUMNW& column, Random& random) {
@@ -339,8 +341,8 @@ std::vector<Message> ListMessages()
                                 return (WPARAM)(INT_PTR)(random.OneIn(2) ? (int)random.Below(4) : Extreme(random));
                             }),
             With<LVITEMW>("LVM_INSERTITEMW", LVM_INSERTITEMW,
-                          [](LVITEMW& item, Random& random) {
-                              item.mask = LVIF_TEXT | LVIF_IMAGE | LVIF_PARAM;
+                          [itemDataIsNode](LVITEMW& item, Random& random) {
+                              item.mask = LVIF_TEXT | LVIF_IMAGE | (itemDataIsNode ? 0 : LVIF_PARAM);
                               item.iItem = random.OneIn(2) ? (int)random.Below(30) : Extreme(random);
                               item.pszText = const_cast<wchar_t*>(random.OneIn(4) ? L"" : kText);
                               item.iImage = Extreme(random);
@@ -433,7 +435,7 @@ std::vector<Message> ComboMessages()
 
 std::vector<Message> TreeListMessages()
 {
-    std::vector<Message> messages = ListMessages();
+    std::vector<Message> messages = ListMessages(true);
     // Node handles are pointers: only those of existing rows (or 0) are passed.
     auto nodeOfSomeRow = [](CZoTreeListCtrl& tree, Random& random) {
         return tree.GetItemNode(random.OneIn(3) ? Extreme(random) : (int)random.Below(20));

@@ -687,7 +687,8 @@ const std::vector<Kind>& Kinds()
           LVS_REPORT | LVS_NOCOLUMNHEADER, LVS_REPORT | LVS_SINGLESEL | LVS_SHOWSELALWAYS | WS_BORDER},
          CreatePlain<CZoListCtrl>, ListMessages(), ProvokeList, CreatePlain<CListCtrl>},
         {"CZoTreeListCtrl", {LVS_REPORT | LVS_SHOWSELALWAYS, LVS_REPORT | LVS_EDITLABELS | WS_BORDER},
-         CreatePlain<CZoTreeListCtrl>, TreeListMessages(), ProvokeTree, CreatePlain<CListCtrl>},
+         CreatePlain<CZoTreeListCtrl>, TreeListMessages(), ProvokeTree, CreatePlain<CListCtrl>, false,
+         "grows by 4 GDI objects and 6 heap blocks per storm beyond the platform's list"},
     };
     return kinds;
 }

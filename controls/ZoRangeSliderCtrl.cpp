@@ -172,6 +172,15 @@ void CZoRangeSliderCtrl::PopUpMenuToReset(const CPoint& pt)
     NotifyChangedSelectionToParent(ZoRangeChange_Reset);
 }
 
+void CZoRangeSliderCtrl::DrawClient(CDC& dc)
+{
+    CRect client;
+    GetClientRect(&client);
+    DrawSlider(dc, client);
+    if (ShowsFocusCue())
+        ZoDrawFocusCue(dc, client);
+}
+
 void CZoRangeSliderCtrl::DrawSlider(CDC& dc, const CRect& rect) const
 {
     CZoSliderCtrl::DrawSlider(dc, rect);

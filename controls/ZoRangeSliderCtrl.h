@@ -56,6 +56,9 @@ public:
 
 protected:
     void PreSubclassWindow() override;
+    // The focus rectangle surrounds the whole control: the keys move the thumb, and a frame
+    // around the thumb alone would cut through the bound markers beside it.
+    void DrawClient(CDC& dc) override;
     void DrawSlider(CDC& dc, const CRect& rect) const override;
     void DrawThumb(CDC& dc, const CRect& rect) const override;
     virtual void DrawBound(CDC& dc) const;

@@ -122,6 +122,8 @@ void CZoSliderCtrl::DrawClient(CDC& dc)
     CRect client;
     GetClientRect(&client);
     DrawSlider(dc, client);
+    if (ShowsFocusCue())
+        ZoDrawFocusCue(dc, ZoSliderFocusRect(client, _channelRect(), _thumbRect(client)));
 }
 
 LRESULT CZoSliderCtrl::_askPlatform(UINT message, WPARAM wParam, LPARAM lParam) const

@@ -43,6 +43,7 @@ public:
 protected:
     void PreSubclassWindow() override;
     void DrawClient(CDC& dc) override;
+    bool DrawsFocusCue() override { return true; }
 
     // Drawing steps, in the order DrawSlider runs them; subclasses restyle by overriding.
     virtual void DrawSlider(CDC& dc, const CRect& rect) const;

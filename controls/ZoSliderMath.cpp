@@ -177,4 +177,16 @@ int ZoRangeDragRight(int value, int start, int rangeMax)
     return end > rangeMax ? rangeMax : end;
 }
 
+CRect ZoSliderFocusRect(const CRect& client, const CRect& channel, const CRect& thumb)
+{
+    const int kRoom = 2;
+    CRect around;
+    around.UnionRect(&channel, &thumb);
+    around.InflateRect(kRoom, kRoom);
+    CRect inside;
+    if (!inside.IntersectRect(&around, &client))
+        return CRect(0, 0, 0, 0);
+    return inside;
+}
+
 } // namespace ZoControls

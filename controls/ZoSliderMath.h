@@ -47,6 +47,10 @@ ZOCTRL_API int ZoSliderTickPixel(int tick, int rangeMin, int rangeMax, int chann
 ZOCTRL_API int ZoSliderFirstTickPixel(int channelStart, int thumbLength);
 ZOCTRL_API int ZoSliderLastTickPixel(int channelEnd, int thumbLength);
 
+// Where a focused slider draws its focus rectangle: around channel and thumb with a little
+// room, kept inside the client area so that all four sides show.
+ZOCTRL_API CRect ZoSliderFocusRect(const CRect& client, const CRect& channel, const CRect& thumb);
+
 // Offset of selection value `value` from the channel's left edge. The range minimum is not
 // subtracted: the span is measured from value 0. 0 for an empty range or channel.
 ZOCTRL_API int ZoSliderSelectionOffset(int value, int rangeMin, int rangeMax, int channelWidth);

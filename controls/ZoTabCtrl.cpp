@@ -86,6 +86,16 @@ CPoint ZoTabCell(bool vertical, int state, int theme, bool selected, int piece)
     return CPoint(state * kPiecesPerTab + piece, theme * kHorizontalRowsPerTheme + (selected ? 0 : 1));
 }
 
+CRect ZoTabFocusRect(const CRect& tab)
+{
+    // One pixel outside the caption's area.
+    CRect focus = tab;
+    focus.DeflateRect(kCaptionInset - 1, kCaptionInset - 1);
+    if (focus.IsRectEmpty())
+        return CRect(0, 0, 0, 0);
+    return focus;
+}
+
 CRect ZoTabItemRect(const CRect& item, DWORD style)
 {
     CRect grown = item;
@@ -159,6 +169,9 @@ CZoTabCtrl::CZoTabCtrl()
 CZoTabCtrl::~CZoTabCtrl() { _free(); }
 
 E_ZoPaintMode CZoTabCtrl::GetPaintMode() { return _isButtons() ? ZoPaint_Platform : ZoPaint_Offscreen; }
+
+// The platform paints TCS_BUTTONS controls, focus cue included.
+bool CZoTabCtrl::DrawsFocusCue() { return !_isButtons(); }
 
 bool CZoTabCtrl::GetKeptRect(CRect& rect)
 {
@@ -278,6 +291,15 @@ void CZoTabCtrl::_drawTabControl(CDC& dc)
     // In index order: the selected tab is not drawn last.
     for (int i = 0; i < count; ++i)
         _drawTabItem(dc, i, style, enabled, i == selected);
+    if (selected >= 0 && selected < count && ShowsFocusCue())
+        _drawFocusCue(dc, selected, style);
+}
+
+void CZoTabCtrl::_drawFocusCue(CDC& dc, int index, DWORD style)
+{
+    CRect item(0, 0, 0, 0);
+    _askPlatform(TCM_GETITEMRECT, index, (LPARAM)(RECT*)&item);
+    ZoDrawFocusCue(dc, ZoTabFocusRect(ZoTabItemRect(item, style)));
 }
 
 void CZoTabCtrl::_drawFrameRect(CDC& dc)

@@ -43,6 +43,9 @@ ZOCTRL_API int ZoTabTextSlot(bool enabled, bool selected, bool hovered);
 ZOCTRL_API CPoint ZoTabCell(bool vertical, int state, int theme, bool selected, int piece);
 // The tab's rectangle grown by one pixel towards the page.
 ZOCTRL_API CRect ZoTabItemRect(const CRect& item, DWORD style);
+// The focus rectangle of a focused tab control, inside its selected tab `tab` (as grown by
+// ZoTabItemRect) around the caption; empty for a tab too small to hold one.
+ZOCTRL_API CRect ZoTabFocusRect(const CRect& tab);
 // The three pieces of a tab: caps `cap` long at both ends, the middle between them.
 ZOCTRL_API void ZoTabPieces(const CRect& tab, int cap, bool vertical, CRect (&pieces)[3]);
 // The nine frame pieces around page `page` with cells u x v, row by row (top, middle, bottom),
@@ -61,6 +64,7 @@ public:
 
     E_ZoPaintMode GetPaintMode() override;
     bool GetKeptRect(CRect& rect) override;
+    bool DrawsFocusCue() override;
 
     // A copy of `pFont` rotated for side tabs: text runs downward for tabs on the right
     // (escapement 2700), upward otherwise (900). The caller deletes it.
@@ -79,6 +83,7 @@ protected:
     CRect _pageRect() const;
     void _drawTabControl(CDC& dc);
     void _drawFrameRect(CDC& dc);
+    void _drawFocusCue(CDC& dc, int index, DWORD style);
     void _drawTabItem(CDC& dc, int index, DWORD style, bool enabled, bool selected);
     void _drawRotatedCaption(CDC& dc, const CRect& area, wchar_t* text, bool selected, bool right);
     void _invalidateNoFlickering();

@@ -88,4 +88,27 @@ void ZoRepaintNow(HWND hWnd)
     ::UpdateWindow(hWnd);
 }
 
+bool ZoFocusCueShown(HWND hWnd)
+{
+    if (!hWnd || ::GetFocus() != hWnd)
+        return false;
+    return (::DefWindowProcW(hWnd, WM_QUERYUISTATE, 0, 0) & UISF_HIDEFOCUS) == 0;
+}
+
+bool ZoChangesFocusCue(UINT message)
+{
+    return message == WM_SETFOCUS || message == WM_KILLFOCUS || message == WM_UPDATEUISTATE;
+}
+
+void ZoDrawFocusCue(CDC& dc, const CRect& rect)
+{
+    if (rect.IsRectEmpty())
+        return;
+    const COLORREF oldText = dc.SetTextColor(RGB(0, 0, 0));
+    const COLORREF oldBack = dc.SetBkColor(RGB(255, 255, 255));
+    dc.DrawFocusRect(&rect);
+    dc.SetTextColor(oldText);
+    dc.SetBkColor(oldBack);
+}
+
 } // namespace ZoControls

@@ -91,6 +91,8 @@ inline void UseCoreTypes(CObject* object, CString& text)
     Pin<CSize (CPoint::*)(POINT) const>(&CPoint::operator-);
     Pin<CRect (CRect::*)(SIZE) const>(&CRect::operator+);
     Pin<void (CRect::*)(int, int, int, int)>(&CRect::SetRect);
+    Pin<BOOL (CRect::*)(LPCRECT, LPCRECT)>(&CRect::IntersectRect);
+    Pin<BOOL (CRect::*)(LPCRECT, LPCRECT)>(&CRect::UnionRect);
     Pin<BOOL (CSize::*)(SIZE) const>(&CSize::operator==);
 
     CRect rect(0, 0, 10, 10);

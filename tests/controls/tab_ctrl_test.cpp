@@ -149,6 +149,8 @@ TEST_F(TabTest, TabCellsSelectionHoverAndFrameComeFromTheSkins)
     tabs_.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(centre.x, centre.y));
     tabs_.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(centre.x, centre.y));
     tabs_.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(centre.x, centre.y));
+    // The click gave the control the focus; its focus rectangle has a test of its own.
+    ::SetFocus(parent());
     dib = zotest::RenderClient(tabs_.m_hWnd);
     EXPECT_EQ(tabs_.GetCurSel(), 1);
     EXPECT_TRUE(TopCapShows(dib, strip, 1, 0, ZoTabState_Hover, true));

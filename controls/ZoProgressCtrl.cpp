@@ -63,12 +63,15 @@ IMPLEMENT_DYNAMIC(CZoProgressCtrl, CProgressCtrl)
 BEGIN_MESSAGE_MAP(CZoProgressCtrl, CProgressCtrl)
     ON_WM_CREATE()
     ON_WM_DESTROY()
+    ON_MESSAGE(WM_SETFONT, &CZoProgressCtrl::OnSetFont)
+    ON_MESSAGE(WM_GETFONT, &CZoProgressCtrl::OnGetFont)
     ZO_ON_MENUXP_MESSAGES()
 END_MESSAGE_MAP()
 
 ZO_IMPLEMENT_MENUXP_FORWARDING(CZoProgressCtrl, CProgressCtrl)
 
-CZoProgressCtrl::CZoProgressCtrl() : m_pSkin(NULL), m_eTheme(ZoTheme_Default), m_eMonitorSize(ZoMonitorSize_Unknown)
+CZoProgressCtrl::CZoProgressCtrl()
+    : m_pSkin(NULL), m_eTheme(ZoTheme_Default), m_eMonitorSize(ZoMonitorSize_Unknown), m_hTextFont(NULL)
 {
 }
 
@@ -105,6 +108,7 @@ void CZoProgressCtrl::OnDestroy()
     CProgressCtrl::OnDestroy();
     delete m_pSkin;
     m_pSkin = NULL;
+    m_hTextFont = NULL;
 }
 
 void CZoProgressCtrl::DrawClient(CDC& dc)
@@ -170,10 +174,23 @@ void CZoProgressCtrl::DrawPercentage(CDC& dc, const CRect& rect)
     text.Format(L"%d%%", ZoProgressPercent(lo, hi, pos));
     const int oldMode = dc.SetBkMode(TRANSPARENT);
     const COLORREF oldColor = dc.SetTextColor(ZoSlotColor(ZoColor_ProgressText, m_eTheme));
+    const HGDIOBJ oldFont = m_hTextFont ? ::SelectObject(dc.GetSafeHdc(), m_hTextFont) : NULL;
     CRect area = rect;
     dc.DrawText(text, &area, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+    if (oldFont)
+        ::SelectObject(dc.GetSafeHdc(), oldFont);
     dc.SetTextColor(oldColor);
     dc.SetBkMode(oldMode);
 }
+
+LRESULT CZoProgressCtrl::OnSetFont(WPARAM wParam, LPARAM lParam)
+{
+    m_hTextFont = reinterpret_cast<HFONT>(wParam);
+    if (LOWORD(lParam))
+        Invalidate(FALSE);
+    return 0;
+}
+
+LRESULT CZoProgressCtrl::OnGetFont(WPARAM, LPARAM) { return reinterpret_cast<LRESULT>(m_hTextFont); }
 
 } // namespace ZoControls

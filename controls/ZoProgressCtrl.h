@@ -1,6 +1,7 @@
 // CZoProgressCtrl: a progress bar whose filled part is tiled with a skin cell, the rest a flat
 // theme colour, with the percentage written in the middle. Range and position stay those of the
-// platform control.
+// platform control. The percentage is written in the font the host gives with WM_SETFONT (the
+// host's to keep alive), else in the drawing surface's default font.
 #pragma once
 #include <afxcmn.h>
 #include <afxwin.h>
@@ -46,12 +47,16 @@ protected:
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnDestroy();
+    afx_msg LRESULT OnSetFont(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnGetFont(WPARAM wParam, LPARAM lParam);
     ZO_DECLARE_MENUXP_FORWARDING()
     DECLARE_MESSAGE_MAP()
 
     CZoResourceBMPImage* m_pSkin;
     E_ZoTheme m_eTheme;
     E_ZoMonitorSize m_eMonitorSize;
+    // The percentage's font from WM_SETFONT; not owned.
+    HFONT m_hTextFont;
 
 private:
     // Range and position asked of the platform control's own window procedure: a paint needs

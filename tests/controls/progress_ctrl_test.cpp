@@ -84,18 +84,31 @@ TEST_F(ProgressTest, HalfFilledBarTilesCellsAndPrintsSixtyPercent)
     ZOTEST_EXPECT_FILL(dib, CRect(96, 0, 120, 18), controltest::Slot(66));
 }
 
-TEST_F(ProgressTest, PercentTextSaysSixtyNotFifty)
+TEST_F(ProgressTest, PercentTextSaysSixtyNotFiftyInTheFontGiven)
 {
     // Render the text alone on a flat bar the width of the client and compare with "60%" drawn
-    // the same way: the default font of a memory DC over the background colour.
-    Create(0, CRect(0, 0, 120, 18), 10, 110, 60);
-    const zotest::Dib dib = zotest::RenderClient(bar_.GetSafeHwnd());
-    zotest::Dib expected(120, 18, controltest::Slot(66));
-    ::SetBkMode(expected.dc(), TRANSPARENT);
-    ::SetTextColor(expected.dc(), controltest::Slot(67));
-    RECT all = {0, 0, 120, 18};
-    ::DrawTextW(expected.dc(), L"60%", -1, &all, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
-    EXPECT_TRUE(controltest::AreaMatches(dib, CRect(60, 0, 120, 18), expected.Crop(CRect(60, 0, 120, 18))));
+    // the same way: over the background colour, in the default font of a memory DC, or in the
+    // font the host gave with WM_SETFONT.
+    const HFONT large = ::CreateFontW(-22, 0, 0, 0, FW_BOLD, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, L"Tahoma");
+    for (HFONT font : {HFONT(NULL), large}) {
+        Create(0, CRect(0, 0, 120, 30), 10, 110, 60);
+        if (font)
+            bar_.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+        EXPECT_EQ(reinterpret_cast<HFONT>(bar_.SendMessage(WM_GETFONT)), font);
+        const zotest::Dib dib = zotest::RenderClient(bar_.GetSafeHwnd());
+        zotest::Dib expected(120, 30, controltest::Slot(66));
+        if (font)
+            ::SelectObject(expected.dc(), font);
+        ::SetBkMode(expected.dc(), TRANSPARENT);
+        ::SetTextColor(expected.dc(), controltest::Slot(67));
+        RECT all = {0, 0, 120, 30};
+        ::DrawTextW(expected.dc(), L"60%", -1, &all, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+        const CRect flat(60, 0, 120, 30);
+        EXPECT_TRUE(controltest::AreaMatches(dib, flat, expected.Crop(flat))) << (font ? "given font" : "default");
+        ::SelectObject(expected.dc(), ::GetStockObject(SYSTEM_FONT));
+        bar_.DestroyWindow();
+    }
+    ::DeleteObject(large);
 }
 
 TEST_F(ProgressTest, EmptyRangePaintsNothing)

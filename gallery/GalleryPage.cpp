@@ -60,6 +60,42 @@ void CGalleryPage::_registerChildren()
     ResizeRegisteredWindows();
 }
 
+int CGalleryPage::Scaled(int designPixels) const
+{
+    const float zoom = GetZoZoomFactor();
+    if (zoom <= 0.0f)
+        return designPixels;
+    return static_cast<int>(designPixels * zoom + 0.5f);
+}
+
+CFont* CGalleryPage::PageFont(ZoControls::E_ZoThemeFont role) const
+{
+    const ZoControls::CZoThemeManager* manager = ZoControls::CZoThemeManager::GetInstance();
+    return manager ? const_cast<CFont*>(manager->GetCacheGDIFont(role, GetZoMonitorSize())) : NULL;
+}
+
+CPageUnscaledScope::CPageUnscaledScope(CDC& dc) : m_dc(dc), m_bTransformed(false)
+{
+    const XFORM identity = {1.0f, 0.0f, 0.0f, 1.0f, 0.0f, 0.0f};
+    m_saved = identity;
+    if (::GetGraphicsMode(dc.GetSafeHdc()) == GM_ADVANCED && ::GetWorldTransform(dc.GetSafeHdc(), &m_saved)) {
+        m_bTransformed = true;
+        ::ModifyWorldTransform(dc.GetSafeHdc(), NULL, MWT_IDENTITY);
+    }
+}
+
+CPageUnscaledScope::~CPageUnscaledScope()
+{
+    if (m_bTransformed)
+        ::SetWorldTransform(m_dc.GetSafeHdc(), &m_saved);
+}
+
+CPoint CPageUnscaledScope::ToDevice(const CPoint& point) const
+{
+    return CPoint(static_cast<int>(point.x * m_saved.eM11 + point.y * m_saved.eM21 + m_saved.eDx + 0.5f),
+                  static_cast<int>(point.x * m_saved.eM12 + point.y * m_saved.eM22 + m_saved.eDy + 0.5f));
+}
+
 BOOL CGalleryPage::OnCreatePage()
 {
     return TRUE;

@@ -21,6 +21,12 @@ protected:
     // Paints everything that isn't a child control, into an off-screen DC.
     virtual void DrawPage(CDC& dc, const CRect& client);
 
+    // A length laid out for the normal size class, in this page's pixels (rounded as the
+    // library rounds its zoomed values).
+    int Scaled(int designPixels) const;
+    // The cached font of `role` for this page's size class: what the library's controls use.
+    CFont* PageFont(ZoControls::E_ZoThemeFont role) const;
+
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
@@ -41,6 +47,23 @@ LRESULT PaintForPrintClient(WPARAM wParam, Paint paint)
     });
     return 0;
 }
+
+// Within DrawPage, which draws in the normal size class's units magnified, draws in the
+// device's own pixels for its lifetime: for pictures the library already sizes for the size
+// class (menu items), which magnifying would make too large.
+class CPageUnscaledScope
+{
+public:
+    explicit CPageUnscaledScope(CDC& dc);
+    ~CPageUnscaledScope();
+    // Where a point of the magnified drawing lands in device pixels.
+    CPoint ToDevice(const CPoint& point) const;
+
+private:
+    CDC& m_dc;
+    XFORM m_saved;
+    bool m_bTransformed;
+};
 
 // The gallery's background: the theme's window colour (the system's face colour before the
 // library starts).

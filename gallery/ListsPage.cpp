@@ -56,10 +56,10 @@ BOOL CListsPage::_createReportList()
                          kReportId))
         return FALSE;
     m_report.SetExtendedStyle(m_report.GetExtendedStyle() | LVS_EX_CHECKBOXES | LVS_EX_HEADERDRAGDROP);
-    m_report.InsertColumn(0, L"Name", LVCFMT_LEFT, 150);
-    m_report.InsertColumn(1, L"Size", LVCFMT_RIGHT, 80);
-    m_report.InsertColumn(2, L"Modified", LVCFMT_LEFT, 140);
-    m_report.InsertColumn(3, L"Kind", LVCFMT_CENTER, 90);
+    m_report.InsertColumn(0, L"Name", LVCFMT_LEFT, Scaled(150));
+    m_report.InsertColumn(1, L"Size", LVCFMT_RIGHT, Scaled(80));
+    m_report.InsertColumn(2, L"Modified", LVCFMT_LEFT, Scaled(140));
+    m_report.InsertColumn(3, L"Kind", LVCFMT_CENTER, Scaled(90));
     m_report.SetColumnSortMethod(0, CZoListCtrl::SCM_TextInsensitive);
     m_report.SetColumnSortMethod(1, CZoListCtrl::SCM_Numeric);
     m_report.SetColumnSortMethod(2, CZoListCtrl::SCM_DateTime);
@@ -103,9 +103,9 @@ BOOL CListsPage::_createVirtualList()
     if (!m_virtual.Create(kChild | WS_BORDER | LVS_REPORT | LVS_OWNERDATA | LVS_SHOWSELALWAYS, kVirtualRect, this,
                           kVirtualId))
         return FALSE;
-    m_virtual.InsertColumn(0, L"Row", LVCFMT_RIGHT, 90);
-    m_virtual.InsertColumn(1, L"Square", LVCFMT_RIGHT, 100);
-    m_virtual.InsertColumn(2, L"Parity", LVCFMT_CENTER, 80);
+    m_virtual.InsertColumn(0, L"Row", LVCFMT_RIGHT, Scaled(90));
+    m_virtual.InsertColumn(1, L"Square", LVCFMT_RIGHT, Scaled(100));
+    m_virtual.InsertColumn(2, L"Parity", LVCFMT_CENTER, Scaled(80));
     m_virtual.SetItemCountEx(kVirtualRows);
     return TRUE;
 }

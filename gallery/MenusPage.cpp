@@ -211,7 +211,12 @@ void CMenusPage::_drawPopupPreview(CDC& dc, const CMenu& menu, const CPoint& ori
     const HMENU hMenu = menu.GetSafeHmenu();
     if (!hMenu)
         return;
-    int y = origin.y + 3;
+    // The menu sizes its items for the size class itself: drawn in the device's pixels, as an
+    // open popup is, at the magnified place and width.
+    CPageUnscaledScope unscaled(dc);
+    const CPoint at = unscaled.ToDevice(origin);
+    const int width = Scaled(kPreviewWidth);
+    int y = at.y + 3;
     const int count = ::GetMenuItemCount(hMenu);
     for (int i = 0; i < count; ++i) {
         MENUITEMINFOW info = {};
@@ -229,7 +234,7 @@ void CMenusPage::_drawPopupPreview(CDC& dc, const CMenu& menu, const CPoint& ori
         dis.itemState = i == highlighted ? ODS_SELECTED : 0;
         dis.hwndItem = reinterpret_cast<HWND>(hMenu);
         dis.hDC = dc.GetSafeHdc();
-        dis.rcItem = CRect(origin.x + 3, y, origin.x + kPreviewWidth - 3, y + static_cast<int>(measure.itemHeight));
+        dis.rcItem = CRect(at.x + 3, y, at.x + width - 3, y + static_cast<int>(measure.itemHeight));
         dis.itemData = info.dwItemData;
         CMenuXP::OnDrawItem(&dis, m_hWnd);
         y += measure.itemHeight;
@@ -238,7 +243,7 @@ void CMenusPage::_drawPopupPreview(CDC& dc, const CMenu& menu, const CPoint& ori
     const CZoThemeManager* pTheme = CZoThemeManager::GetInstance();
     const COLORREF border = pTheme ? pTheme->GetGDIColor(static_cast<E_ZoThemeColors>(69), ZoTheme_Default) : RGB(0, 0, 0);
     const COLORREF back = pTheme ? pTheme->GetGDIColor(static_cast<E_ZoThemeColors>(68), ZoTheme_Default) : RGB(0, 0, 0);
-    CRect frame(origin.x, origin.y, origin.x + kPreviewWidth, y + 3);
+    CRect frame(at.x, at.y, at.x + width, y + 3);
     dc.Draw3dRect(&frame, border, border);
     frame.DeflateRect(1, 1);
     dc.Draw3dRect(&frame, back, back);

@@ -95,15 +95,42 @@ BEGIN_MESSAGE_MAP(CScrolledLinesView, CWnd)
     ON_WM_ERASEBKGND()
     ON_MESSAGE(WM_PRINTCLIENT, &CScrolledLinesView::OnPrintClient)
     ON_WM_VSCROLL()
+    ON_WM_SIZE()
 END_MESSAGE_MAP()
 
-CScrolledLinesView::CScrolledLinesView() : m_nTopLine(0) {}
+CScrolledLinesView::CScrolledLinesView() : m_nTopLine(0), m_pFont(NULL), m_nLineHeight(LineHeight), m_pBar(NULL) {}
 
 int CScrolledLinesView::GetVisibleLines() const
 {
     CRect client;
     GetClientRect(&client);
-    return client.Height() / LineHeight;
+    return m_nLineHeight > 0 ? client.Height() / m_nLineHeight : 0;
+}
+
+void CScrolledLinesView::SetLook(CFont* pFont, int lineHeight, CScrollBar* pBar)
+{
+    m_pFont = pFont;
+    m_nLineHeight = lineHeight > 0 ? lineHeight : LineHeight;
+    m_pBar = pBar;
+    _updateBarPage();
+    Invalidate(FALSE);
+}
+
+// The page grows with the view when a larger size class magnifies the layout.
+void CScrolledLinesView::OnSize(UINT nType, int cx, int cy)
+{
+    CWnd::OnSize(nType, cx, cy);
+    _updateBarPage();
+}
+
+void CScrolledLinesView::_updateBarPage()
+{
+    if (!m_pBar || !::IsWindow(m_pBar->GetSafeHwnd()))
+        return;
+    SCROLLINFO info = {sizeof(SCROLLINFO), SIF_PAGE, 0, 0, static_cast<UINT>(GetVisibleLines()), 0, 0};
+    m_pBar->SetScrollInfo(&info, TRUE);
+    // The bar keeps its position inside the new page; the view follows it.
+    m_nTopLine = m_pBar->GetScrollPos();
 }
 
 void CScrolledLinesView::_paintInto(CDC& dc)
@@ -112,15 +139,15 @@ void CScrolledLinesView::_paintInto(CDC& dc)
     GetClientRect(&client);
     CZoMemDC mem(&dc, client.Width(), client.Height());
     mem.FillSolidRect(&client, SlotColor(38, RGB(255, 255, 255)));
-    CFont* pFont = SlotFont(ZoThemeFont_1);
+    CFont* pFont = m_pFont ? m_pFont : SlotFont(ZoThemeFont_1);
     CFont* pOld = pFont ? mem.SelectObject(pFont) : NULL;
     mem.SetBkMode(TRANSPARENT);
     mem.SetTextColor(SlotColor(42, RGB(0, 0, 0)));
-    for (int i = 0; i * LineHeight < client.Height() && m_nTopLine + i < LineCount; ++i)
+    for (int i = 0; i * m_nLineHeight < client.Height() && m_nTopLine + i < LineCount; ++i)
     {
         CString text;
         text.Format(L"Line %d of %d", m_nTopLine + i + 1, static_cast<int>(LineCount));
-        mem.TextOut(4, i * LineHeight, text);
+        mem.TextOut(4, i * m_nLineHeight, text);
     }
     if (pOld)
         mem.SelectObject(pOld);
@@ -219,6 +246,7 @@ BOOL CScrollingPage::_createBuddyView()
         return FALSE;
     m_viewBar.SetBuddy(&m_view);
     SetRange(m_viewBar, 0, CScrolledLinesView::LineCount - 1, m_view.GetVisibleLines(), 0);
+    m_view.SetLook(PageFont(ZoThemeFont_1), Scaled(CScrolledLinesView::LineHeight), &m_viewBar);
     return TRUE;
 }
 
@@ -231,6 +259,7 @@ BOOL CScrollingPage::_createProgressBars()
             return FALSE;
         m_aProgress[i].SetRange32(0, 100);
         m_aProgress[i].SetPos(kProgressStart[i]);
+        m_aProgress[i].SetFont(PageFont(ZoThemeFont_9), FALSE);
     }
     return SetTimer(kProgressTimer, kProgressInterval, NULL) != 0;
 }

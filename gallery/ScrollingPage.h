@@ -11,24 +11,33 @@
 class CScrolledLinesView : public CWnd
 {
 public:
+    // Lines, and their height at the normal size class.
     enum { LineCount = 60, LineHeight = 16 };
 
     CScrolledLinesView();
     int GetTopLine() const { return m_nTopLine; }
     // How many whole lines the client area shows: the scroll bar's page.
     int GetVisibleLines() const;
+    // The font and line height of the page's size class, and the bar whose page follows the
+    // view's height.
+    void SetLook(CFont* pFont, int lineHeight, CScrollBar* pBar);
 
 protected:
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
     afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
+    afx_msg void OnSize(UINT nType, int cx, int cy);
     DECLARE_MESSAGE_MAP()
 
 private:
     void _paintInto(CDC& dc);
+    void _updateBarPage();
 
     int m_nTopLine;
+    CFont* m_pFont;
+    int m_nLineHeight;
+    CScrollBar* m_pBar;
 };
 
 // Where the bar between two side-by-side panes in `area` may sit (its left edge, from left to

@@ -125,10 +125,10 @@ BOOL CTreeListPage::OnCreatePage()
                         L"click a header to sort");
     if (!m_tree.Create(kChild | WS_BORDER | LVS_REPORT | LVS_SHOWSELALWAYS, kTreeRect, this, kTreeId))
         return FALSE;
-    m_tree.InsertColumn(0, L"Name", LVCFMT_LEFT, 240);
-    m_tree.InsertColumn(1, L"Size", LVCFMT_RIGHT, 90);
-    m_tree.InsertColumn(2, L"Modified", LVCFMT_LEFT, 170);
-    m_tree.InsertColumn(3, L"Kind", LVCFMT_CENTER, 100);
+    m_tree.InsertColumn(0, L"Name", LVCFMT_LEFT, Scaled(240));
+    m_tree.InsertColumn(1, L"Size", LVCFMT_RIGHT, Scaled(90));
+    m_tree.InsertColumn(2, L"Modified", LVCFMT_LEFT, Scaled(170));
+    m_tree.InsertColumn(3, L"Kind", LVCFMT_CENTER, Scaled(100));
     m_tree.SetColumnSortMethod(0, CZoListCtrl::SCM_TextInsensitive);
     m_tree.SetColumnSortMethod(1, CZoListCtrl::SCM_Numeric);
     m_tree.SetColumnSortMethod(2, CZoListCtrl::SCM_DateTime);

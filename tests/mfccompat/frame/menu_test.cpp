@@ -1,50 +1,6 @@
-// CMenu against real menus: building, queries, modifying, the handle map and resources.
+// CMenu against real menus: lifetime, the handle map and dead or missing menus.
 #include <afxwin.h>
 #include <gtest/gtest.h>
-
-#include "frame_test_ids.h"
-
-namespace {
-
-MENUITEMINFO ItemInfo(UINT mask)
-{
-    MENUITEMINFO info = {};
-    info.cbSize = sizeof(info);
-    info.fMask = mask;
-    return info;
-}
-
-} // namespace
-
-TEST(MenuModify, RadioItemMovesTheCheck)
-{
-    CMenu menu;
-    ASSERT_TRUE(menu.CreatePopupMenu());
-    for (UINT id = 50; id < 53; id++)
-        ASSERT_TRUE(menu.AppendMenu(MF_STRING, id, L"choice"));
-    ASSERT_TRUE(menu.CheckMenuRadioItem(0, 2, 0, MF_BYPOSITION));
-    ASSERT_TRUE(menu.CheckMenuRadioItem(50, 52, 52, MF_BYCOMMAND));
-    MENUITEMINFO info = ItemInfo(MIIM_FTYPE | MIIM_STATE);
-    ASSERT_TRUE(menu.GetMenuItemInfo(2, &info, TRUE));
-    EXPECT_TRUE(info.fType & MFT_RADIOCHECK);
-    EXPECT_TRUE(info.fState & MFS_CHECKED);
-    ASSERT_TRUE(menu.GetMenuItemInfo(50, &info));
-    EXPECT_FALSE(info.fState & MFS_CHECKED);
-}
-
-TEST(MenuModify, BitmapItem)
-{
-    CMenu menu;
-    ASSERT_TRUE(menu.CreatePopupMenu());
-    CBitmap bitmap;
-    ASSERT_TRUE(bitmap.CreateBitmap(8, 8, 1, 1, NULL));
-    ASSERT_TRUE(menu.AppendMenu(MF_STRING, 30, &bitmap));
-    MENUITEMINFO info = ItemInfo(MIIM_FTYPE | MIIM_BITMAP);
-    ASSERT_TRUE(menu.GetMenuItemInfo(30, &info));
-    EXPECT_TRUE(info.fType & MFT_BITMAP);
-    EXPECT_TRUE(menu.SetMenuItemBitmaps(30, MF_BYCOMMAND, &bitmap, &bitmap));
-    EXPECT_TRUE(menu.DestroyMenu());
-}
 
 TEST(MenuLifetime, AttachDetachAndDestroyRules)
 {

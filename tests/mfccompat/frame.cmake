@@ -1,4 +1,5 @@
-# Menus and control wrappers of the layer: lifetime, handle maps, bad input, reflection.
+# Menus, frames and control wrappers of the layer: lifetime, handle maps, bad input, reflection,
+# automatic menu enabling.
 zo_add_test_executable(test_afx_frame
   frame/menu_test.cpp
   frame/controls_test.cpp

@@ -1,4 +1,5 @@
-// CMenu against real menus: lifetime, the handle map and dead or missing menus.
+// CMenu against real menus: lifetime, the handle map, dead or missing menus, and a frame's
+// automatic enabling of its pop-ups.
 #include <afxwin.h>
 #include <gtest/gtest.h>
 
@@ -49,3 +50,52 @@ TEST(MenuBadInput, DeadOrMissingMenusGiveDefinedResults)
     EXPECT_FALSE(menu.LoadMenuIndirect(NULL));
 }
 
+
+namespace {
+
+const UINT kOpen = 104;
+const UINT kExit = 105;
+
+// Handles "Open" only; "Exit" has neither a command nor an update handler.
+class CommandFrame : public CFrameWnd
+{
+public:
+    int opened = 0;
+
+protected:
+    afx_msg void OnOpen() { ++opened; }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CommandFrame, CFrameWnd)
+    ON_COMMAND(kOpen, &CommandFrame::OnOpen)
+END_MESSAGE_MAP()
+
+bool ItemEnabled(HMENU menu, UINT id)
+{
+    return (::GetMenuState(menu, id, MF_BYCOMMAND) & (MF_GRAYED | MF_DISABLED)) == 0;
+}
+
+} // namespace
+
+// The skinned frame derives from CFrameWnd: its pop-ups are updated this way.
+TEST(FrameMenus, AutoMenuEnableDisablesItemsWithoutHandlers)
+{
+    CommandFrame* frame = new CommandFrame; // deletes itself with its window
+    ASSERT_TRUE(frame->Create(NULL, L"Frame", WS_OVERLAPPEDWINDOW));
+    HMENU file = ::CreatePopupMenu();
+    ::AppendMenuW(file, MF_STRING, kOpen, L"&Open");
+    ::AppendMenuW(file, MF_STRING, kExit, L"E&xit");
+    frame->SendMessage(WM_INITMENUPOPUP, (WPARAM)file, MAKELPARAM(0, FALSE));
+    EXPECT_TRUE(ItemEnabled(file, kOpen));
+    EXPECT_FALSE(ItemEnabled(file, kExit));
+
+    frame->m_bAutoMenuEnable = FALSE;
+    ::EnableMenuItem(file, kExit, MF_BYCOMMAND | MF_ENABLED);
+    frame->SendMessage(WM_INITMENUPOPUP, (WPARAM)file, MAKELPARAM(0, FALSE));
+    EXPECT_TRUE(ItemEnabled(file, kExit));
+    frame->SendMessage(WM_COMMAND, kOpen);
+    EXPECT_EQ(1, frame->opened);
+    frame->DestroyWindow();
+    ::DestroyMenu(file);
+}

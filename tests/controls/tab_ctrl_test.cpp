@@ -118,6 +118,11 @@ TEST(TabMath, StripsCellsAndPieces)
     EXPECT_EQ(ZoTabCell(true, ZoTabState_Hover, 1, false, 2), CPoint(1, 11));
     EXPECT_EQ(ZoTabStateOf(false, 0, 0, 0), ZoTabState_Disabled);
     EXPECT_EQ(ZoTabStateOf(true, 2, 2, 2), ZoTabState_Pressed);
+    // Caption colour slots: disabled beats selected beats hovered.
+    EXPECT_EQ(ZoTabTextSlot(false, true, true), 8);
+    EXPECT_EQ(ZoTabTextSlot(true, true, true), 7);
+    EXPECT_EQ(ZoTabTextSlot(true, false, true), 6);
+    EXPECT_EQ(ZoTabTextSlot(true, false, false), 5);
     EXPECT_EQ(ZoTabItemRect(CRect(0, 0, 10, 10), TCS_VERTICAL | TCS_RIGHT), CRect(-1, 0, 10, 10));
     EXPECT_EQ(ZoTabItemRect(CRect(0, 0, 10, 10), TCS_BOTTOM), CRect(0, -1, 10, 10));
     CRect frame[9];

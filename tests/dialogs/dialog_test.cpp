@@ -321,21 +321,27 @@ TEST_F(DialogTest, CaptionBarAndCloseCellPainted)
 
 TEST_F(DialogTest, NoGrowthOverOpenCloseCycles)
 {
-    // The parent's MFC object is a temporary one, freed at each idle time: asked afresh.
+    // The parent's MFC object is a temporary one, freed at each idle time: asked afresh. Each box
+    // is painted off screen and closed before its modal loop would show it.
     const HWND owner = parent();
-    const auto plain = [owner]() {
-        dialogtest::DriveModal([](HWND box) { ::PostMessageW(box, WM_COMMAND, IDCANCEL, 0); });
+    const auto close = [](HWND box) {
+        dialogtest::PaintHidden(box);
+        ::PostMessageW(box, WM_COMMAND, IDCANCEL, 0);
+    };
+    const auto plain = [owner, close]() {
+        dialogtest::DriveModalBeforeShown(close);
         CDialog dialog(IDD_TEST_NINE_CLASSES, CWnd::FromHandle(owner));
         EXPECT_EQ(IDCANCEL, dialog.DoModal());
         dialogtest::HostIdleTime();
     };
-    const auto skinned = [owner]() {
-        dialogtest::DriveModal([](HWND box) { ::PostMessageW(box, WM_COMMAND, IDCANCEL, 0); });
+    const auto skinned = [owner, close]() {
+        dialogtest::DriveModalBeforeShown(close);
         TestDialog dialog(IDD_TEST_NINE_CLASSES, CWnd::FromHandle(owner));
         EXPECT_EQ(IDCANCEL, dialog.DoModal());
         dialogtest::HostIdleTime();
     };
     dialogtest::ExpectNoMoreGrowthThanPlatform(100, plain, skinned);
+    dialogtest::StopDrivingBeforeShown();
 }
 
 } // namespace

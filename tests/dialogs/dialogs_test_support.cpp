@@ -1,6 +1,7 @@
 #include "dialogs_test_support.h"
 
 #include <zotest/pump.h>
+#include <zotest/renderer.h>
 #include <zotest/resource_counter.h>
 
 namespace dialogtest {
@@ -82,6 +83,46 @@ void DriveModal(std::function<void(HWND box)> action)
     g_driver.action = std::move(action);
     g_driver.box = NULL;
     g_driver.timer = ::SetTimer(NULL, 0, kPollMilliseconds, poll);
+}
+
+namespace {
+
+std::function<void(HWND)> g_atInit;
+HHOOK g_initHook = NULL;
+
+LRESULT CALLBACK afterInit(int code, WPARAM wParam, LPARAM lParam)
+{
+    const CWPRETSTRUCT* call = reinterpret_cast<const CWPRETSTRUCT*>(lParam);
+    if (code == HC_ACTION && call->message == WM_INITDIALOG && g_atInit) {
+        std::function<void(HWND)> action;
+        action.swap(g_atInit);
+        action(call->hwnd);
+    }
+    return ::CallNextHookEx(NULL, code, wParam, lParam);
+}
+
+} // namespace
+
+void DriveModalBeforeShown(std::function<void(HWND box)> action)
+{
+    g_atInit = std::move(action);
+    if (!g_initHook)
+        g_initHook = ::SetWindowsHookExW(WH_CALLWNDPROCRET, afterInit, NULL, ::GetCurrentThreadId());
+}
+
+void StopDrivingBeforeShown()
+{
+    g_atInit = nullptr;
+    if (g_initHook)
+        ::UnhookWindowsHookEx(g_initHook);
+    g_initHook = NULL;
+}
+
+void PaintHidden(HWND box)
+{
+    zotest::Dib canvas(640, 480);
+    ::SendMessageW(box, WM_PRINT, reinterpret_cast<WPARAM>(canvas.dc()),
+                   PRF_NONCLIENT | PRF_CLIENT | PRF_CHILDREN | PRF_ERASEBKGND);
 }
 
 void HostIdleTime()

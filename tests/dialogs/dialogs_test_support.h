@@ -37,6 +37,15 @@ private:
 // never hangs.
 void DriveModal(std::function<void(HWND box)> action);
 
+// `action(box)` runs as soon as the thread's next dialog has handled WM_INITDIALOG, before its
+// modal loop first shows it: a box closed from there never reaches the screen, which keeps
+// open/close cycles cheap. Stop with StopDrivingBeforeShown.
+void DriveModalBeforeShown(std::function<void(HWND box)> action);
+void StopDrivingBeforeShown();
+
+// Paints a hidden box, frame, client and children, into a scratch bitmap.
+void PaintHidden(HWND box);
+
 // What a host's idle time does between two boxes: MFC's temporary objects are freed.
 void HostIdleTime();
 

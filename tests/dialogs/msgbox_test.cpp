@@ -324,25 +324,32 @@ TEST_F(MessageBoxTest, CaptionsFollowTheLanguage)
 
 TEST_F(MessageBoxTest, NoGrowthOverOpenCloseCycles)
 {
-    // The parent's MFC object is a temporary one, freed at each idle time: asked afresh.
+    // The parent's MFC object is a temporary one, freed at each idle time: asked afresh. Each box
+    // is painted off screen and closed before its modal loop would show it.
     const HWND owner = parent();
     const auto plain = [owner]() {
-        DriveModal([](HWND box) { ::PostMessageW(box, WM_COMMAND, IDCANCEL, 0); });
+        dialogtest::DriveModalBeforeShown([](HWND box) {
+            dialogtest::PaintHidden(box);
+            ::PostMessageW(box, WM_COMMAND, IDCANCEL, 0);
+        });
         CDialog dialog(IDD_ZO_MESSAGEBOX, CWnd::FromHandle(owner));
         EXPECT_EQ(IDCANCEL, dialog.DoModal());
         dialogtest::HostIdleTime();
     };
     const auto box = [owner]() {
         bool flag = false;
-        DriveModal([](HWND box) {
+        dialogtest::DriveModalBeforeShown([](HWND box) {
+            dialogtest::PaintHidden(box);
             ::SendMessageW(::GetDlgItem(box, IDC_ZO_MSGBOX_DONTSHOW), BM_CLICK, 0, 0);
             ::SendMessageW(::GetDlgItem(box, IDC_ZO_MSGBOX_BUTTON_MIDDLE), BM_CLICK, 0, 0);
         });
         EXPECT_EQ(IDNO, ZoMessageBoxDispensable(CWnd::FromHandle(owner), MB_YESNOCANCEL | MB_ICONQUESTION, &flag,
                                                 L"Cycle %d", 1));
+        EXPECT_TRUE(flag);
         dialogtest::HostIdleTime();
     };
     dialogtest::ExpectNoMoreGrowthThanPlatform(100, plain, box);
+    dialogtest::StopDrivingBeforeShown();
 }
 
 } // namespace

@@ -100,8 +100,6 @@ protected:
 
 } // namespace
 
-// ---- arithmetic ---------------------------------------------------------------------------
-
 // ---- the store ------------------------------------------------------------------------------
 
 TEST_F(PngTest, CompositionOverSeveralColours)
@@ -277,8 +275,6 @@ TEST_F(PngTest, ReloadReleasesTheOldPicturesEntry)
     ASSERT_TRUE(image.LoadResourceImage(kCheckRadioPng, 4, 5));
     EXPECT_EQ(GetObjectType(picture), 0u); // deleted whatever the flag said
 }
-
-// ---- composing over the screen ------------------------------------------------------------
 
 // ---- lifetime -------------------------------------------------------------------------------
 

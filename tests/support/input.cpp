@@ -34,12 +34,6 @@ void SendClick(HWND window, POINT client, WPARAM extraKeys)
     SendButton(window, WM_LBUTTONDOWN, WM_LBUTTONUP, MK_LBUTTON, client, extraKeys);
 }
 
-void SendDoubleClick(HWND window, POINT client, WPARAM extraKeys)
-{
-    SendClick(window, client, extraKeys);
-    SendButton(window, WM_LBUTTONDBLCLK, WM_LBUTTONUP, MK_LBUTTON, client, extraKeys);
-}
-
 void SendRightClick(HWND window, POINT client, WPARAM extraKeys)
 {
     SendButton(window, WM_RBUTTONDOWN, WM_RBUTTONUP, MK_RBUTTON, client, extraKeys);
@@ -63,18 +57,6 @@ bool MoveCursorTo(HWND window, POINT client)
         return false;
     POINT now{};
     return GetCursorPos(&now) && now.x == screen.x && now.y == screen.y;
-}
-
-bool RealClick(HWND window, POINT client)
-{
-    if (!MoveCursorTo(window, client))
-        return false;
-    INPUT inputs[2] = {};
-    inputs[0].type = INPUT_MOUSE;
-    inputs[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
-    inputs[1].type = INPUT_MOUSE;
-    inputs[1].mi.dwFlags = MOUSEEVENTF_LEFTUP;
-    return SendInput(2, inputs, sizeof(INPUT)) == 2;
 }
 
 bool PumpUntilReceived(const MessageRecorder& recorder, UINT message, WindowRole role, DWORD timeoutMilliseconds)

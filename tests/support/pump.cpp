@@ -40,22 +40,6 @@ int PumpUntilIdle(DWORD maxMilliseconds, int maxMessages)
     return dispatched;
 }
 
-int PumpFor(DWORD milliseconds)
-{
-    const DWORD start = GetTickCount();
-    int dispatched = 0;
-    for (;;) {
-        Taken taken;
-        while ((taken = DispatchOne()) == Taken::Message)
-            ++dispatched;
-        const DWORD passed = GetTickCount() - start;
-        if (taken == Taken::Quit || passed >= milliseconds)
-            break;
-        MsgWaitForMultipleObjects(0, nullptr, FALSE, milliseconds - passed, QS_ALLINPUT);
-    }
-    return dispatched;
-}
-
 bool PumpUntil(const std::function<bool()>& done, DWORD timeoutMilliseconds)
 {
     if (!done)

@@ -1,7 +1,5 @@
 #include <zotest/recorder.h>
 
-#include <zotest/test_window.h>
-
 #include <commctrl.h>
 
 #include <algorithm>
@@ -19,15 +17,6 @@ std::vector<MessageRecorder*>& LiveRecorders()
 }
 
 HHOOK g_getMessageHook = nullptr;
-HHOOK g_creationHook = nullptr;
-
-bool AnyRecorderWatchesCreations()
-{
-    for (MessageRecorder* recorder : LiveRecorders())
-        if (recorder && recorder->WatchesCreatedWindows())
-            return true;
-    return false;
-}
 
 const UINT kDefaultNoise[] = {
     WM_GETICON, WM_NCHITTEST, WM_SETCURSOR, WM_GETOBJECT, WM_IME_SETCONTEXT, WM_IME_NOTIFY,
@@ -82,23 +71,6 @@ bool Matches(const ExpectedMessage& expected, const RecordedMessage& actual)
     if ((expected.flags & code) && expected.code != actual.code)
         return false;
     return true;
-}
-
-// The table as it applies to the running system: Wine-only rows vanish on Windows, rows marked as
-// Wine differences become optional under Wine.
-std::vector<ExpectedMessage> ResolvePlatform(const ExpectedMessage* table, size_t count)
-{
-    const bool wine = RunningUnderWine();
-    std::vector<ExpectedMessage> rows;
-    for (size_t i = 0; table && i < count; ++i) {
-        ExpectedMessage row = table[i];
-        if ((row.flags & wine_only) && !wine)
-            continue;
-        if (wine && (row.flags & (wine_only | wine_differs)))
-            row.flags |= optional;
-        rows.push_back(row);
-    }
-    return rows;
 }
 
 std::vector<RecordedMessage> RelevantMessages(const MessageRecorder& recorder, const ExpectedMessage* table,
@@ -171,7 +143,6 @@ MessageRecorder::MessageRecorder()
 
 MessageRecorder::~MessageRecorder()
 {
-    StopWatchingCreatedWindows();
     UnwatchAll();
     auto& recorders = LiveRecorders();
     recorders.erase(std::remove(recorders.begin(), recorders.end(), this), recorders.end());
@@ -215,39 +186,6 @@ void MessageRecorder::Unwatch(HWND window)
     Forget(window);
 }
 
-void MessageRecorder::WatchCreatedWindows(const wchar_t* className, WindowRole role)
-{
-    watchingCreations_ = true;
-    createdClass_ = className ? className : L"";
-    createdRole_ = role;
-    if (!g_creationHook)
-        g_creationHook = SetWindowsHookExW(WH_CBT, CreationHook, nullptr, GetCurrentThreadId());
-}
-
-void MessageRecorder::StopWatchingCreatedWindows()
-{
-    watchingCreations_ = false;
-    if (g_creationHook && !AnyRecorderWatchesCreations()) {
-        UnhookWindowsHookEx(g_creationHook);
-        g_creationHook = nullptr;
-    }
-}
-
-LRESULT CALLBACK MessageRecorder::CreationHook(int hookCode, WPARAM wParam, LPARAM lParam)
-{
-    if (hookCode == HCBT_CREATEWND) {
-        HWND created = reinterpret_cast<HWND>(wParam);
-        wchar_t className[256] = L"";
-        GetClassNameW(created, className, 256);
-        for (MessageRecorder* recorder : LiveRecorders()) {
-            if (recorder->watchingCreations_ &&
-                (recorder->createdClass_.empty() || lstrcmpiW(recorder->createdClass_.c_str(), className) == 0))
-                recorder->Watch(created, recorder->createdRole_);
-        }
-    }
-    return CallNextHookEx(nullptr, hookCode, wParam, lParam);
-}
-
 void MessageRecorder::UnwatchAll()
 {
     while (!watched_.empty())
@@ -285,14 +223,6 @@ bool MessageRecorder::IsIgnored(UINT message) const
     return message >= 0xC000 || ignored_.count(message) != 0;
 }
 
-std::string MessageRecorder::Describe() const
-{
-    std::string text;
-    for (size_t i = 0; i < messages_.size(); ++i)
-        text += "    " + std::to_string(i) + ": " + DescribeMessage(messages_[i]) + "\n";
-    return text.empty() ? "    (none)\n" : text;
-}
-
 const WindowRole* MessageRecorder::RoleOf(HWND window) const
 {
     for (const Watched& entry : watched_)
@@ -315,7 +245,7 @@ void MessageRecorder::Record(HWND window, UINT message, WPARAM wParam, LPARAM lP
     if (fromQueue)
         queuedPending_ = false;
     const WindowRole* role = RoleOf(window);
-    if (!recording_ || !role)
+    if (!role)
         return;
     RecordedMessage entry;
     entry.window = window;
@@ -354,7 +284,7 @@ LRESULT CALLBACK MessageRecorder::GetMessageHook(int hookCode, WPARAM removal, L
 
 SequenceCheck CompareSequence(const MessageRecorder& recorder, const ExpectedMessage* table, size_t count)
 {
-    const std::vector<ExpectedMessage> expected = ResolvePlatform(table, count);
+    const std::vector<ExpectedMessage> expected(table, table + (table ? count : 0));
     const std::vector<RecordedMessage> actual = RelevantMessages(recorder, table, count);
     SequenceCheck check;
     check.matches = SequenceMatches(expected, actual);
@@ -363,8 +293,7 @@ SequenceCheck CompareSequence(const MessageRecorder& recorder, const ExpectedMes
 
     const auto difference = FirstDifference(expected, actual);
     std::string text = "first difference at expected row " + std::to_string(difference.first) +
-                       ", actual message " + std::to_string(difference.second) + "\n  expected (" +
-                       (RunningUnderWine() ? "as resolved for Wine" : "as resolved for Windows") + "):\n";
+                       ", actual message " + std::to_string(difference.second) + "\n  expected:\n";
     for (size_t i = 0; i < expected.size(); ++i)
         text += std::string(i == difference.first ? "  > " : "    ") + std::to_string(i) + ": " +
                 DescribeExpected(expected[i]) + "\n";
@@ -417,10 +346,6 @@ std::string DescribeExpected(const ExpectedMessage& message)
         text += " code=" + std::to_string(static_cast<int>(message.code));
     if (flags & optional)
         text += " (optional)";
-    if (flags & wine_differs)
-        text += " (differs on Wine)";
-    if (flags & wine_only)
-        text += " (Wine only)";
     return text;
 }
 

@@ -154,9 +154,6 @@ Dib RenderWholeWindow(HWND window, RenderPath path)
         SendMessageW(window, WM_PRINT, reinterpret_cast<WPARAM>(dib.dc()),
                      PRF_NONCLIENT | PRF_CLIENT | PRF_ERASEBKGND | PRF_CHILDREN);
         break;
-    case RenderPath::PrintWindow:
-        PrintWindow(window, dib.dc(), 0);
-        break;
     case RenderPath::Screen: {
         RedrawWindow(window, nullptr, nullptr,
                      RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW | RDW_ERASENOW);
@@ -228,7 +225,7 @@ Dib::Dib(int width, int height, COLORREF fill)
     bitmap_ = bitmap;
     dc_ = dc;
     previous_ = static_cast<HBITMAP>(SelectObject(dc_, bitmap_));
-    Fill(fill);
+    std::fill(bits_, bits_ + static_cast<size_t>(width_) * height_, ToPixel(fill));
 }
 
 Dib::~Dib()
@@ -327,30 +324,6 @@ void Dib::SetPixel(int x, int y, COLORREF color)
     bits_[static_cast<size_t>(y) * width_ + x] = ToPixel(color);
 }
 
-DWORD Dib::Argb(int x, int y) const
-{
-    if (!bits_ || x < 0 || y < 0 || x >= width_ || y >= height_)
-        return 0;
-    GdiFlush();
-    return bits_[static_cast<size_t>(y) * width_ + x];
-}
-
-void Dib::SetArgb(int x, int y, DWORD argb)
-{
-    if (!bits_ || x < 0 || y < 0 || x >= width_ || y >= height_)
-        return;
-    GdiFlush();
-    bits_[static_cast<size_t>(y) * width_ + x] = argb;
-}
-
-void Dib::Fill(COLORREF color)
-{
-    if (!bits_)
-        return;
-    GdiFlush();
-    std::fill(bits_, bits_ + static_cast<size_t>(width_) * height_, ToPixel(color));
-}
-
 Dib Dib::Crop(const RECT& area) const
 {
     RECT bounds = {0, 0, width_, height_}, part;
@@ -414,15 +387,6 @@ Dib RenderClient(HWND window, RenderPath path)
         return dib;
     }
     return RenderWholeWindow(window, path).Crop(ClientRectInWindow(window));
-}
-
-void RenderClientInto(HWND window, HDC dc)
-{
-    if (!IsWindow(window) || !dc)
-        return;
-    const Dib image = RenderClient(window, RenderPath::PrintClient);
-    if (!image.empty())
-        BitBlt(dc, 0, 0, image.width(), image.height(), image.dc(), 0, 0, SRCCOPY);
 }
 
 std::string ColorText(COLORREF color)

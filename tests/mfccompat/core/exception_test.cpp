@@ -1,24 +1,6 @@
-// Exceptions: heap objects thrown by pointer, Delete(), the TRY/CATCH macros and messages.
+// Exceptions: heap objects thrown by pointer, Delete() and the causes of file errors.
 #include <afx.h>
 #include <gtest/gtest.h>
-
-namespace {
-
-int g_nLiveCounted = 0;
-
-class CCountedException : public CException
-{
-public:
-    CCountedException() { ++g_nLiveCounted; }
-    ~CCountedException() { --g_nLiveCounted; }
-};
-
-void ThrowCounted()
-{
-    throw new CCountedException;
-}
-
-} // namespace
 
 TEST(Exceptions, CatchByPointerAndDelete)
 {
@@ -36,54 +18,6 @@ TEST(Exceptions, CatchByPointerAndDelete)
         EXPECT_TRUE(e->m_bAutoDelete);
         e->Delete();
     }
-}
-
-TEST(ExceptionMacros, AndCatchSelectsTheMatchingHandler)
-{
-    int nHandler = 0;
-    TRY
-    {
-        AfxThrowFileException(CFileException::fileNotFound);
-    }
-    CATCH(CMemoryException, e)
-    {
-        nHandler = 1;
-    }
-    AND_CATCH(CFileException, e)
-    {
-        EXPECT_EQ(e->m_cause, CFileException::fileNotFound);
-        nHandler = 2;
-    }
-    END_CATCH
-    EXPECT_EQ(nHandler, 2);
-}
-
-TEST(ExceptionMacros, CatchAllAndThrowLastPassTheSameObjectOutward)
-{
-    CException* pInner = nullptr;
-    CException* pOuter = nullptr;
-    TRY
-    {
-        TRY
-        {
-            ThrowCounted();
-        }
-        CATCH_ALL(e)
-        {
-            pInner = e;
-            THROW_LAST();
-        }
-        END_CATCH_ALL
-    }
-    CATCH_ALL(e)
-    {
-        pOuter = e;
-        EXPECT_EQ(g_nLiveCounted, 1); // still alive: rethrown, not deleted
-    }
-    END_CATCH_ALL
-    EXPECT_NE(pInner, nullptr);
-    EXPECT_EQ(pInner, pOuter);
-    EXPECT_EQ(g_nLiveCounted, 0);
 }
 
 TEST(FileException, OsErrorsMapToCauses)

@@ -1,4 +1,4 @@
-// CFile and CFileFind against a scratch folder in %TEMP%; CMemFile in memory.
+// CFile and CFileFind against a scratch folder in %TEMP%.
 #include <afx.h>
 #include <gtest/gtest.h>
 #include <vector>
@@ -139,42 +139,4 @@ TEST_F(FileTest, FindNothingAndAccessorsBeforeTheFirstMatch)
     EXPECT_STREQ(finder.GetFileURL(), L"file://" + PathOf(L"one.txt"));
     finder.Close();
     EXPECT_TRUE(finder.GetFileName().IsEmpty());
-}
-
-TEST(MemFile, GrowsAsItIsWrittenAndReadsBackFromAnyPosition)
-{
-    CMemFile file(4); // grows in steps of 4 bytes
-    file.Write("abcdefghij", 10);
-    EXPECT_EQ(file.GetLength(), 10u);
-    EXPECT_EQ(file.GetPosition(), 10u);
-    EXPECT_EQ(file.Seek(-4, CFile::end), 6u);
-    char bytes[8] = {};
-    EXPECT_EQ(file.Read(bytes, 8), 4u); // short at the end, no exception
-    EXPECT_STREQ(bytes, "ghij");
-    EXPECT_EQ(file.Read(bytes, 8), 0u);
-    file.SetLength(3);
-    EXPECT_EQ(file.GetPosition(), 3u);
-    file.SeekToBegin();
-    EXPECT_EQ(file.Read(bytes, 8), 3u);
-    EXPECT_EQ(FileExceptionCause([&] { file.Seek(-1, CFile::begin); }), CFileException::badSeek);
-    EXPECT_TRUE(file.GetFilePath().IsEmpty());
-}
-
-TEST(MemFile, AnAttachedBufferIsTheFileAndCannotGrowWithoutAStep)
-{
-    BYTE buffer[4] = {'w', 'x', 'y', 'z'};
-    CMemFile file(buffer, sizeof(buffer));
-    EXPECT_EQ(file.GetLength(), 4u);
-    file.Seek(2, CFile::begin);
-    file.Write("YZ", 2);
-    EXPECT_EQ(buffer[3], 'Z');
-    EXPECT_TRUE(Throws<CMemoryException>([&] { file.Write("!", 1); }));
-    EXPECT_TRUE(Throws<CNotSupportedException>([&] { file.Duplicate(); }));
-    EXPECT_EQ(file.Detach(), buffer);
-    EXPECT_EQ(file.GetLength(), 0u);
-
-    CMemFile growing;
-    growing.Attach(buffer, sizeof(buffer), 16); // with a step the buffer's contents are ignored
-    EXPECT_EQ(growing.GetLength(), 0u);
-    growing.Detach();
 }

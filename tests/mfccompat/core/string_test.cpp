@@ -15,13 +15,6 @@ TEST(StringFormat, CStringArgumentWithoutCastStillFormats)
     EXPECT_STREQ(s, L"tree.bin|7||  2.5|1099511627776|plain|  4|tree.bin+tree.bin|7||  2.5|1099511627776|plain|  4|tree.bin");
 }
 
-TEST(StringFormat, FormatMessageInsertsArguments)
-{
-    CString s;
-    s.FormatMessage(L"%1 has %2!d! rows", L"list", 5);
-    EXPECT_STREQ(s, L"list has 5 rows");
-}
-
 TEST(StringSearch, FindCharAndSubstring)
 {
     CString s(L"one two one");
@@ -83,20 +76,6 @@ TEST(StringEdit, ReplaceRemoveInsertDelete)
     EXPECT_EQ(s.Delete(10, 1), 3);
 }
 
-TEST(StringTokenize, SkipsEmptyTokensAndEndsWithMinusOne)
-{
-    CString s(L",a,,bb,c,");
-    int iPos = 0;
-    EXPECT_STREQ(s.Tokenize(L",", iPos), L"a");
-    EXPECT_STREQ(s.Tokenize(L",", iPos), L"bb");
-    EXPECT_STREQ(s.Tokenize(L",", iPos), L"c");
-    EXPECT_STREQ(s.Tokenize(L",", iPos), L"");
-    EXPECT_EQ(iPos, -1);
-    iPos = 100;
-    EXPECT_STREQ(s.Tokenize(L",", iPos), L"");
-    EXPECT_EQ(iPos, -1);
-}
-
 TEST(StringAccess, GetAtSetAtAndBadIndexes)
 {
     CString s(L"abc");
@@ -116,24 +95,4 @@ TEST(StringBuffer, ReleaseBufferWithoutTerminatorStopsAtTheAllocation)
     wmemset(p, L'q', nAlloc + 1); // overwrites the terminator slot too
     s.ReleaseBuffer();
     EXPECT_EQ(s.GetLength(), nAlloc);
-}
-
-TEST(ExtractSubString, FieldsEmptyAndMissing)
-{
-    CString s;
-    EXPECT_TRUE(AfxExtractSubString(s, L"a\nbb\n\nd", 1));
-    EXPECT_STREQ(s, L"bb");
-    EXPECT_TRUE(AfxExtractSubString(s, L"a\nbb\n\nd", 2));
-    EXPECT_STREQ(s, L"");
-    EXPECT_TRUE(AfxExtractSubString(s, L"a\nbb\n\nd", 3));
-    EXPECT_STREQ(s, L"d");
-    EXPECT_FALSE(AfxExtractSubString(s, L"a\nbb\n\nd", 4));
-    EXPECT_STREQ(s, L"");
-    EXPECT_TRUE(AfxExtractSubString(s, L"x,y", 0, L','));
-    EXPECT_STREQ(s, L"x");
-    EXPECT_TRUE(AfxExtractSubString(s, L"x,y,", 2, L','));
-    EXPECT_STREQ(s, L"");
-    EXPECT_TRUE(AfxExtractSubString(s, L"", 0));
-    EXPECT_FALSE(AfxExtractSubString(s, nullptr, 0));
-    EXPECT_FALSE(AfxExtractSubString(s, L"x", -1));
 }

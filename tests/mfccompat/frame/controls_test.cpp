@@ -14,46 +14,6 @@ class ControlsTest : public ControlHostTest
 
 } // namespace
 
-TEST_F(ControlsTest, EditSelectionLimitAndLines)
-{
-    CEdit edit;
-    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | ES_MULTILINE | ES_AUTOVSCROLL, CRect(0, 0, 200, 80), parent, 4745));
-    EXPECT_EQ(CString(L"Edit"), WindowClassOf(edit.m_hWnd));
-    edit.SetWindowText(L"first line\r\nsecond");
-    EXPECT_EQ(2, edit.GetLineCount());
-    EXPECT_EQ(12, edit.LineIndex(1));
-    EXPECT_EQ(6, edit.LineLength(12));
-    wchar_t line[4];
-    EXPECT_EQ(4, edit.GetLine(1, line, 4));
-    EXPECT_EQ(0, wcsncmp(line, L"seco", 4));
-    EXPECT_EQ(0, edit.GetLine(1, line, 0));
-
-    edit.SetSel(2, 5);
-    int start = -1, end = -1;
-    edit.GetSel(start, end);
-    EXPECT_EQ(2, start);
-    EXPECT_EQ(5, end);
-    EXPECT_EQ(MAKELONG(2, 5), (LONG)edit.GetSel());
-    edit.ReplaceSel(L"X", TRUE);
-    CString text;
-    edit.GetWindowText(text);
-    EXPECT_EQ(CString(L"fiX line\r\nsecond"), text);
-    edit.SetModify(TRUE);
-    EXPECT_TRUE(edit.GetModify());
-    edit.SetModify(FALSE);
-    EXPECT_FALSE(edit.GetModify());
-    EXPECT_TRUE(edit.CanUndo());
-    edit.EmptyUndoBuffer();
-    EXPECT_FALSE(edit.CanUndo());
-
-    edit.SetLimitText(40);
-    EXPECT_EQ(40u, edit.GetLimitText());
-    edit.LimitText(7);
-    EXPECT_EQ(7u, edit.GetLimitText());
-    EXPECT_TRUE(edit.SetReadOnly(TRUE));
-    EXPECT_TRUE(edit.GetStyle() & ES_READONLY);
-}
-
 TEST_F(ControlsTest, DestroyedControlsAnswerQuietly)
 {
     CComboBox combo;

@@ -1,50 +1,7 @@
-// CMenu against real menus: building, queries, modifying, the handle map and resources.
+// CMenu against real menus: lifetime, the handle map, dead or missing menus, and a frame's
+// automatic enabling of its pop-ups.
 #include <afxwin.h>
 #include <gtest/gtest.h>
-
-#include "frame_test_ids.h"
-
-namespace {
-
-MENUITEMINFO ItemInfo(UINT mask)
-{
-    MENUITEMINFO info = {};
-    info.cbSize = sizeof(info);
-    info.fMask = mask;
-    return info;
-}
-
-} // namespace
-
-TEST(MenuModify, RadioItemMovesTheCheck)
-{
-    CMenu menu;
-    ASSERT_TRUE(menu.CreatePopupMenu());
-    for (UINT id = 50; id < 53; id++)
-        ASSERT_TRUE(menu.AppendMenu(MF_STRING, id, L"choice"));
-    ASSERT_TRUE(menu.CheckMenuRadioItem(0, 2, 0, MF_BYPOSITION));
-    ASSERT_TRUE(menu.CheckMenuRadioItem(50, 52, 52, MF_BYCOMMAND));
-    MENUITEMINFO info = ItemInfo(MIIM_FTYPE | MIIM_STATE);
-    ASSERT_TRUE(menu.GetMenuItemInfo(2, &info, TRUE));
-    EXPECT_TRUE(info.fType & MFT_RADIOCHECK);
-    EXPECT_TRUE(info.fState & MFS_CHECKED);
-    ASSERT_TRUE(menu.GetMenuItemInfo(50, &info));
-    EXPECT_FALSE(info.fState & MFS_CHECKED);
-}
-
-TEST(MenuModify, BitmapItem)
-{
-    CMenu menu;
-    ASSERT_TRUE(menu.CreatePopupMenu());
-    CBitmap bitmap;
-    ASSERT_TRUE(bitmap.CreateBitmap(8, 8, 1, 1, NULL));
-    ASSERT_TRUE(menu.AppendMenu(MF_STRING, 30, &bitmap));
-    MENUITEMINFO info = ItemInfo(MIIM_FTYPE | MIIM_BITMAP);
-    ASSERT_TRUE(menu.GetMenuItemInfo(30, &info));
-    EXPECT_TRUE(info.fType & MFT_BITMAP);
-    EXPECT_TRUE(menu.SetMenuItemBitmaps(30, MF_BYCOMMAND, &bitmap, &bitmap));
-    EXPECT_TRUE(menu.DestroyMenu());
-}
 
 TEST(MenuLifetime, AttachDetachAndDestroyRules)
 {
@@ -93,3 +50,52 @@ TEST(MenuBadInput, DeadOrMissingMenusGiveDefinedResults)
     EXPECT_FALSE(menu.LoadMenuIndirect(NULL));
 }
 
+
+namespace {
+
+const UINT kOpen = 104;
+const UINT kExit = 105;
+
+// Handles "Open" only; "Exit" has neither a command nor an update handler.
+class CommandFrame : public CFrameWnd
+{
+public:
+    int opened = 0;
+
+protected:
+    afx_msg void OnOpen() { ++opened; }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CommandFrame, CFrameWnd)
+    ON_COMMAND(kOpen, &CommandFrame::OnOpen)
+END_MESSAGE_MAP()
+
+bool ItemEnabled(HMENU menu, UINT id)
+{
+    return (::GetMenuState(menu, id, MF_BYCOMMAND) & (MF_GRAYED | MF_DISABLED)) == 0;
+}
+
+} // namespace
+
+// The skinned frame derives from CFrameWnd: its pop-ups are updated this way.
+TEST(FrameMenus, AutoMenuEnableDisablesItemsWithoutHandlers)
+{
+    CommandFrame* frame = new CommandFrame; // deletes itself with its window
+    ASSERT_TRUE(frame->Create(NULL, L"Frame", WS_OVERLAPPEDWINDOW));
+    HMENU file = ::CreatePopupMenu();
+    ::AppendMenuW(file, MF_STRING, kOpen, L"&Open");
+    ::AppendMenuW(file, MF_STRING, kExit, L"E&xit");
+    frame->SendMessage(WM_INITMENUPOPUP, (WPARAM)file, MAKELPARAM(0, FALSE));
+    EXPECT_TRUE(ItemEnabled(file, kOpen));
+    EXPECT_FALSE(ItemEnabled(file, kExit));
+
+    frame->m_bAutoMenuEnable = FALSE;
+    ::EnableMenuItem(file, kExit, MF_BYCOMMAND | MF_ENABLED);
+    frame->SendMessage(WM_INITMENUPOPUP, (WPARAM)file, MAKELPARAM(0, FALSE));
+    EXPECT_TRUE(ItemEnabled(file, kExit));
+    frame->SendMessage(WM_COMMAND, kOpen);
+    EXPECT_EQ(1, frame->opened);
+    frame->DestroyWindow();
+    ::DestroyMenu(file);
+}

@@ -1,5 +1,5 @@
-// CDC: drawing lands on the output DC with the right objects, queries read the attribute DC,
-// temporary objects, and the window DCs.
+// CDC: drawing lands on the DC with the right objects, temporary objects, clipping, saved
+// states, text dispatch and the window DCs.
 #include <afxwin.h>
 #include <gtest/gtest.h>
 #include <zotest/renderer.h>
@@ -36,34 +36,6 @@ TEST(DCSelect, NullObjectSelectsNothing)
     DibDC dc(dib);
     EXPECT_EQ(nullptr, dc.SelectObject((CPen*)NULL));
     EXPECT_EQ(::GetStockObject(BLACK_PEN), ::GetCurrentObject(dib.dc(), OBJ_PEN));
-}
-
-// ---- Output and attribute DCs -----------------------------------------------------------
-
-TEST(DCAttribute, QueriesReadTheAttributeDCAndChangesReachBoth)
-{
-    zotest::Dib output(8, 8, kWhite), attributes(8, 8, kWhite);
-    DibDC dc(output);
-    dc.SetAttribDC(attributes.dc());
-    dc.SetTextColor(kRed);
-    EXPECT_EQ(kRed, ::GetTextColor(output.dc()));
-    EXPECT_EQ(kRed, ::GetTextColor(attributes.dc()));
-    ::SetTextColor(attributes.dc(), kGreen);
-    EXPECT_EQ(kGreen, dc.GetTextColor());
-    EXPECT_EQ(kGreen, dc.SetTextColor(kBlue)) << "the previous value comes from the attribute DC";
-    dc.ReleaseAttribDC();
-    EXPECT_EQ(nullptr, dc.m_hAttribDC);
-}
-
-TEST(DCAttribute, DrawingGoesToTheOutputDCOnly)
-{
-    zotest::Dib output(8, 8, kWhite), attributes(8, 8, kWhite);
-    DibDC dc(output);
-    dc.SetAttribDC(attributes.dc());
-    CBrush brush(kBlue);
-    dc.FillRect(CRect(0, 0, 8, 8), &brush);
-    ZOTEST_EXPECT_FILL(output, CRect(0, 0, 8, 8), kBlue);
-    ZOTEST_EXPECT_FILL(attributes, CRect(0, 0, 8, 8), kWhite);
 }
 
 // ---- Handles and temporary objects ------------------------------------------------------
@@ -109,30 +81,6 @@ TEST(DCFill, FillSolidRectFillsExactlyAndLeavesBackgroundColour)
     ZOTEST_EXPECT_FILL(dib, CRect(0, 0, 2, 1), kBlue);
 }
 
-TEST(DCFill, RegionsFillFrameAndPaint)
-{
-    zotest::Dib dib(12, 12, kWhite);
-    DibDC dc(dib);
-    CRgn region;
-    region.CreateRectRgn(1, 1, 5, 5);
-    CBrush red(kRed), blue(kBlue);
-    EXPECT_TRUE(dc.FillRgn(&region, &red));
-    ZOTEST_EXPECT_FILL(dib, CRect(1, 1, 5, 5), kRed);
-    EXPECT_TRUE(dc.FrameRgn(&region, &blue, 1, 1));
-    ZOTEST_EXPECT_PIXEL(dib, 1, 1, kBlue);
-    ZOTEST_EXPECT_PIXEL(dib, 2, 2, kRed);
-    region.OffsetRgn(6, 6);
-    CBrush* old = dc.SelectObject(&blue);
-    EXPECT_TRUE(dc.PaintRgn(&region));
-    dc.SelectObject(old);
-    ZOTEST_EXPECT_FILL(dib, CRect(7, 7, 11, 11), kBlue);
-    EXPECT_FALSE(dc.FillRgn(NULL, &red));
-}
-
-// ---- Lines and pixels -------------------------------------------------------------------
-
-// ---- Blits ------------------------------------------------------------------------------
-
 // ---- Clipping ---------------------------------------------------------------------------
 
 TEST(DCClip, IntersectAndExcludeLimitDrawing)
@@ -154,23 +102,6 @@ TEST(DCClip, IntersectAndExcludeLimitDrawing)
     EXPECT_NE(ERROR, dc.SelectClipRgn(NULL));
     dc.FillSolidRect(0, 0, 1, 1, kBlue);
     ZOTEST_EXPECT_PIXEL(dib, 0, 0, kBlue);
-}
-
-TEST(DCClip, OffsetClipRgnAndCombineMode)
-{
-    zotest::Dib dib(10, 10, kWhite);
-    DibDC dc(dib);
-    CRgn region;
-    region.CreateRectRgn(0, 0, 2, 2);
-    dc.SelectClipRgn(&region);
-    EXPECT_EQ(SIMPLEREGION, dc.OffsetClipRgn(CSize(3, 3)));
-    CRgn more;
-    more.CreateRectRgn(8, 8, 10, 10);
-    EXPECT_EQ(COMPLEXREGION, dc.SelectClipRgn(&more, RGN_OR));
-    dc.FillSolidRect(0, 0, 10, 10, kGreen);
-    ZOTEST_EXPECT_FILL(dib, CRect(3, 3, 5, 5), kGreen);
-    ZOTEST_EXPECT_FILL(dib, CRect(8, 8, 10, 10), kGreen);
-    ZOTEST_EXPECT_PIXEL(dib, 0, 0, kWhite);
 }
 
 // ---- State and mapping ------------------------------------------------------------------
@@ -215,8 +146,6 @@ TEST(DCText, StringOverloadsDispatchToVirtualOperations)
     EXPECT_EQ(1, dc.calls);
     dc.Detach();
 }
-
-// ---- Edges, icons and states ------------------------------------------------------------
 
 // ---- Window DCs -------------------------------------------------------------------------
 

@@ -1,5 +1,4 @@
-// The application object: start-up data, AfxWinMain's run, the main window's end, message
-// boxes with the application's name, and validation failures that tell the user.
+// The application object: AfxWinMain's run and message boxes for missing strings.
 #include "wnd_test_support.h"
 #include "wnd_test_resources.h"
 
@@ -59,57 +58,5 @@ TEST(Application, MessageBoxForAMissingStringShowsNothing)
     EXPECT_EQ(0, AfxMessageBox(54321));
     EXPECT_EQ(0, MessageBoxCloser::s_closed);
 }
-
-// A dialog whose number field accepts integers only.
-class CNumberDialog : public CDialog
-{
-public:
-    CNumberDialog() : CDialog(IDD_DDX) { }
-    int m_number = 5;
-    bool focusOnNumber = false;
-    BOOL okResult = TRUE;
-
-protected:
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        DDX_Text(pDX, IDC_NUMBER, m_number);
-        DDV_MinMaxInt(pDX, m_number, 0, 100);
-    }
-    BOOL OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        SetDlgItemText(IDC_NUMBER, L"12x");
-        PostMessage(WM_APP + 30);
-        return TRUE;
-    }
-    afx_msg LRESULT OnTry(WPARAM, LPARAM)
-    {
-        okResult = UpdateData(TRUE);
-        CWnd* focus = GetFocus();
-        focusOnNumber = focus != NULL && focus->GetDlgCtrlID() == IDC_NUMBER;
-        EndDialog(IDABORT);
-        return 0;
-    }
-    DECLARE_MESSAGE_MAP()
-};
-
-BEGIN_MESSAGE_MAP(CNumberDialog, CDialog)
-    ON_MESSAGE(WM_APP + 30, &CNumberDialog::OnTry)
-END_MESSAGE_MAP()
-
-TEST(DialogValidation, TextThatIsNoNumberIsRefusedAndTheFieldGetsTheFocus)
-{
-    MessageBoxCloser closer(IDOK);
-    CNumberDialog dialog;
-    EXPECT_EQ(IDABORT, dialog.DoModal());
-    EXPECT_FALSE(dialog.okResult);
-    EXPECT_EQ(5, dialog.m_number);
-    EXPECT_TRUE(dialog.focusOnNumber);
-    EXPECT_EQ(1, MessageBoxCloser::s_closed);
-}
-
-} // namespace
-
-namespace {
 
 } // namespace

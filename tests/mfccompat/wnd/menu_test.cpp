@@ -128,10 +128,6 @@ TEST_F(MenuTest, ItemsWithoutAnyHandlerAreDisabledOnlyWhenAsked)
 
 namespace {
 
-} // namespace
-
-namespace {
-
 class CCommandWnd : public CWnd
 {
 public:

@@ -1,5 +1,4 @@
-// Message-map dispatch for the entries the library does not use itself: handlers get the
-// arguments cracked from wParam/lParam as documented; _EX entries that decline pass on.
+// Message-map dispatch: handlers get the arguments cracked from wParam/lParam as documented.
 #include "wnd_test_support.h"
 
 #include <initializer_list>
@@ -13,8 +12,6 @@ enum
     ID_FIRST_COMMAND = 100,
     ID_RANGE_FIRST = 200,
     ID_RANGE_LAST = 210,
-    ID_EX_COMMAND = 300,
-    IDC_LIST = 60,
 };
 
 std::string Name(const CWnd* wnd, const CWnd* self)
@@ -33,7 +30,6 @@ public:
     HWND otherWindow = NULL;
     HBRUSH brush = reinterpret_cast<HBRUSH>(::GetStockObject(GRAY_BRUSH));
     HDC paintDC = NULL;
-    BOOL exResult = FALSE;
 
     std::string Last() const { return calls.empty() ? std::string("<none>") : calls.back(); }
 
@@ -82,8 +78,6 @@ protected:
         return brush;
     }
     afx_msg void OnShowWindow(BOOL bShow, UINT nStatus) { Record("OnShowWindow", bShow, nStatus); }
-    afx_msg void OnEnable(BOOL bEnable) { Record("OnEnable", bEnable); }
-    afx_msg void OnSysCommand(UINT nID, LPARAM lParam) { Record("OnSysCommand", nID, lParam); }
     afx_msg void OnContextMenu(CWnd* pWnd, CPoint pos) { Record("OnContextMenu", Name(pWnd, this), pos.x, pos.y); }
     afx_msg void OnNcLButtonDown(UINT nHitTest, CPoint point) { Record("OnNcLButtonDown", nHitTest, point.x, point.y); }
     afx_msg void OnNcMouseMove(UINT nHitTest, CPoint point) { Record("OnNcMouseMove", nHitTest, point.x, point.y); }
@@ -92,18 +86,6 @@ protected:
     {
         Record("OnNcCalcSize", bCalcValidRects, lpncsp != NULL ? lpncsp->rgrc[0].right : -1);
     }
-    afx_msg void OnGetMinMaxInfo(MINMAXINFO* lpMMI)
-    {
-        Record("OnGetMinMaxInfo");
-        lpMMI->ptMinTrackSize.x = 77;
-    }
-    afx_msg void OnSizing(UINT fwSide, LPRECT pRect) { Record("OnSizing", fwSide, pRect->right); }
-    afx_msg void OnWindowPosChanging(WINDOWPOS* lpwndpos) { Record("OnWindowPosChanging", lpwndpos->cx); }
-    afx_msg void OnSettingChange(UINT uFlags, LPCTSTR lpszSection)
-    {
-        Record("OnSettingChange", uFlags, wndtest::Narrow(lpszSection));
-    }
-    afx_msg void OnSysColorChange() { Record("OnSysColorChange"); }
     afx_msg void OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct)
     {
         Record("OnDrawItem", nIDCtl, lpDrawItemStruct->itemID);
@@ -113,14 +95,6 @@ protected:
         Record("OnMeasureItem", nIDCtl);
         lpMeasureItemStruct->itemHeight = 19;
     }
-    afx_msg void OnMenuSelect(UINT nItemID, UINT nFlags, HMENU hSysMenu)
-    {
-        Record("OnMenuSelect", nItemID, nFlags, hSysMenu == NULL ? "null" : "menu");
-    }
-    afx_msg void OnUpdateUIState(UINT nAction, UINT nUIElement) { Record("OnUpdateUIState", nAction, nUIElement); }
-    afx_msg void OnActivateApp(BOOL bActive, DWORD dwThreadID) { Record("OnActivateApp", bActive, dwThreadID); }
-    afx_msg void OnDropFiles(HDROP hDropInfo) { Record("OnDropFiles", hDropInfo == NULL ? "null" : "drop"); }
-    afx_msg void OnClose() { Record("OnClose"); }
     afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam)
     {
         Record("OnPrintClient", reinterpret_cast<HDC>(wParam) == paintDC ? "dc" : "wrong-dc", lParam);
@@ -128,23 +102,6 @@ protected:
     }
     afx_msg void OnFirstCommand() { Record("OnFirstCommand"); }
     afx_msg void OnRangeCommand(UINT nID) { Record("OnRangeCommand", nID); }
-    afx_msg BOOL OnExCommand(UINT nID)
-    {
-        Record("OnExCommand", nID);
-        return exResult;
-    }
-    afx_msg void OnExFallback() { Record("OnExFallback"); }
-    afx_msg BOOL OnListEx(UINT id, NMHDR*, LRESULT* pResult)
-    {
-        Record("OnListEx", id);
-        *pResult = 44;
-        return exResult;
-    }
-    afx_msg void OnListExFallback(NMHDR*, LRESULT* pResult)
-    {
-        Record("OnListExFallback");
-        *pResult = 45;
-    }
 
     DECLARE_MESSAGE_MAP()
 };
@@ -160,32 +117,16 @@ BEGIN_MESSAGE_MAP(CRecordWnd, CWnd)
     ON_WM_HSCROLL()
     ON_WM_CTLCOLOR()
     ON_WM_SHOWWINDOW()
-    ON_WM_ENABLE()
-    ON_WM_SYSCOMMAND()
     ON_WM_CONTEXTMENU()
     ON_WM_NCLBUTTONDOWN()
     ON_WM_NCMOUSEMOVE()
     ON_WM_NCMOUSELEAVE()
     ON_WM_NCCALCSIZE()
-    ON_WM_GETMINMAXINFO()
-    ON_WM_SIZING()
-    ON_WM_WINDOWPOSCHANGING()
-    ON_WM_SETTINGCHANGE()
-    ON_WM_SYSCOLORCHANGE()
     ON_WM_DRAWITEM()
     ON_WM_MEASUREITEM()
-    ON_WM_MENUSELECT()
-    ON_WM_UPDATEUISTATE()
-    ON_WM_ACTIVATEAPP()
-    ON_WM_DROPFILES()
-    ON_WM_CLOSE()
     ON_MESSAGE(WM_PRINTCLIENT, &CRecordWnd::OnPrintClient)
     ON_COMMAND(ID_FIRST_COMMAND, &CRecordWnd::OnFirstCommand)
     ON_COMMAND_RANGE(ID_RANGE_FIRST, ID_RANGE_LAST, &CRecordWnd::OnRangeCommand)
-    ON_COMMAND_EX(ID_EX_COMMAND, &CRecordWnd::OnExCommand)
-    ON_COMMAND(ID_EX_COMMAND, &CRecordWnd::OnExFallback)
-    ON_NOTIFY_EX(NM_RCLICK, IDC_LIST, &CRecordWnd::OnListEx)
-    ON_NOTIFY(NM_RCLICK, IDC_LIST, &CRecordWnd::OnListExFallback)
 END_MESSAGE_MAP()
 
 class MessageMapTest : public testing::Test
@@ -208,16 +149,6 @@ protected:
     LRESULT Send(UINT message, WPARAM wParam, LPARAM lParam)
     {
         return ::SendMessageW(wnd.m_hWnd, message, wParam, lParam);
-    }
-    // A child control window that sends notifications to the recorder.
-    HWND Child(LPCWSTR className, int id)
-    {
-        return wndtest::CreatePlainWindow(className, WS_CHILD, wnd.m_hWnd, id);
-    }
-    LRESULT Notify(HWND from, UINT code)
-    {
-        NMHDR header = { from, static_cast<UINT_PTR>(::GetDlgCtrlID(from)), code };
-        return Send(WM_NOTIFY, header.idFrom, reinterpret_cast<LPARAM>(&header));
     }
 
     CRecordWnd wnd;
@@ -268,40 +199,22 @@ TEST_F(MessageMapTest, StateMessagesPassTheirFlags)
 {
     ExpectCalls(wnd, {
         { WM_SHOWWINDOW, TRUE, SW_PARENTOPENING, "OnShowWindow 1 3" },
-        { WM_ENABLE, FALSE, 0, "OnEnable 0" },
-        { WM_SYSCOMMAND, SC_KEYMENU, 0x20, "OnSysCommand 61696 32" },
-        { WM_UPDATEUISTATE, MAKEWPARAM(UIS_SET, UISF_HIDEFOCUS), 0, "OnUpdateUIState 1 1" },
-        { WM_ACTIVATEAPP, TRUE, 1234, "OnActivateApp 1 1234" },
-        { WM_SETTINGCHANGE, SPI_SETWORKAREA, reinterpret_cast<LPARAM>(L"Policy"), "OnSettingChange 47 Policy" },
-        { WM_SYSCOLORCHANGE, 0, 0, "OnSysColorChange" },
-        { WM_DROPFILES, 0, 0, "OnDropFiles null" },
         { WM_HSCROLL, MAKEWPARAM(SB_THUMBTRACK, 55), 0, "OnHScroll 5 55 null" }, // no control: null
-        { WM_MENUSELECT, MAKEWPARAM(12, MF_POPUP), 0, "OnMenuSelect 12 16 null" },
         { WM_NCLBUTTONDOWN, HTCAPTION, MAKELPARAM(400, 300), "OnNcLButtonDown 2 400 300" },
         { WM_NCMOUSEMOVE, HTBORDER, MAKELPARAM(1, 2), "OnNcMouseMove 18 1 2" },
         { WM_NCMOUSELEAVE, 0, 0, "OnNcMouseLeave" },
-        { WM_CLOSE, 0, 0, "OnClose" },
     });
-    EXPECT_TRUE(::IsWindow(wnd.m_hWnd)) << "a handled WM_CLOSE does not reach DefWindowProc";
 }
 
 TEST_F(MessageMapTest, StructuresAndDeviceContextsArriveCracked)
 {
-    MINMAXINFO info = {};
-    RECT sizing = { 0, 0, 321, 10 };
-    WINDOWPOS pos = {};
-    pos.cx = 55;
     NCCALCSIZE_PARAMS params = {};
     params.rgrc[0].right = 640;
     const WPARAM dc = reinterpret_cast<WPARAM>(wnd.paintDC);
     ExpectCalls(wnd, {
-        { WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&info), "OnGetMinMaxInfo" },
-        { WM_SIZING, WMSZ_RIGHT, reinterpret_cast<LPARAM>(&sizing), "OnSizing 2 321" },
-        { WM_WINDOWPOSCHANGING, 0, reinterpret_cast<LPARAM>(&pos), "OnWindowPosChanging 55" },
         { WM_NCCALCSIZE, TRUE, reinterpret_cast<LPARAM>(&params), "OnNcCalcSize 1 640" },
         { WM_PRINTCLIENT, dc, PRF_CLIENT, "OnPrintClient dc 4" },
     });
-    EXPECT_EQ(77, info.ptMinTrackSize.x);
     EXPECT_EQ(TRUE, Send(WM_ERASEBKGND, dc, 0));
     EXPECT_EQ("OnEraseBkgnd dc", wnd.Last());
 }
@@ -350,74 +263,6 @@ TEST_F(MessageMapTest, CommandEntriesByIdAndRange)
     wnd.calls.clear();
     EXPECT_EQ(0, Send(WM_COMMAND, MAKEWPARAM(ID_RANGE_LAST + 1, 0), 0));
     EXPECT_TRUE(wnd.calls.empty());
-}
-
-TEST_F(MessageMapTest, CommandExHandlerThatDeclinesLetsTheNextEntryHandleIt)
-{
-    wnd.exResult = TRUE;
-    Send(WM_COMMAND, MAKEWPARAM(ID_EX_COMMAND, 0), 0);
-    EXPECT_EQ((std::vector<std::string>{ "OnExCommand 300" }), wnd.calls);
-    wnd.calls.clear();
-    wnd.exResult = FALSE;
-    Send(WM_COMMAND, MAKEWPARAM(ID_EX_COMMAND, 0), 0);
-    EXPECT_EQ((std::vector<std::string>{ "OnExCommand 300", "OnExFallback" }), wnd.calls);
-}
-
-TEST_F(MessageMapTest, NotifyExHandlerThatDeclinesLetsTheNextEntryHandleIt)
-{
-    HWND list = Child(WC_LISTVIEWW, IDC_LIST);
-    wnd.exResult = TRUE;
-    EXPECT_EQ(44, Notify(list, NM_RCLICK));
-    EXPECT_EQ((std::vector<std::string>{ "OnListEx 60" }), wnd.calls);
-    wnd.calls.clear();
-    wnd.exResult = FALSE;
-    EXPECT_EQ(45, Notify(list, NM_RCLICK));
-    EXPECT_EQ((std::vector<std::string>{ "OnListEx 60", "OnListExFallback" }), wnd.calls);
-}
-
-} // namespace
-
-namespace {
-
-class CCountingWnd : public CWnd
-{
-public:
-    int received = 0;
-    LRESULT defaultResult = -1;
-protected:
-    afx_msg LRESULT OnPing(WPARAM wParam, LPARAM lParam)
-    {
-        received += static_cast<int>(wParam + lParam);
-        // Default() works on the message being delivered, also when it came straight to the object.
-        defaultResult = Default();
-        return 0;
-    }
-    DECLARE_MESSAGE_MAP()
-};
-
-BEGIN_MESSAGE_MAP(CCountingWnd, CWnd)
-    ON_MESSAGE(WM_APP + 9, &CCountingWnd::OnPing)
-END_MESSAGE_MAP()
-
-TEST(MessagesToDescendants, ReachChildrenAndGrandchildrenOrOnlyPermanentObjects)
-{
-    CWnd top;
-    ASSERT_TRUE(top.CreateEx(0, AfxRegisterWndClass(0), L"top", WS_POPUP, 0, 0, 100, 100, NULL, NULL));
-    CCountingWnd child;
-    ASSERT_TRUE(child.Create(NULL, L"child", WS_VISIBLE, CRect(0, 0, 50, 50), &top, 1));
-    CCountingWnd grandchild;
-    ASSERT_TRUE(grandchild.Create(NULL, L"grandchild", WS_VISIBLE, CRect(0, 0, 20, 20), &child, 2));
-    wndtest::CreatePlainWindow(L"STATIC", WS_CHILD, top.m_hWnd, 3);
-
-    top.SendMessageToDescendants(WM_APP + 9, 1, 2, TRUE, TRUE);
-    EXPECT_EQ(3, child.received);
-    EXPECT_EQ(3, grandchild.received);
-    EXPECT_EQ(0, child.defaultResult);
-
-    top.SendMessageToDescendants(WM_APP + 9, 10, 0, FALSE, FALSE);
-    EXPECT_EQ(13, child.received);
-    EXPECT_EQ(3, grandchild.received) << "not deep";
-    top.DestroyWindow();
 }
 
 } // namespace

@@ -1,6 +1,5 @@
 // Message pumping for tests.
 //   PumpUntilIdle   dispatch until the queue is empty (bounded by time and message count)
-//   PumpFor         dispatch for a given time, so timers can fire (keep it short)
 //   PumpUntil       dispatch until a condition holds or a time-out passes
 // A WM_QUIT taken from the queue is posted again and ends the pumping.
 #pragma once
@@ -13,7 +12,6 @@ namespace zotest {
 
 // Returns the number of messages dispatched.
 int PumpUntilIdle(DWORD maxMilliseconds = 2000, int maxMessages = 100000);
-int PumpFor(DWORD milliseconds);
 // True when `done` returned true before `timeoutMilliseconds` passed.
 bool PumpUntil(const std::function<bool()>& done, DWORD timeoutMilliseconds = 2000);
 

@@ -21,11 +21,9 @@
 // Queue-made messages (input, WM_PAINT, WM_TIMER) count as posted when a loop dispatches them.
 //
 // Watch a window after its MFC object (if any) has subclassed it: the recorder then sits outermost
-// and sees every message, including those a handler answers without calling the default. To see
-// creation messages (WM_NCCREATE, WM_CREATE, ...), call WatchCreatedWindows before creating: a
-// WH_CBT hook subclasses each new window of the thread (optionally only of one class) at once.
+// and sees every message, including those a handler answers without calling the default.
 //
-// Noise: messages in the ignore set (WM_GETICON, WM_NCHITTEST, WM_SETCURSOR, WM_GETOBJECT, IME and
+// Noise: messages in the fixed ignore set (WM_GETICON, WM_NCHITTEST, WM_SETCURSOR, WM_GETOBJECT, IME and
 // undocumented theme messages, registered messages >= 0xC000) are left out of the comparison unless
 // the table lists that message number. MatchOnlyListed(true) leaves out every unlisted message.
 #pragma once
@@ -48,8 +46,6 @@ enum MessageFlags : unsigned {
     lparam = 0x0008,       // compare lParam
     code = 0x0010,         // compare the notification code (WM_COMMAND high word, NMHDR::code)
     optional = 0x0020,     // may be missing
-    wine_differs = 0x0040, // Wine departs from Windows here: required on Windows, optional under Wine
-    wine_only = 0x0080,    // Wine sends it, Windows does not: optional under Wine, absent on Windows
     parent = 0x0100,       // received by a window watched as WindowRole::Parent
     other = 0x0200,        // received by a window watched as WindowRole::Other
 };
@@ -92,33 +88,21 @@ public:
     bool WatchWithParent(HWND control);
     void Unwatch(HWND window);
     void UnwatchAll();
-    // Watches every window this thread creates from now on (only class `className` when given,
-    // compared case-insensitively) until StopWatchingCreatedWindows.
-    void WatchCreatedWindows(const wchar_t* className = nullptr, WindowRole role = WindowRole::Control);
-    void StopWatchingCreatedWindows();
     bool IsWatched(HWND window) const;
-    bool WatchesCreatedWindows() const { return watchingCreations_; }
 
     void Clear();
-    void Pause() { recording_ = false; }
-    void Resume() { recording_ = true; }
     const std::vector<RecordedMessage>& Messages() const { return messages_; }
     // Recorded messages with number `message` (any role).
     std::vector<RecordedMessage> MessagesOf(UINT message) const;
     size_t Count(UINT message, WindowRole role = WindowRole::Control) const;
 
-    void Ignore(UINT message) { ignored_.insert(message); }
-    void StopIgnoring(UINT message) { ignored_.erase(message); }
     bool IsIgnored(UINT message) const;
     void MatchOnlyListed(bool only) { matchOnlyListed_ = only; }
     bool MatchesOnlyListed() const { return matchOnlyListed_; }
 
-    std::string Describe() const;
-
 private:
     static LRESULT CALLBACK SubclassProc(HWND, UINT, WPARAM, LPARAM, UINT_PTR, DWORD_PTR);
     static LRESULT CALLBACK GetMessageHook(int, WPARAM, LPARAM);
-    static LRESULT CALLBACK CreationHook(int, WPARAM, LPARAM);
     void Record(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     const WindowRole* RoleOf(HWND window) const;
     void Forget(HWND window);
@@ -131,15 +115,11 @@ private:
     std::vector<RecordedMessage> messages_;
     std::set<UINT> ignored_;
     bool matchOnlyListed_ = false;
-    bool recording_ = true;
     bool queuedPending_ = false;
     MSG queued_{};
-    bool watchingCreations_ = false;
-    std::wstring createdClass_;
-    WindowRole createdRole_ = WindowRole::Control;
 };
 
-// Compares what `recorder` holds with the table (platform flags resolved for the running system).
+// Compares what `recorder` holds with the table.
 SequenceCheck CompareSequence(const MessageRecorder& recorder, const ExpectedMessage* table, size_t count);
 
 // Reports a mismatch as a non-fatal gtest failure at file/line and clears the recorder.

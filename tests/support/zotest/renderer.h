@@ -4,7 +4,6 @@
 //   RenderPath           how a window is asked to paint (see below)
 //   RenderClient         client area of a window into a new Dib
 //   RenderWindow         whole window (non-client too) into a new Dib
-//   RenderClientInto     client area into an existing DC at its current origin
 //   PixelIs, RectFilled, MatchesCell, BoundsAre   gtest AssertionResults with coordinates/colours
 //   BoundsOfDifferences  bounding box of pixels that differ from a background colour
 //   CellRect             rectangle of cell (column, row) in a strip cut into equal cells
@@ -19,7 +18,6 @@
 //   Print        one WM_PRINT(PRF_NONCLIENT|PRF_CLIENT|PRF_ERASEBKGND|PRF_CHILDREN). Wine draws
 //                the client area only, at the target's origin (not moved by the frame), without
 //                frame and without children.
-//   PrintWindow  PrintWindow(window, dc, 0). Under Wine the same as Print.
 //   Screen       RedrawWindow(... RDW_UPDATENOW), then BitBlt from the window DC: the real WM_PAINT
 //                path with frame and children, exactly as on screen; the window must be visible and
 //                uncovered (a hidden window gives kUnpainted).
@@ -65,12 +63,8 @@ public:
     // CLR_INVALID outside the DIB.
     COLORREF Pixel(int x, int y) const;
     void SetPixel(int x, int y, COLORREF color);
-    // The raw 0xAARRGGBB value with its alpha byte (for premultiplied-alpha pictures); 0 outside.
-    DWORD Argb(int x, int y) const;
-    void SetArgb(int x, int y, DWORD argb);
     // Rows of width() pixels, top row first; null for an empty Dib.
     DWORD* bits() const { return bits_; }
-    void Fill(COLORREF color);
     // The part of this DIB inside `area` (clipped); empty when nothing is left.
     Dib Crop(const RECT& area) const;
     // Writes a .bmp file, handy when a pixel test fails.
@@ -86,12 +80,10 @@ private:
     HDC dc_ = nullptr;
 };
 
-enum class RenderPath { PrintClient, Print, PrintWindow, Screen };
+enum class RenderPath { PrintClient, Print, Screen };
 
 Dib RenderClient(HWND window, RenderPath path = RenderPath::PrintClient);
 Dib RenderWindow(HWND window, RenderPath path = RenderPath::PrintClient);
-// Paints the client area of `window` into `dc` at the DC's current origin (PrintClient path).
-void RenderClientInto(HWND window, HDC dc);
 
 std::string ColorText(COLORREF color);
 

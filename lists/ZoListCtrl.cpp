@@ -281,8 +281,9 @@ void CZoListCtrl::_copyScrollInfo()
 
 int CZoListCtrl::_rowHeight() const
 {
-    CRect row;
-    if (GetItemCount() <= 0 || !GetItemRect(0, &row, LVIR_BOUNDS))
+    // Asked at every thumb-drag step: straight from the list's procedure.
+    CRect row(LVIR_BOUNDS, 0, 0, 0);
+    if (_ask(LVM_GETITEMCOUNT, 0, 0) <= 0 || !_ask(LVM_GETITEMRECT, 0, (LPARAM)(RECT*)&row))
         return 0;
     return row.Height();
 }
@@ -292,7 +293,7 @@ void CZoListCtrl::_scrollToPosition(bool vertical, int target)
     const int current = ::GetScrollPos(m_hWnd, vertical ? SB_VERT : SB_HORZ);
     const int pixels = ZoListScrollPixels(current, target, vertical, vertical ? _rowHeight() : 1);
     if (pixels != 0)
-        Scroll(vertical ? CSize(0, pixels) : CSize(pixels, 0));
+        _ask(LVM_SCROLL, vertical ? 0 : (WPARAM)pixels, vertical ? (LPARAM)pixels : 0);
 }
 
 void CZoListCtrl::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)

@@ -293,7 +293,7 @@ void CZoListCtrl::_scrollToPosition(bool vertical, int target)
     const int current = ::GetScrollPos(m_hWnd, vertical ? SB_VERT : SB_HORZ);
     const int pixels = ZoListScrollPixels(current, target, vertical, vertical ? _rowHeight() : 1);
     if (pixels != 0)
-        _ask(LVM_SCROLL, vertical ? 0 : (WPARAM)pixels, vertical ? (LPARAM)pixels : 0);
+        _tell(LVM_SCROLL, vertical ? 0 : (WPARAM)pixels, vertical ? (LPARAM)pixels : 0);
 }
 
 void CZoListCtrl::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
@@ -498,6 +498,11 @@ void CZoListCtrl::SortOnColumn(int column, bool ascending)
 
 LRESULT CZoListCtrl::_ask(UINT message, WPARAM wParam, LPARAM lParam) const
 {
+    return const_cast<CZoListCtrl*>(this)->DefWindowProc(message, wParam, lParam);
+}
+
+LRESULT CZoListCtrl::_tell(UINT message, WPARAM wParam, LPARAM lParam)
+{
     return ZoCallWindow(m_hWnd, message, wParam, lParam);
 }
 
@@ -602,7 +607,7 @@ void CZoListCtrl::_setItemData(int item, DWORD_PTR data)
     lvItem.mask = LVIF_PARAM;
     lvItem.iItem = item;
     lvItem.lParam = (LPARAM)data;
-    _ask(LVM_SETITEMW, 0, (LPARAM)&lvItem);
+    _tell(LVM_SETITEMW, 0, (LPARAM)&lvItem);
 }
 
 void CZoListCtrl::OnHeaderItemClick(NMHDR* pNMHDR, LRESULT* pResult)

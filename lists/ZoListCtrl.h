@@ -103,9 +103,12 @@ protected:
     // A scroll notification from a skinned bar (or any other sender).
     void _onScroll(bool vertical, UINT code, UINT pos, CScrollBar* pScrollBar);
     int _rowHeight() const;
-    // The list's own answers, asked of its procedure without passing the thread's message hooks
-    // (ZoCallWindow): painting and sorting ask them for every cell.
+    // The list's own answers, asked of the native list's procedure: a question needs none of
+    // this class's handling, and passes no message hooks (painting and sorting ask for every cell).
     LRESULT _ask(UINT message, WPARAM wParam, LPARAM lParam) const;
+    // A change, through the window's present procedure (so subclasses see it) but without
+    // passing the thread's message hooks (ZoCallWindow).
+    LRESULT _tell(UINT message, WPARAM wParam, LPARAM lParam);
     CString _itemText(int item, int subItem) const;
     DWORD_PTR _itemData(int item) const;
     void _setItemData(int item, DWORD_PTR data);

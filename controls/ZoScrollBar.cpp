@@ -213,7 +213,9 @@ SCROLLINFO CZoScrollBar::_readScrollInfo()
     ::ZeroMemory(&info, sizeof(info));
     info.cbSize = sizeof(info);
     info.fMask = SIF_ALL;
-    SendMessage(SBM_GETSCROLLINFO, 0, (LPARAM)&info);
+    // Asked of the bar's own procedure: a drag step reads the range several times, and a sent
+    // message would pass the thread's message hooks each time.
+    ZoCallWindow(m_hWnd, SBM_GETSCROLLINFO, 0, (LPARAM)&info);
     return info;
 }
 

@@ -1,6 +1,7 @@
 #include "lists/ZoHeaderCtrl.h"
 
 #include "controls/ZoControlTheme.h"
+#include "controls/ZoWindowHelpers.h"
 #include "core/ZoThemeManager.h"
 #include "images/ZoResourceImage.h"
 #include "lists/ZoListGeometry.h"
@@ -172,7 +173,9 @@ void CZoHeaderCtrl::DrawClient(CDC& dc)
     empty.InflateRect(2, 0);
     DrawHeaderItem(dc, empty, CString(), 0, ZoHeaderState_Empty);
 
-    const int count = GetItemCount();
+    // The items are read from the header's own procedure: a sent message would pass the
+    // thread's message hooks, under Wine a round trip to the Wine server, twice an item.
+    const int count = (int)ZoCallWindow(m_hWnd, HDM_GETITEMCOUNT, 0, 0);
     for (int i = 0; i < count; ++i)
     {
         wchar_t text[kTextBufferLength + 1] = {0};
@@ -180,10 +183,10 @@ void CZoHeaderCtrl::DrawClient(CDC& dc)
         item.mask = HDI_TEXT | HDI_FORMAT;
         item.pszText = text;
         item.cchTextMax = kTextBufferLength;
-        if (!GetItem(i, &item))
+        if (!ZoCallWindow(m_hWnd, HDM_GETITEMW, (WPARAM)i, (LPARAM)&item))
             continue;
         CRect rect;
-        if (!GetItemRect(i, &rect))
+        if (!ZoCallWindow(m_hWnd, HDM_GETITEMRECT, (WPARAM)i, (LPARAM)(RECT*)&rect))
             continue;
         DrawHeaderItem(dc, rect, CString(text), item.fmt, ZoHeaderItemState(i, m_nPressedItem, m_nHotItem));
     }

@@ -93,8 +93,10 @@ CZoListCtrl::CZoListCtrl()
       m_crGrid(0), m_crSelectedRow(0), m_crCellText(0), m_crSelectedFocusRow(0), m_crFocusFrame(0),
       m_bSortingFromHeader(false), m_sortMethods(kSortMapBlockSize), m_childSortMethods(kSortMapBlockSize),
       m_pHorzBar(new CZoScrollBar(CZoScrollBar::ScrollBarTheme_1)),
-      m_pVertBar(new CZoScrollBar(CZoScrollBar::ScrollBarTheme_1)), m_bRedrawSuspended(false), m_nPaintDepth(0)
+      m_pVertBar(new CZoScrollBar(CZoScrollBar::ScrollBarTheme_1)), m_bRedrawSuspended(false), m_nPaintDepth(0),
+      m_bPaintColumnsKnown(false), m_paintRow()
 {
+    m_paintRow.iItem = -1;
     m_sortMethods.InitHashTable(kSortMapHashSize);
     m_childSortMethods.InitHashTable(kSortMapHashSize);
 }
@@ -279,8 +281,9 @@ void CZoListCtrl::_copyScrollInfo()
 
 int CZoListCtrl::_rowHeight() const
 {
-    CRect row;
-    if (GetItemCount() <= 0 || !GetItemRect(0, &row, LVIR_BOUNDS))
+    // Asked at every thumb-drag step: straight from the list's procedure.
+    CRect row(LVIR_BOUNDS, 0, 0, 0);
+    if (_ask(LVM_GETITEMCOUNT, 0, 0) <= 0 || !_ask(LVM_GETITEMRECT, 0, (LPARAM)(RECT*)&row))
         return 0;
     return row.Height();
 }
@@ -290,7 +293,7 @@ void CZoListCtrl::_scrollToPosition(bool vertical, int target)
     const int current = ::GetScrollPos(m_hWnd, vertical ? SB_VERT : SB_HORZ);
     const int pixels = ZoListScrollPixels(current, target, vertical, vertical ? _rowHeight() : 1);
     if (pixels != 0)
-        Scroll(vertical ? CSize(0, pixels) : CSize(pixels, 0));
+        _tell(LVM_SCROLL, vertical ? 0 : (WPARAM)pixels, vertical ? (LPARAM)pixels : 0);
 }
 
 void CZoListCtrl::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
@@ -403,10 +406,15 @@ LRESULT CZoListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     const bool painting = message == WM_PAINT || message == WM_PRINTCLIENT;
     if (painting && m_nPaintDepth++ == 0)
     {
-        m_paintColumnFormats.clear();
-        m_paintCells.clear();
+        m_bPaintColumnsKnown = false;
+        m_paintRow.iItem = -1;
     }
+    const bool columnsChange = ZoListMessageChangesColumns(message);
+    if (columnsChange)
+        m_columnAnswers.clear();
     const LRESULT result = CListCtrl::WindowProc(message, wParam, lParam);
+    if (columnsChange)
+        m_columnAnswers.clear();
     if (painting)
         --m_nPaintDepth;
     if (ZoListMessageChangesScrollState(message, wParam, headerCode) || (message == WM_SETREDRAW && wParam))
@@ -490,6 +498,11 @@ void CZoListCtrl::SortOnColumn(int column, bool ascending)
 
 LRESULT CZoListCtrl::_ask(UINT message, WPARAM wParam, LPARAM lParam) const
 {
+    return const_cast<CZoListCtrl*>(this)->DefWindowProc(message, wParam, lParam);
+}
+
+LRESULT CZoListCtrl::_tell(UINT message, WPARAM wParam, LPARAM lParam)
+{
     return ZoCallWindow(m_hWnd, message, wParam, lParam);
 }
 
@@ -524,15 +537,15 @@ void CZoListCtrl::_subItemRects(int item, int subItem, CRect& label, CRect& icon
 {
     // The list asks its header for a column's place with a sent message, twice a cell. During a
     // paint the cells of a column beyond the first (whose label depends on the row's indent
-    // and images) lie where that column's first drawn cell does, moved as far as their row is.
+    // and images) lie where that column's cell lay when first asked, moved as far as their row is.
     CPoint at(0, 0);
-    const bool painting = m_nPaintDepth > 0 && subItem > 0 &&
+    const bool painting = m_nPaintDepth > 0 && subItem > 0 && subItem < _paintColumns().count &&
                           _ask(LVM_GETITEMPOSITION, (WPARAM)item, (LPARAM)(POINT*)&at) != FALSE;
-    if (painting && subItem < (int)m_paintCells.size() && m_paintCells[subItem].known)
+    if (painting && m_columnAnswers[subItem].placed)
     {
-        const PaintCell& first = m_paintCells[subItem];
-        label = first.label + (at - first.at);
-        icon = first.icon + (at - first.at);
+        const ColumnAnswers& known = m_columnAnswers[subItem];
+        label = known.label + (at - known.at);
+        icon = known.icon + (at - known.at);
         return;
     }
     label.SetRect(LVIR_LABEL, subItem, 0, 0);
@@ -541,23 +554,21 @@ void CZoListCtrl::_subItemRects(int item, int subItem, CRect& label, CRect& icon
     const bool gotIcon = _ask(LVM_GETSUBITEMRECT, (WPARAM)item, (LPARAM)(RECT*)&icon) != FALSE;
     if (!painting || !gotLabel || !gotIcon)
         return;
-    if (subItem >= (int)m_paintCells.size())
-        m_paintCells.resize(subItem + 1);
-    PaintCell& first = m_paintCells[subItem];
-    first.known = true;
-    first.at = at;
-    first.label = label;
-    first.icon = icon;
+    ColumnAnswers& known = m_columnAnswers[subItem];
+    known.placed = true;
+    known.at = at;
+    known.label = label;
+    known.icon = icon;
 }
 
 bool CZoListCtrl::_columnFormat(int column, int& format)
 {
     // The list asks its header for a column's format with a sent message; a paint would ask
     // once for every cell.
-    const bool painting = m_nPaintDepth > 0 && column >= 0;
-    if (painting && column < (int)m_paintColumnFormats.size() && m_paintColumnFormats[column] != kFormatUnread)
+    const bool painting = m_nPaintDepth > 0 && column >= 0 && column < _paintColumns().count;
+    if (painting && m_columnAnswers[column].format != kFormatUnread)
     {
-        format = m_paintColumnFormats[column];
+        format = m_columnAnswers[column].format;
         return format != kFormatMissing;
     }
     LVCOLUMNW info = {};
@@ -565,12 +576,29 @@ bool CZoListCtrl::_columnFormat(int column, int& format)
     const bool got = _ask(LVM_GETCOLUMNW, (WPARAM)column, (LPARAM)&info) != FALSE;
     format = info.fmt;
     if (painting)
-    {
-        if (column >= (int)m_paintColumnFormats.size())
-            m_paintColumnFormats.resize(column + 1, kFormatUnread);
-        m_paintColumnFormats[column] = got ? info.fmt : kFormatMissing;
-    }
+        m_columnAnswers[column].format = got ? info.fmt : kFormatMissing;
     return got;
+}
+
+void CZoListCtrl::_checkColumnAnswers(HWND header, int count)
+{
+    m_columnAnswers.resize(count > 0 ? count : 0);
+    for (int column = 0; column < count; ++column)
+    {
+        // Asked of the header's own procedure, which passes no hooks.
+        CRect rect(0, 0, 0, 0);
+        HDITEMW item = {};
+        item.mask = HDI_FORMAT;
+        ZoCallWindow(header, HDM_GETITEMRECT, (WPARAM)column, (LPARAM)(RECT*)&rect);
+        ZoCallWindow(header, HDM_GETITEMW, (WPARAM)column, (LPARAM)&item);
+        ColumnAnswers& known = m_columnAnswers[column];
+        if (known.headerRect != rect || known.headerFormat != item.fmt)
+        {
+            known = ColumnAnswers();
+            known.headerRect = rect;
+            known.headerFormat = item.fmt;
+        }
+    }
 }
 
 void CZoListCtrl::_setItemData(int item, DWORD_PTR data)
@@ -579,7 +607,7 @@ void CZoListCtrl::_setItemData(int item, DWORD_PTR data)
     lvItem.mask = LVIF_PARAM;
     lvItem.iItem = item;
     lvItem.lParam = (LPARAM)data;
-    _ask(LVM_SETITEMW, 0, (LPARAM)&lvItem);
+    _tell(LVM_SETITEMW, 0, (LPARAM)&lvItem);
 }
 
 void CZoListCtrl::OnHeaderItemClick(NMHDR* pNMHDR, LRESULT* pResult)
@@ -631,15 +659,32 @@ void CZoListCtrl::OnCustomDraw(NMHDR* pNMHDR, LRESULT* pResult)
     switch (pDraw->nmcd.dwDrawStage)
     {
     case CDDS_PREPAINT:
-        *pResult = _isReport() ? CDRF_NOTIFYITEMDRAW : CDRF_DODEFAULT;
+    {
+        if (!_isReport())
+        {
+            *pResult = CDRF_DODEFAULT;
+            break;
+        }
+        // An owner-drawn list draws its rows through WM_DRAWITEM, which must still come.
+        if (GetStyle() & LVS_OWNERDRAWFIXED)
+        {
+            *pResult = CDRF_NOTIFYITEMDRAW;
+            break;
+        }
+        // Every row at once, cell by cell as the list would ask for them: a notification per row
+        // costs more than drawing the row (under Wine every sent message passes the thread's
+        // hooks). Without columns the rows are asked for one by one.
+        CDC dc;
+        dc.Attach(pDraw->nmcd.hdc);
+        const bool drawn = _drawRows(dc);
+        dc.Detach();
+        *pResult = drawn ? CDRF_SKIPDEFAULT : CDRF_NOTIFYITEMDRAW;
         break;
+    }
     case CDDS_ITEMPREPAINT:
     {
-        // The whole row at once: a notification costs more than drawing a cell (under Wine every
-        // sent message passes the thread's hooks), and the cells come out as the list would ask
-        // for them, column by column.
-        const HWND hHeader = (HWND)_ask(LVM_GETHEADER, 0, 0);
-        const int columns = hHeader ? (int)ZoCallWindow(hHeader, HDM_GETITEMCOUNT, 0, 0) : 0;
+        // The whole row at once.
+        const int columns = _paintColumns().count;
         if (columns <= 0)
         {
             *pResult = CDRF_NOTIFYSUBITEMDRAW;
@@ -670,6 +715,75 @@ void CZoListCtrl::OnCustomDraw(NMHDR* pNMHDR, LRESULT* pResult)
 
 int CZoListCtrl::GetItemImageIndex(const LVITEMW& item) const { return item.iImage; }
 
+CZoListCtrl::PaintColumns CZoListCtrl::_paintColumns()
+{
+    if (m_nPaintDepth > 0 && m_bPaintColumnsKnown)
+        return m_paintColumnsRead;
+    PaintColumns columns;
+    columns.header = (HWND)_ask(LVM_GETHEADER, 0, 0);
+    if (columns.header)
+    {
+        columns.count = (int)ZoCallWindow(columns.header, HDM_GETITEMCOUNT, 0, 0);
+        columns.firstShown = (int)ZoCallWindow(columns.header, HDM_ORDERTOINDEX, 0, 0);
+        if (columns.count > 0)
+            columns.lastShown = (int)ZoCallWindow(columns.header, HDM_ORDERTOINDEX, columns.count - 1, 0);
+    }
+    columns.images = (HIMAGELIST)_ask(LVM_GETIMAGELIST, LVSIL_SMALL, 0);
+    columns.extendedStyle = (DWORD)_ask(LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0);
+    if (m_nPaintDepth > 0)
+    {
+        _checkColumnAnswers(columns.header, columns.header ? columns.count : 0);
+        m_paintColumnsRead = columns;
+        m_bPaintColumnsKnown = true;
+    }
+    return columns;
+}
+
+LVITEMW CZoListCtrl::_rowState(int item)
+{
+    // A row's cells are drawn one after the other: its state is read once for all of them.
+    if (m_nPaintDepth > 0 && m_paintRow.iItem == item && item >= 0)
+        return m_paintRow;
+    LVITEMW lvItem = {};
+    lvItem.mask = LVIF_IMAGE | LVIF_STATE;
+    lvItem.iItem = item;
+    lvItem.stateMask = LVIS_FOCUSED | LVIS_SELECTED;
+    _ask(LVM_GETITEMW, 0, (LPARAM)&lvItem);
+    if (m_nPaintDepth > 0)
+        m_paintRow = lvItem;
+    return lvItem;
+}
+
+bool CZoListCtrl::_drawRows(CDC& dc)
+{
+    const int columns = _paintColumns().count;
+    if (columns <= 0)
+        return false;
+    const int count = (int)_ask(LVM_GETITEMCOUNT, 0, 0);
+    CRect client;
+    GetClientRect(&client);
+    CRect area;
+    if (dc.GetClipBox(&area) == ERROR || !area.IntersectRect(&area, &client))
+        area = client;
+    // From the row above the top one, in case it still shows a sliver, down to the first row
+    // below the area.
+    const int top = (int)_ask(LVM_GETTOPINDEX, 0, 0);
+    for (int item = top > 0 ? top - 1 : 0; item < count; ++item)
+    {
+        CRect bounds(LVIR_BOUNDS, 0, 0, 0);
+        if (!_ask(LVM_GETITEMRECT, (WPARAM)item, (LPARAM)(RECT*)&bounds))
+            break;
+        const E_ZoRowPlace place = ZoRowPlace(bounds.top, bounds.bottom, area.top, area.bottom);
+        if (place == ZoRow_Below)
+            break;
+        if (place == ZoRow_Above)
+            continue;
+        for (int column = 0; column < columns; ++column)
+            DrawSubItem(dc, item, column);
+    }
+    return true;
+}
+
 void CZoListCtrl::DrawSubItem(CDC& dc, int item, int subItem)
 {
     // Every question goes straight to the list's and the header's procedures: a paint asks
@@ -678,19 +792,13 @@ void CZoListCtrl::DrawSubItem(CDC& dc, int item, int subItem)
     _subItemRects(item, subItem, label, icon);
     const CRect cell(ZoCellRect(label, icon));
 
-    LVITEMW lvItem = {};
-    lvItem.mask = LVIF_IMAGE | LVIF_STATE;
-    lvItem.iItem = item;
-    lvItem.stateMask = LVIS_FOCUSED | LVIS_SELECTED;
-    _ask(LVM_GETITEMW, 0, (LPARAM)&lvItem);
+    const LVITEMW lvItem = _rowState(item);
     const bool selected = (lvItem.state & LVIS_SELECTED) != 0;
     const bool focused = (lvItem.state & LVIS_FOCUSED) != 0;
 
-    const HWND hHeader = (HWND)_ask(LVM_GETHEADER, 0, 0);
-    const int columns = hHeader ? (int)ZoCallWindow(hHeader, HDM_GETITEMCOUNT, 0, 0) : 0;
-    const bool firstShown = hHeader && (int)ZoCallWindow(hHeader, HDM_ORDERTOINDEX, 0, 0) == subItem;
-    const bool lastShown =
-        hHeader && columns > 0 && (int)ZoCallWindow(hHeader, HDM_ORDERTOINDEX, columns - 1, 0) == subItem;
+    const PaintColumns columns = _paintColumns();
+    const bool firstShown = columns.header && columns.firstShown == subItem;
+    const bool lastShown = columns.header && columns.count > 0 && columns.lastShown == subItem;
 
     COLORREF back = m_crBackground;
     CRect fill = cell;
@@ -705,7 +813,7 @@ void CZoListCtrl::DrawSubItem(CDC& dc, int item, int subItem)
         dc.FillSolidRect(cell.left, cell.bottom - 1, cell.Width(), 1, m_crGrid);
 
     CRect text(ZoCellTextRect(cell, -1));
-    HIMAGELIST hImages = subItem == 0 ? (HIMAGELIST)_ask(LVM_GETIMAGELIST, LVSIL_SMALL, 0) : NULL;
+    HIMAGELIST hImages = subItem == 0 ? columns.images : NULL;
     const int image = hImages ? GetItemImageIndex(lvItem) : -1;
     if (hImages && image >= 0)
     {
@@ -716,7 +824,7 @@ void CZoListCtrl::DrawSubItem(CDC& dc, int item, int subItem)
         text = ZoCellTextRect(cell, imageWidth);
     }
 
-    if (subItem == 0 && (_ask(LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0) & LVS_EX_CHECKBOXES))
+    if (subItem == 0 && (columns.extendedStyle & LVS_EX_CHECKBOXES))
     {
         const int side = label.Height();
         CRect box(2, label.top, 2 + side, label.top + side);

@@ -103,9 +103,12 @@ protected:
     // A scroll notification from a skinned bar (or any other sender).
     void _onScroll(bool vertical, UINT code, UINT pos, CScrollBar* pScrollBar);
     int _rowHeight() const;
-    // The list's own answers, asked of its procedure without passing the thread's message hooks
-    // (ZoCallWindow): painting and sorting ask them for every cell.
+    // The list's own answers, asked of the native list's procedure: a question needs none of
+    // this class's handling, and passes no message hooks (painting and sorting ask for every cell).
     LRESULT _ask(UINT message, WPARAM wParam, LPARAM lParam) const;
+    // A change, through the window's present procedure (so subclasses see it) but without
+    // passing the thread's message hooks (ZoCallWindow).
+    LRESULT _tell(UINT message, WPARAM wParam, LPARAM lParam);
     CString _itemText(int item, int subItem) const;
     DWORD_PTR _itemData(int item) const;
     void _setItemData(int item, DWORD_PTR data);
@@ -113,6 +116,22 @@ protected:
     void _subItemRects(int item, int subItem, CRect& label, CRect& icon);
     // LVM_GETCOLUMN's format of `column`; false when there is no such column.
     bool _columnFormat(int column, int& format);
+    // What every cell of a paint asks alike: the header's columns and their display order, the
+    // small image list, the extended style.
+    struct PaintColumns
+    {
+        HWND header = NULL;
+        int count = 0;
+        int firstShown = -1;
+        int lastShown = -1;
+        HIMAGELIST images = NULL;
+        DWORD extendedStyle = 0;
+    };
+    PaintColumns _paintColumns();
+    // The image and the focus and selection state of `item`.
+    LVITEMW _rowState(int item);
+    // Every row that shows in `dc`'s clip box, cell by cell; false when there are no columns.
+    bool _drawRows(CDC& dc);
     bool _isReport() const;
     void _cancelEdit();
     void _deleteRetiredEditors();
@@ -160,23 +179,33 @@ protected:
     bool m_bRedrawSuspended;
     // Editors whose windows are gone, deleted once no handler of theirs can still be running.
     std::vector<CZoEditInPlace*> m_retiredEditors;
-    // While WM_PAINT or WM_PRINTCLIENT runs: the column formats read so far, by column.
+    int m_nPaintDepth;
+    // The list's answers about a column that a paint needs for every cell, kept from paint to
+    // paint: its format, and where its cells lie against their row's position. They hold while
+    // the header item they were read with keeps its place and format, and until a message
+    // that changes the columns or the rows' height.
     enum
     {
         kFormatUnread = -1,
         kFormatMissing = -2
     };
-    int m_nPaintDepth;
-    std::vector<int> m_paintColumnFormats;
-    // While WM_PAINT or WM_PRINTCLIENT runs: by column, the first cell drawn and its row's place.
-    struct PaintCell
+    struct ColumnAnswers
     {
-        bool known = false;
+        CRect headerRect;
+        int headerFormat = 0;
+        int format = kFormatUnread;
+        bool placed = false;
         CPoint at;
         CRect label;
         CRect icon;
     };
-    std::vector<PaintCell> m_paintCells;
+    std::vector<ColumnAnswers> m_columnAnswers;
+    // Drops the answers of columns whose header item moved or changed its format.
+    void _checkColumnAnswers(HWND header, int count);
+    // While WM_PAINT or WM_PRINTCLIENT runs: the columns once read, and the last row's state.
+    bool m_bPaintColumnsKnown;
+    PaintColumns m_paintColumnsRead;
+    LVITEMW m_paintRow;
 
 private:
     CZoListCtrl(const CZoListCtrl&);

@@ -135,10 +135,43 @@ bool ZoListMessageChangesScrollState(UINT message, WPARAM wParam, UINT headerCod
     }
 }
 
+bool ZoListMessageChangesColumns(UINT message)
+{
+    switch (message)
+    {
+    case LVM_SETCOLUMNA:
+    case LVM_SETCOLUMNW:
+    case LVM_INSERTCOLUMNA:
+    case LVM_INSERTCOLUMNW:
+    case LVM_DELETECOLUMN:
+    case LVM_SETCOLUMNWIDTH:
+    case LVM_SETCOLUMNORDERARRAY:
+    case LVM_SETIMAGELIST:
+    case LVM_SETEXTENDEDLISTVIEWSTYLE:
+    case LVM_SETVIEW:
+    case WM_SETFONT:
+    case WM_STYLECHANGED:
+    case WM_SETTINGCHANGE:
+    case WM_THEMECHANGED:
+        return true;
+    default:
+        return false;
+    }
+}
+
 int ZoListScrollPixels(int current, int target, bool vertical, int rowHeight)
 {
     const int delta = target - current;
     return vertical ? delta * rowHeight : delta;
+}
+
+E_ZoRowPlace ZoRowPlace(int rowTop, int rowBottom, int areaTop, int areaBottom)
+{
+    if (rowBottom <= areaTop)
+        return ZoRow_Above;
+    if (rowTop >= areaBottom)
+        return ZoRow_Below;
+    return ZoRow_Shows;
 }
 
 } // namespace ZoControls

@@ -70,8 +70,22 @@ ZOCTRL_API ZoListBarPlacement ZoPlaceListBars(const RECT& list, bool hasHorz, bo
 // the header (0 otherwise).
 ZOCTRL_API bool ZoListMessageChangesScrollState(UINT message, WPARAM wParam, UINT headerCode);
 
+// Messages that may change a list's columns (their formats, places, order) or the height of its
+// rows, so that what a paint learnt about the columns no longer holds.
+ZOCTRL_API bool ZoListMessageChangesColumns(UINT message);
+
 // Pixels to scroll a list for moving its scroll position from `current` to `target`: columns of
 // pixels horizontally, rows of `rowHeight` vertically.
 ZOCTRL_API int ZoListScrollPixels(int current, int target, bool vertical, int rowHeight);
+
+// Where a row from `rowTop` to `rowBottom` lies against the band from `areaTop` to `areaBottom`
+// that a paint covers: wholly above it, wholly below it, or showing in it.
+enum E_ZoRowPlace
+{
+    ZoRow_Above,
+    ZoRow_Shows,
+    ZoRow_Below
+};
+ZOCTRL_API E_ZoRowPlace ZoRowPlace(int rowTop, int rowBottom, int areaTop, int areaBottom);
 
 } // namespace ZoControls

@@ -109,6 +109,38 @@ TEST_F(ListPaintTest, CellsFollowAColumnWidthChangedBetweenPaints)
     ZOTEST_EXPECT_PIXEL(dib, before.right - 1, before.CenterPoint().y, Slot(kBackground));
 }
 
+// A width changed on the header itself, not through the list, moves the cells all the same.
+TEST_F(ListPaintTest, CellsFollowAWidthChangedOnTheHeader)
+{
+    CZoListCtrl& list = MakeList(0, kRows);
+    const CRect before = Label(2, 1);
+    zotest::RenderClient(list.GetSafeHwnd());
+    HDITEMW item = {};
+    item.mask = HDI_WIDTH;
+    item.cxy = 40;
+    ASSERT_TRUE(::SendMessageW(header(), HDM_SETITEMW, 1, reinterpret_cast<LPARAM>(&item)));
+    const CRect after = Label(2, 1);
+    ASSERT_EQ(after.right, before.right - 60);
+    const zotest::Dib dib = zotest::RenderClient(list.GetSafeHwnd());
+    ZOTEST_EXPECT_PIXEL(dib, after.right - 1, after.CenterPoint().y, Slot(kGrid));
+    ZOTEST_EXPECT_PIXEL(dib, before.right - 1, before.CenterPoint().y, Slot(kBackground));
+}
+
+// Scrolled sideways between two paints, the cells are drawn where the list now has them.
+TEST_F(ListPaintTest, CellsFollowAHorizontalScrollBetweenPaints)
+{
+    CZoListCtrl& list = MakeList(0, kRows);
+    list.SetColumnWidth(2, 900);
+    const CRect before = Label(2, 1);
+    zotest::RenderClient(list.GetSafeHwnd());
+    list.Scroll(CSize(50, 0));
+    const CRect after = Label(2, 1);
+    ASSERT_LT(after.right, before.right);
+    const zotest::Dib dib = zotest::RenderClient(list.GetSafeHwnd());
+    ZOTEST_EXPECT_PIXEL(dib, after.right - 1, after.CenterPoint().y, Slot(kGrid));
+    ZOTEST_EXPECT_PIXEL(dib, before.right - 1, before.CenterPoint().y, Slot(kBackground));
+}
+
 TEST_F(ListPaintTest, ColumnZeroDrawsTheSmallImageAndCheckBoxes)
 {
     CZoListCtrl& list = MakeList(0, kRows);

@@ -96,6 +96,15 @@ TEST(ListGeometry, EnsureVisibleMakesTheItemTheLastVisibleRow)
         EXPECT_EQ(ZoEnsureVisibleTop(c[0], c[1]), c[2]) << c[0] << " page " << c[1];
 }
 
+TEST(ListGeometry, RowsTouchingTheBandsEdgeDoNotShow)
+{
+    // {row top, row bottom, place} against the band 20..60
+    const int cases[][3] = {{0, 20, ZoRow_Above}, {0, 21, ZoRow_Shows}, {59, 77, ZoRow_Shows},
+                            {60, 77, ZoRow_Below}, {10, 90, ZoRow_Shows}};
+    for (const auto& c : cases)
+        EXPECT_EQ(ZoRowPlace(c[0], c[1], 20, 60), c[2]) << c[0] << ".." << c[1];
+}
+
 TEST(ListGeometry, BarsRunAlongTheEdgesAndLeaveTheCorner)
 {
     const RECT list = {10, 20, 210, 120};

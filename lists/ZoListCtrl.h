@@ -160,6 +160,8 @@ protected:
     bool m_bRedrawSuspended;
     // Editors whose windows are gone, deleted once no handler of theirs can still be running.
     std::vector<CZoEditInPlace*> m_retiredEditors;
+    // From WM_DESTROY on: rows inserted then are refused.
+    bool m_bGoing;
     // While WM_PAINT or WM_PRINTCLIENT runs: the column formats read so far, by column.
     enum
     {

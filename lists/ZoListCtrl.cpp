@@ -93,8 +93,8 @@ CZoListCtrl::CZoListCtrl()
       m_crGrid(0), m_crSelectedRow(0), m_crCellText(0), m_crSelectedFocusRow(0), m_crFocusFrame(0),
       m_bSortingFromHeader(false), m_sortMethods(kSortMapBlockSize), m_childSortMethods(kSortMapBlockSize),
       m_pHorzBar(new CZoScrollBar(CZoScrollBar::ScrollBarTheme_1)),
-      m_pVertBar(new CZoScrollBar(CZoScrollBar::ScrollBarTheme_1)), m_bRedrawSuspended(false), m_nPaintDepth(0),
-      m_bPaintColumnsKnown(false), m_paintRow()
+      m_pVertBar(new CZoScrollBar(CZoScrollBar::ScrollBarTheme_1)), m_bRedrawSuspended(false), m_bGoing(false),
+      m_nPaintDepth(0), m_bPaintColumnsKnown(false), m_paintRow()
 {
     m_paintRow.iItem = -1;
     m_sortMethods.InitHashTable(kSortMapHashSize);
@@ -139,6 +139,7 @@ BOOL CZoListCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWn
 
 void CZoListCtrl::PreSubclassWindow()
 {
+    m_bGoing = false;
     if (!m_bCreating)
         _init();
     CListCtrl::PreSubclassWindow();
@@ -393,6 +394,12 @@ LRESULT CZoListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         _deleteRetiredEditors();
         return 0;
     }
+    if (message == WM_DESTROY)
+        m_bGoing = true;
+    // Once the list goes, it deletes its rows with a notification each; a row a parent inserts
+    // from one of those handlers would never be freed (the platform's list loses it), so none is.
+    if (m_bGoing && (message == LVM_INSERTITEMA || message == LVM_INSERTITEMW))
+        return -1;
     UINT headerCode = 0;
     if (message == WM_NOTIFY && lParam && m_header.GetSafeHwnd())
     {

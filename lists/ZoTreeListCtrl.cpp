@@ -111,7 +111,7 @@ ZO_IMPLEMENT_MENUXP_FORWARDING(CZoTreeListCtrl, CZoListCtrl)
 
 CZoTreeListCtrl::CZoTreeListCtrl()
     : m_nLevels(kDefaultLevels), m_pRoot(new CZoTreeListCtrlItem(NULL, -1)), m_bExpandAllEnabled(true),
-      m_bKeepChildData(false), m_eBoldFont(ZoThemeFont_12)
+      m_bKeepChildData(false), m_eBoldFont(ZoThemeFont_12), m_bImageListsShared(false), m_bHostSharesImageLists(false)
 {
     m_pRoot->Expand(true);
 }
@@ -169,7 +169,11 @@ void CZoTreeListCtrl::_initTree()
             m_imageList.Add(&strip, kMaskColour);
         }
     }
-    // The view owns its image list: the native list must not destroy it.
+    // The view owns its image list: the native list must not destroy it. What the host asked
+    // for is kept, for the other lists the native one holds when it goes.
+    if (!m_bImageListsShared)
+        m_bHostSharesImageLists = (GetStyle() & LVS_SHAREIMAGELISTS) != 0;
+    m_bImageListsShared = true;
     ModifyStyle(0, LVS_SHAREIMAGELISTS);
     SetImageList(&m_imageList, LVSIL_SMALL);
     ZoMenuOptIn(this);
@@ -177,9 +181,33 @@ void CZoTreeListCtrl::_initTree()
 
 void CZoTreeListCtrl::OnDestroy()
 {
+    if (!m_bHostSharesImageLists)
+        _destroyForeignImageLists();
     CZoListCtrl::OnDestroy();
     // The native list lets its rows go with the window, without a message per row.
     m_rows.RemoveAll();
+}
+
+// The shared style that protects the view's own list would also keep the native list from
+// destroying the others it holds: the state images it makes itself for check boxes, and lists the
+// host handed it. They go here, as they would from a list without that style.
+void CZoTreeListCtrl::_destroyForeignImageLists()
+{
+    const int kinds[] = {LVSIL_NORMAL, LVSIL_SMALL, LVSIL_STATE};
+    std::vector<HIMAGELIST> destroyed;
+    for (int kind : kinds)
+    {
+        // Handles only: wrappers of lists about to go would outlive them in the temporary map.
+        const HIMAGELIST hList = ListView_GetImageList(m_hWnd, kind);
+        if (!hList || hList == m_imageList.GetSafeHandle())
+            continue;
+        ListView_SetImageList(m_hWnd, NULL, kind);
+        // One list may serve several kinds.
+        if (std::find(destroyed.begin(), destroyed.end(), hList) != destroyed.end())
+            continue;
+        destroyed.push_back(hList);
+        ::ImageList_Destroy(hList);
+    }
 }
 
 // --- Rows kept in step ---------------------------------------------------------------------------

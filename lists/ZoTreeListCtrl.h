@@ -150,9 +150,13 @@ protected:
     E_ZoThemeFont m_eBoldFont;
     // Which node each row holds, in step with the native list.
     CZoTreeRowIndex m_rows;
+    // The view has made the native list share its image lists; whether the host had.
+    bool m_bImageListsShared;
+    bool m_bHostSharesImageLists;
 
 private:
     void _initTree();
+    void _destroyForeignImageLists();
     CZoTreeListCtrlItem* _nodeOf(int row) const { return m_rows.GetAt(row); }
     bool _atLevelLimit(const CZoTreeListCtrlItem* node) const;
     // Inserts a row for `node` with its column 0 text (and `image` when >= 0).

@@ -46,7 +46,7 @@ std::vector<Group> Groups()
     for (size_t i = 0; i < Kinds().size(); ++i)
         groups.push_back({Kinds()[i].name, GroupType::Kind, i, Kinds()[i].openFinding});
     groups.push_back({"skins that cannot be loaded", GroupType::MissingSkins, 0});
-    const char* heapGrowth = "grows by 1 to 3 heap blocks per run beyond the platform's controls";
+    const char* heapGrowth = "leaves one 12-byte heap block per pass over the classes, run after run";
     groups.push_back({"theme and size class out of range", GroupType::OddAnswers, 0, heapGrowth});
     groups.push_back({"garbage Fonts.ini", GroupType::GarbageFontsIni, 0, heapGrowth});
     groups.push_back({"size-class marker for a class that does not exist", GroupType::UnknownSizeMarker, 0, heapGrowth});

@@ -5,6 +5,7 @@
 
 #include <zotest/zotest.h>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <string>
@@ -643,6 +644,24 @@ TEST_F(TreeTest, AParentAddingRowsWhileRowsGoCannotKeepACollapseOrDeleteGoing)
     }
 }
 
+TEST_F(TreeTest, RowsAParentInsertsWhileTheViewGoesAreRefused)
+{
+    CZoTreeListCtrl& tree = MakeTree();
+    BuildSample();
+    std::vector<LRESULT> answers;
+    parent_.onListNotify = [&answers](const NMHDR& header) {
+        if (header.code != LVN_DELETEITEM)
+            return;
+        LVITEMW item = {};
+        item.iItem = 1000;
+        answers.push_back(::SendMessageW(header.hwndFrom, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item)));
+    };
+    tree.DestroyWindow();
+    parent_.onListNotify = nullptr;
+    ASSERT_FALSE(answers.empty());
+    EXPECT_EQ(std::count(answers.begin(), answers.end(), -1), (long)answers.size());
+}
+
 TEST_F(TreeTest, LargeTreesGiveTheSameRowsAsSmallOnes)
 {
     tree_ = std::make_unique<CZoTreeListCtrl>();
@@ -660,6 +679,30 @@ TEST_F(TreeTest, LargeTreesGiveTheSameRowsAsSmallOnes)
     EXPECT_EQ(small, "T00001 T0000103 T0000102 T0000101 T0000100 T00000 T0000003 T0000002 T0000000 ");
     EXPECT_EQ(tree_->GetItemCount(), 2000 * 5 - 1);
     EXPECT_TRUE(RowsInStep());
+}
+
+TEST_F(TreeTest, ImageListsOtherThanTheExpandersGoWithTheViewUnlessTheHostSharesThem)
+{
+    // Check boxes make the native list build state images of its own; a host hands it a list.
+    ZOTEST_EXPECT_NO_LEAKS(10, [this]() {
+        CZoTreeListCtrl& tree = MakeTree(3, 0);
+        tree.SetExtendedStyle(LVS_EX_CHECKBOXES);
+        ListView_SetImageList(tree.GetSafeHwnd(), ImageList_Create(16, 16, ILC_COLOR24, 1, 0), LVSIL_NORMAL);
+        tree.DestroyWindow();
+        tree_.reset();
+    });
+    // A host that asked for shared lists keeps its own.
+    tree_ = std::make_unique<CZoTreeListCtrl>();
+    ASSERT_TRUE(tree_->Create(WS_CHILD | LVS_REPORT | LVS_SHAREIMAGELISTS, listtest::kListRect, parentWnd(),
+                              listtest::kListId));
+    const HIMAGELIST own = ImageList_Create(16, 16, ILC_COLOR24, 1, 0);
+    const HBITMAP image = ::CreateBitmap(16, 16, 1, 32, NULL);
+    ASSERT_EQ(ImageList_Add(own, image, NULL), 0);
+    ::DeleteObject(image);
+    ListView_SetImageList(tree_->GetSafeHwnd(), own, LVSIL_NORMAL);
+    tree_->DestroyWindow();
+    EXPECT_EQ(ImageList_GetImageCount(own), 1);
+    EXPECT_TRUE(ImageList_Destroy(own));
 }
 
 TEST_F(TreeTest, NoGrowthOverCreateFillDestroyCycles)

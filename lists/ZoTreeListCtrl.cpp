@@ -821,7 +821,12 @@ void CZoTreeListCtrl::SortOnColumn(int column, bool ascending)
         const std::vector<int> order = ZoTreeSortedRowOrder(parents, &compareSiblingRows, &context);
         for (size_t place = 0; place < order.size(); ++place)
             const_cast<CZoTreeListCtrlItem*>(rows[(size_t)order[place]].node)->SetTempItemNumber((int)place);
-        SortItems(&compareByPlace, 0);
+        // Straight to the platform's list: the rows' new order is known, so the row index follows
+        // it at once instead of asking the list for every row afterwards.
+        if (DefWindowProc(LVM_SORTITEMS, 0, reinterpret_cast<LPARAM>(&compareByPlace)))
+            m_rows.Reorder(order);
+        else
+            _reloadRows();
     }
     else
     {

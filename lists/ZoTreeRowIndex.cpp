@@ -146,6 +146,46 @@ void CZoTreeRowIndex::Assign(const std::vector<CZoTreeListCtrlItem*>& rows)
     m_nStartsValid = 0;
 }
 
+void CZoTreeRowIndex::Reorder(const std::vector<int>& order)
+{
+    if ((int)order.size() != m_nCount)
+        return;
+    std::vector<bool> taken(order.size(), false);
+    for (int row : order)
+    {
+        if (row < 0 || row >= m_nCount || taken[(size_t)row])
+            return;
+        taken[(size_t)row] = true;
+    }
+    std::vector<CZoTreeListCtrlItem*> rows;
+    rows.reserve(order.size());
+    for (const std::unique_ptr<Block>& block : m_blocks)
+        rows.insert(rows.end(), block->rows.begin(), block->rows.end());
+    std::vector<CZoTreeListCtrlItem*> placed(order.size());
+    for (size_t place = 0; place < order.size(); ++place)
+        placed[place] = rows[(size_t)order[place]];
+    // With a node in two rows the map holds one block per node only: built afresh.
+    if (m_bDuplicates)
+    {
+        Assign(placed);
+        return;
+    }
+    m_blocks.clear();
+    for (size_t i = 0; i < placed.size(); i += kFillBlockRows)
+    {
+        std::unique_ptr<Block> block(new Block());
+        block->rows.assign(placed.begin() + i, placed.begin() + std::min(placed.size(), i + kFillBlockRows));
+        for (CZoTreeListCtrlItem* node : block->rows)
+        {
+            const auto entry = m_blockOfNode.find(node);
+            if (entry != m_blockOfNode.end())
+                entry->second = block.get();
+        }
+        m_blocks.push_back(std::move(block));
+    }
+    m_nStartsValid = 0;
+}
+
 int CZoTreeRowIndex::Find(const CZoTreeListCtrlItem* node, int startRow) const
 {
     if (!node)

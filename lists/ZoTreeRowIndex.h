@@ -35,6 +35,9 @@ public:
     void RemoveAll();
     // Every row at once, top to bottom.
     void Assign(const std::vector<CZoTreeListCtrlItem*>& rows);
+    // The rows change places: row order[i] moves to row i. The nodes keep their entries, so a
+    // sort costs no allocation per row; an order that is no permutation of the rows leaves them.
+    void Reorder(const std::vector<int>& order);
     // The first row at or after max(startRow, 0) that holds `node`; -1 when none or node is null.
     int Find(const CZoTreeListCtrlItem* node, int startRow) const;
 

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
-#include <unordered_set>
+#include <functional>
 #include <utility>
 
 #include "lists/ZoTreeListCtrlItem.h"
@@ -169,14 +169,18 @@ void ZoStableSortRows(std::vector<int>& items, ZoRowCompare compare, void* conte
 bool ZoTreeRowParents(const std::vector<const CZoTreeListCtrlItem*>& rows, std::vector<int>& parents)
 {
     parents.assign(rows.size(), -1);
-    std::unordered_set<const CZoTreeListCtrlItem*> seen;
-    seen.reserve(rows.size());
+    // A node in two rows: found side by side once the rows are in address order (sorting a copy
+    // costs less than a hash set's allocation per row).
+    std::vector<const CZoTreeListCtrlItem*> byAddress(rows);
+    std::sort(byAddress.begin(), byAddress.end(), std::less<const CZoTreeListCtrlItem*>());
+    if (std::adjacent_find(byAddress.begin(), byAddress.end()) != byAddress.end())
+        return false;
     // The rows of the current node's ancestors, the top-level one first.
     std::vector<int> line;
     for (size_t row = 0; row < rows.size(); ++row)
     {
         const CZoTreeListCtrlItem* node = rows[row];
-        if (!node || !seen.insert(node).second)
+        if (!node)
             return false;
         const CZoTreeListCtrlItem* parent = node->GetParentItem();
         while (!line.empty() && rows[line.back()] != parent)

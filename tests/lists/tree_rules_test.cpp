@@ -58,6 +58,40 @@ TEST(TreeRowIndex, FollowsAVectorThroughInsertsAndRemovals)
     }
 }
 
+// Rows changing places as a sort moves them, over several blocks; an order that is no
+// permutation of the rows changes nothing.
+TEST(TreeRowIndex, ReorderMovesEveryRowToItsPlace)
+{
+    std::vector<std::unique_ptr<CZoTreeListCtrlItem>> nodes;
+    std::vector<CZoTreeListCtrlItem*> rows;
+    for (int i = 0; i < 1500; ++i)
+    {
+        nodes.emplace_back(new CZoTreeListCtrlItem());
+        rows.push_back(nodes.back().get());
+    }
+    CZoTreeRowIndex index;
+    index.Assign(rows);
+    std::vector<int> order(rows.size());
+    for (size_t i = 0; i < order.size(); ++i)
+        order[i] = (int)(order.size() - 1 - i);
+    std::mt19937 random(3);
+    std::shuffle(order.begin(), order.begin() + order.size() / 2, random);
+    std::vector<CZoTreeListCtrlItem*> placed;
+    for (int row : order)
+        placed.push_back(rows[(size_t)row]);
+    index.Reorder(order);
+    order[0] = order[1];
+    index.Reorder(order);
+    index.Reorder(std::vector<int>(3, 0));
+    index.Remove(0); // the blocks still move their rows
+    placed.erase(placed.begin());
+    for (int row = 0; row < (int)placed.size(); ++row)
+    {
+        ASSERT_EQ(index.GetAt(row), placed[row]) << row;
+        ASSERT_EQ(index.Find(placed[row], 0), row);
+    }
+}
+
 TEST(TreeRowIndex, OutOfRangeAndUnknownNodesGiveNothing)
 {
     CZoTreeListCtrlItem a, b;

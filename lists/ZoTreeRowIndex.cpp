@@ -134,15 +134,30 @@ void CZoTreeRowIndex::Assign(const std::vector<CZoTreeListCtrlItem*>& rows)
 {
     RemoveAll();
     m_blockOfNode.reserve(rows.size());
+    _fillBlocks(rows, false);
+    m_nCount = (int)rows.size();
+}
+
+void CZoTreeRowIndex::_fillBlocks(const std::vector<CZoTreeListCtrlItem*>& rows, bool nodesKnown)
+{
+    m_blocks.clear();
     for (size_t i = 0; i < rows.size(); i += kFillBlockRows)
     {
         std::unique_ptr<Block> block(new Block());
         block->rows.assign(rows.begin() + i, rows.begin() + std::min(rows.size(), i + kFillBlockRows));
         for (CZoTreeListCtrlItem* node : block->rows)
-            _note(node, block.get());
+        {
+            if (!nodesKnown)
+            {
+                _note(node, block.get());
+                continue;
+            }
+            const auto entry = m_blockOfNode.find(node);
+            if (entry != m_blockOfNode.end())
+                entry->second = block.get();
+        }
         m_blocks.push_back(std::move(block));
     }
-    m_nCount = (int)rows.size();
     m_nStartsValid = 0;
 }
 
@@ -170,20 +185,7 @@ void CZoTreeRowIndex::Reorder(const std::vector<int>& order)
         Assign(placed);
         return;
     }
-    m_blocks.clear();
-    for (size_t i = 0; i < placed.size(); i += kFillBlockRows)
-    {
-        std::unique_ptr<Block> block(new Block());
-        block->rows.assign(placed.begin() + i, placed.begin() + std::min(placed.size(), i + kFillBlockRows));
-        for (CZoTreeListCtrlItem* node : block->rows)
-        {
-            const auto entry = m_blockOfNode.find(node);
-            if (entry != m_blockOfNode.end())
-                entry->second = block.get();
-        }
-        m_blocks.push_back(std::move(block));
-    }
-    m_nStartsValid = 0;
+    _fillBlocks(placed, true);
 }
 
 int CZoTreeRowIndex::Find(const CZoTreeListCtrlItem* node, int startRow) const

@@ -52,6 +52,9 @@ private:
     int _blockOf(int row) const;
     void _updateStarts() const;
     void _note(CZoTreeListCtrlItem* node, Block* block);
+    // The blocks made afresh from `rows`; nodes already in the map keep their entries, pointed
+    // at their new blocks, when `nodesKnown`.
+    void _fillBlocks(const std::vector<CZoTreeListCtrlItem*>& rows, bool nodesKnown);
     void _split(int blockIndex);
 
     std::vector<std::unique_ptr<Block>> m_blocks;

@@ -8,6 +8,10 @@
 #include "lists/ZoListGeometry.h"
 #include "lists/ZoListSort.h"
 
+#include <algorithm>
+#include <climits>
+#include <utility>
+
 namespace ZoControls {
 
 namespace {
@@ -37,7 +41,8 @@ UINT deleteEditorsMessage()
     return message;
 }
 
-// One row while a sort runs: where it was, its own item data, and its cell read and parsed once.
+// One row while a sort runs on rows whose item data cannot tell them apart: where it was, its own
+// item data, and its cell read and parsed once. The row's item data points at it during the sort.
 struct SortSlot
 {
     int index;
@@ -59,6 +64,49 @@ int CALLBACK compareSlots(LPARAM lParam1, LPARAM lParam2, LPARAM lParamSort)
     const SortSlot* pSlot2 = reinterpret_cast<const SortSlot*>(lParam2);
     const SortContext* pContext = reinterpret_cast<const SortContext*>(lParamSort);
     return ZoDirected(ZoCompareSortKeys(pContext->method, pSlot1->key, pSlot2->key), pContext->ascending);
+}
+
+// Rows known by their item data, each with the rank of its cell: the platform's sort compares two
+// ranks found by item data, and no row is written to (every write would notify the parent). Rows
+// that share item data must share the rank too; the sort cannot tell them apart, nor need it.
+class RankedRows
+{
+public:
+    explicit RankedRows(bool ascending) : m_ascending(ascending) {}
+
+    // False when rows with the same item data differ in rank.
+    bool Assign(const std::vector<DWORD_PTR>& data, const std::vector<int>& ranks)
+    {
+        m_byData.resize(data.size());
+        for (size_t i = 0; i < data.size(); ++i)
+            m_byData[i] = std::make_pair(data[i], ranks[i]);
+        std::sort(m_byData.begin(), m_byData.end());
+        for (size_t i = 1; i < m_byData.size(); ++i)
+            if (m_byData[i - 1].first == m_byData[i].first && m_byData[i - 1].second != m_byData[i].second)
+                return false;
+        return true;
+    }
+
+    int Compare(DWORD_PTR data1, DWORD_PTR data2) const
+    {
+        const int rank1 = _rankOf(data1), rank2 = _rankOf(data2);
+        return ZoDirected(rank1 < rank2 ? -1 : rank1 > rank2 ? 1 : 0, m_ascending);
+    }
+
+private:
+    int _rankOf(DWORD_PTR data) const
+    {
+        const auto found = std::lower_bound(m_byData.begin(), m_byData.end(), std::make_pair(data, INT_MIN));
+        return found != m_byData.end() && found->first == data ? found->second : -1;
+    }
+
+    std::vector<std::pair<DWORD_PTR, int>> m_byData;
+    bool m_ascending;
+};
+
+int CALLBACK compareRanks(LPARAM lParam1, LPARAM lParam2, LPARAM lParamSort)
+{
+    return reinterpret_cast<const RankedRows*>(lParamSort)->Compare((DWORD_PTR)lParam1, (DWORD_PTR)lParam2);
 }
 
 } // namespace
@@ -485,13 +533,28 @@ void CZoListCtrl::SortOnColumn(int column, bool ascending)
         return;
     const int method = ZoNormalizeSortMethod(GetColumnSortMethod(column));
     // Each row's cell is read and parsed once; the comparisons then touch no window.
-    std::vector<SortSlot> slots(count);
+    std::vector<DWORD_PTR> data((size_t)count);
+    std::vector<ZoSortKey> keys((size_t)count);
     for (int i = 0; i < count; ++i)
     {
-        slots[i].index = i;
-        slots[i].data = _itemData(i);
-        slots[i].key = ZoMakeSortKey(method, _itemText(i, column));
-        _setItemData(i, reinterpret_cast<DWORD_PTR>(&slots[i]));
+        data[(size_t)i] = _itemData(i);
+        keys[(size_t)i] = ZoMakeSortKey(method, _itemText(i, column));
+    }
+    std::vector<int> ranks;
+    RankedRows ranked(ascending);
+    if (ZoRankSortKeys(method, keys, ranks) && ranked.Assign(data, ranks))
+    {
+        SortItems(&compareRanks, reinterpret_cast<DWORD_PTR>(&ranked));
+        return;
+    }
+    std::vector<SortSlot> slots((size_t)count);
+    for (int i = 0; i < count; ++i)
+    {
+        SortSlot& slot = slots[(size_t)i];
+        slot.index = i;
+        slot.data = data[(size_t)i];
+        slot.key = keys[(size_t)i];
+        _setItemData(i, reinterpret_cast<DWORD_PTR>(&slot));
     }
     SortContext context = {column, this, ascending, method};
     SortItems(&compareSlots, reinterpret_cast<DWORD_PTR>(&context));
@@ -614,7 +677,7 @@ void CZoListCtrl::_setItemData(int item, DWORD_PTR data)
     lvItem.mask = LVIF_PARAM;
     lvItem.iItem = item;
     lvItem.lParam = (LPARAM)data;
-    _tell(LVM_SETITEMW, 0, (LPARAM)&lvItem);
+    _ask(LVM_SETITEMW, 0, (LPARAM)&lvItem); // only ever a sort's own temporary value
 }
 
 void CZoListCtrl::OnHeaderItemClick(NMHDR* pNMHDR, LRESULT* pResult)

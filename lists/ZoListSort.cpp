@@ -2,6 +2,7 @@
 
 #include <oleauto.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 
@@ -133,6 +134,32 @@ int ZoCompareSortKeys(int method, const ZoSortKey& key1, const ZoSortKey& key2)
     default:
         return key1.text.Compare(key2.text);
     }
+}
+
+bool ZoRankSortKeys(int method, const std::vector<ZoSortKey>& keys, std::vector<int>& ranks)
+{
+    ranks.clear();
+    method = ZoNormalizeSortMethod(method);
+    if (method == ZoSortMethod_DateTime)
+        return false;
+    if (method == ZoSortMethod_Numeric)
+        for (const ZoSortKey& key : keys)
+            if (std::isnan(key.number))
+                return false;
+    std::vector<int> order(keys.size());
+    for (size_t i = 0; i < order.size(); ++i)
+        order[i] = (int)i;
+    std::sort(order.begin(), order.end(),
+              [&](int a, int b) { return ZoCompareSortKeys(method, keys[(size_t)a], keys[(size_t)b]) < 0; });
+    ranks.assign(keys.size(), 0);
+    int rank = 0;
+    for (size_t place = 1; place < order.size(); ++place)
+    {
+        if (ZoCompareSortKeys(method, keys[(size_t)order[place - 1]], keys[(size_t)order[place]]) != 0)
+            ++rank;
+        ranks[(size_t)order[place]] = rank;
+    }
+    return true;
 }
 
 } // namespace ZoControls

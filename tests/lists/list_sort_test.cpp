@@ -77,6 +77,38 @@ TEST(SortComparisons, NumbersAsWrittenIncludingNaN)
     EXPECT_EQ(ZoDirected(-3, false), 3);
 }
 
+TEST(SortComparisons, RanksShareEqualKeysWhereTheOrderIsConsistent)
+{
+    const struct
+    {
+        int method;
+        std::vector<const wchar_t*> texts;
+        bool ranked;
+        std::vector<int> ranks;
+    } cases[] = {
+        {ZoSortMethod_TextSensitive, {L"b", L"B", L"a", L"b"}, true, {2, 0, 1, 2}},
+        {ZoSortMethod_TextInsensitive, {L"b", L"B", L"a", L"b"}, true, {1, 1, 0, 1}},
+        {ZoSortMethod_Numeric, {L"10", L"abc", L"9", L"0", L"-1"}, true, {3, 1, 2, 1, 0}},
+        {ZoSortMethod_Numeric, {}, true, {}},
+        {ZoSortMethod_DateTime, {L"2024-01-02", L"2024-01-01"}, false, {}},
+    };
+    for (const auto& c : cases)
+    {
+        std::vector<ZoSortKey> keys;
+        for (const wchar_t* text : c.texts)
+            keys.push_back(ZoMakeSortKey(c.method, text));
+        std::vector<int> ranks = {42};
+        const bool ranked = ZoRankSortKeys(c.method, keys, ranks);
+        EXPECT_EQ(ranked, c.ranked) << c.method;
+        EXPECT_EQ(ranks, c.ranks) << c.method;
+    }
+    // A runtime whose _wtof reads "nan" makes a number that is not ordered: no ranks then.
+    std::vector<ZoSortKey> keys = {ZoMakeSortKey(ZoSortMethod_Numeric, L"1"), ZoMakeSortKey(ZoSortMethod_Numeric, L"2")};
+    keys[1].number = std::numeric_limits<double>::quiet_NaN();
+    std::vector<int> ranks;
+    EXPECT_FALSE(ZoRankSortKeys(ZoSortMethod_Numeric, keys, ranks));
+}
+
 // --- The list ----------------------------------------------------------------------------------
 
 const std::vector<Row> kRows = {
@@ -151,6 +183,38 @@ TEST_F(ListSortTest, ItemDataSurvivesTheSort)
     const DWORD_PTR expected[] = {1001, 1003, 1002, 1000};
     for (int i = 0; i < 4; ++i)
         EXPECT_EQ(list.GetItemData(i), expected[i]) << i;
+}
+
+// Rows with their own item data are sorted without touching a row; rows sharing item data take the
+// pairwise route. Both must give one order, ties included, in both directions.
+TEST_F(ListSortTest, TiesLandAlikeWhetherOrNotItemDataTellsRowsApart)
+{
+    const std::vector<Row> rows = {
+        {{L"a", L"2.5", L"x"}},  {{L"b", L"1", L"X"}},  {{L"c", L"2.50", L"y"}},
+        {{L"d", L"abc", L"x"}},  {{L"e", L"0", L"Y"}},  {{L"f", L"1", L"x"}},
+    };
+    for (const CZoListCtrl::E_SortColumnMethod method : {CZoListCtrl::SCM_Numeric, CZoListCtrl::SCM_TextInsensitive,
+                                                          CZoListCtrl::SCM_TextSensitive})
+        for (const bool ascending : {true, false})
+        {
+            std::vector<CString> orders[2];
+            for (const bool ownData : {false, true})
+            {
+                CZoListCtrl& list = MakeList(0, rows);
+                for (int i = 0; ownData && i < list.GetItemCount(); ++i)
+                    list.SetItemData(i, 0x100 + i);
+                const int column = method == CZoListCtrl::SCM_Numeric ? 1 : 2;
+                list.SetColumnSortMethod(column, method);
+                spy_.codes.clear();
+                list.SortOnColumn(column, ascending);
+                orders[ownData] = Column(0);
+                if (ownData)
+                {
+                    EXPECT_EQ(spy_.Count(LVN_ITEMCHANGING), 0u);
+                }
+            }
+            EXPECT_EQ(orders[0], orders[1]) << "method " << method << (ascending ? " ascending" : " descending");
+        }
 }
 
 TEST_F(ListSortTest, HeaderSortSendsTheParentNoItemChanges)

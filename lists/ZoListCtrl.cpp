@@ -9,8 +9,6 @@
 #include "lists/ZoListSort.h"
 
 #include <algorithm>
-#include <climits>
-#include <utility>
 
 namespace ZoControls {
 
@@ -72,18 +70,35 @@ int CALLBACK compareSlots(LPARAM lParam1, LPARAM lParam2, LPARAM lParamSort)
 class RankedRows
 {
 public:
-    explicit RankedRows(bool ascending) : m_ascending(ascending) {}
+    explicit RankedRows(bool ascending) : m_ascending(ascending), m_first(0), m_bits(0) {}
 
     // False when rows with the same item data differ in rank.
     bool Assign(const std::vector<DWORD_PTR>& data, const std::vector<int>& ranks)
     {
-        m_byData.resize(data.size());
+        if (data.empty())
+            return true;
+        const auto range = std::minmax_element(data.begin(), data.end());
+        m_first = *range.first;
+        // Item data within a few times the row count of each other (row numbers, ids) index the
+        // ranks directly; any others (addresses) go through an open-addressed table.
+        const bool direct = *range.second - m_first < (DWORD_PTR)data.size() * 4;
+        if (direct)
+            m_ranks.assign((size_t)(*range.second - m_first) + 1, kNone);
+        else
+        {
+            m_bits = 4;
+            while (((size_t)1 << m_bits) < data.size() * 2)
+                ++m_bits;
+            m_ranks.assign((size_t)1 << m_bits, kNone);
+            m_keys.assign(m_ranks.size(), 0);
+        }
         for (size_t i = 0; i < data.size(); ++i)
-            m_byData[i] = std::make_pair(data[i], ranks[i]);
-        std::sort(m_byData.begin(), m_byData.end());
-        for (size_t i = 1; i < m_byData.size(); ++i)
-            if (m_byData[i - 1].first == m_byData[i].first && m_byData[i - 1].second != m_byData[i].second)
+        {
+            int& rank = direct ? m_ranks[(size_t)(data[i] - m_first)] : _place(data[i]);
+            if (rank != kNone && rank != ranks[i])
                 return false;
+            rank = ranks[i];
+        }
         return true;
     }
 
@@ -94,14 +109,38 @@ public:
     }
 
 private:
-    int _rankOf(DWORD_PTR data) const
+    static constexpr int kNone = -1;
+
+    size_t _slotOf(DWORD_PTR data) const
     {
-        const auto found = std::lower_bound(m_byData.begin(), m_byData.end(), std::make_pair(data, INT_MIN));
-        return found != m_byData.end() && found->first == data ? found->second : -1;
+        // Fibonacci hashing: the top bits of the product spread neighbouring values apart.
+        return (size_t)(((unsigned long long)data * 0x9E3779B97F4A7C15ull) >> (64 - m_bits));
     }
 
-    std::vector<std::pair<DWORD_PTR, int>> m_byData;
+    int& _place(DWORD_PTR data)
+    {
+        size_t slot = _slotOf(data);
+        while (m_ranks[slot] != kNone && m_keys[slot] != data)
+            slot = (slot + 1) & (m_ranks.size() - 1);
+        m_keys[slot] = data;
+        return m_ranks[slot];
+    }
+
+    int _rankOf(DWORD_PTR data) const
+    {
+        if (m_keys.empty())
+            return data - m_first < (DWORD_PTR)m_ranks.size() ? m_ranks[(size_t)(data - m_first)] : kNone;
+        for (size_t slot = _slotOf(data); m_ranks[slot] != kNone; slot = (slot + 1) & (m_ranks.size() - 1))
+            if (m_keys[slot] == data)
+                return m_ranks[slot];
+        return kNone;
+    }
+
     bool m_ascending;
+    DWORD_PTR m_first;
+    int m_bits;
+    std::vector<int> m_ranks;       // by item data - m_first, or by slot of the table
+    std::vector<DWORD_PTR> m_keys;  // the table's item data by slot (empty when indexed directly)
 };
 
 int CALLBACK compareRanks(LPARAM lParam1, LPARAM lParam2, LPARAM lParamSort)
@@ -535,10 +574,11 @@ void CZoListCtrl::SortOnColumn(int column, bool ascending)
     // Each row's cell is read and parsed once; the comparisons then touch no window.
     std::vector<DWORD_PTR> data((size_t)count);
     std::vector<ZoSortKey> keys((size_t)count);
+    std::vector<wchar_t> buffer;
     for (int i = 0; i < count; ++i)
     {
         data[(size_t)i] = _itemData(i);
-        keys[(size_t)i] = ZoMakeSortKey(method, _itemText(i, column));
+        keys[(size_t)i] = ZoMakeSortKey(method, _readItemText(i, column, buffer));
     }
     std::vector<int> ranks;
     RankedRows ranked(ascending);
@@ -578,21 +618,27 @@ LRESULT CZoListCtrl::_tell(UINT message, WPARAM wParam, LPARAM lParam)
 
 CString CZoListCtrl::_itemText(int item, int subItem) const
 {
-    // Grown until the text fits, as CListCtrl::GetItemText does.
-    CString text;
+    std::vector<wchar_t> buffer;
+    return CString(_readItemText(item, subItem, buffer));
+}
+
+const wchar_t* CZoListCtrl::_readItemText(int item, int subItem, std::vector<wchar_t>& buffer) const
+{
+    // Grown until the text fits, as CListCtrl::GetItemText does; a buffer kept between calls
+    // saves reading a long list's cells one allocation each.
+    if (buffer.size() < 256)
+        buffer.resize(256);
     LVITEMW lvItem = {};
     lvItem.iSubItem = subItem;
-    int length = 128;
-    int got = 0;
-    do
+    for (;;)
     {
-        length *= 2;
-        lvItem.cchTextMax = length;
-        lvItem.pszText = text.GetBufferSetLength(length);
-        got = (int)_ask(LVM_GETITEMTEXTW, (WPARAM)item, (LPARAM)&lvItem);
-    } while (got >= length - 1);
-    text.ReleaseBuffer();
-    return text;
+        lvItem.cchTextMax = (int)buffer.size();
+        lvItem.pszText = buffer.data();
+        buffer[0] = L'\0';
+        if ((int)_ask(LVM_GETITEMTEXTW, (WPARAM)item, (LPARAM)&lvItem) < lvItem.cchTextMax - 1)
+            return buffer.data();
+        buffer.resize(buffer.size() * 2);
+    }
 }
 
 DWORD_PTR CZoListCtrl::_itemData(int item) const

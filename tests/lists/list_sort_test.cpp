@@ -185,35 +185,37 @@ TEST_F(ListSortTest, ItemDataSurvivesTheSort)
         EXPECT_EQ(list.GetItemData(i), expected[i]) << i;
 }
 
-// Rows with their own item data are sorted without touching a row; rows sharing item data take the
-// pairwise route. Both must give one order, ties included, in both directions.
+// Rows with their own item data are sorted without touching a row (item data near each other
+// index a table, others are hashed); rows sharing item data take the pairwise route. All must give
+// one order, ties included, in both directions.
 TEST_F(ListSortTest, TiesLandAlikeWhetherOrNotItemDataTellsRowsApart)
 {
     const std::vector<Row> rows = {
         {{L"a", L"2.5", L"x"}},  {{L"b", L"1", L"X"}},  {{L"c", L"2.50", L"y"}},
         {{L"d", L"abc", L"x"}},  {{L"e", L"0", L"Y"}},  {{L"f", L"1", L"x"}},
     };
+    const DWORD_PTR kSpreads[] = {0, 1, 0x9E3779B1}; // shared, near, far apart
     for (const CZoListCtrl::E_SortColumnMethod method : {CZoListCtrl::SCM_Numeric, CZoListCtrl::SCM_TextInsensitive,
                                                           CZoListCtrl::SCM_TextSensitive})
         for (const bool ascending : {true, false})
         {
-            std::vector<CString> orders[2];
-            for (const bool ownData : {false, true})
+            std::vector<CString> orders[3];
+            for (int kind = 0; kind < 3; ++kind)
             {
                 CZoListCtrl& list = MakeList(0, rows);
-                for (int i = 0; ownData && i < list.GetItemCount(); ++i)
-                    list.SetItemData(i, 0x100 + i);
+                for (int i = 0; i < list.GetItemCount(); ++i)
+                    list.SetItemData(i, 0x100 + i * kSpreads[kind]);
                 const int column = method == CZoListCtrl::SCM_Numeric ? 1 : 2;
                 list.SetColumnSortMethod(column, method);
                 spy_.codes.clear();
                 list.SortOnColumn(column, ascending);
-                orders[ownData] = Column(0);
-                if (ownData)
+                orders[kind] = Column(0);
+                if (kind > 0)
                 {
                     EXPECT_EQ(spy_.Count(LVN_ITEMCHANGING), 0u);
+                    EXPECT_EQ(orders[kind], orders[0]) << method << (ascending ? " ascending, " : " descending, ") << kind;
                 }
             }
-            EXPECT_EQ(orders[0], orders[1]) << "method " << method << (ascending ? " ascending" : " descending");
         }
 }
 

@@ -140,22 +140,28 @@ bool ZoRankSortKeys(int method, const std::vector<ZoSortKey>& keys, std::vector<
 {
     ranks.clear();
     method = ZoNormalizeSortMethod(method);
-    if (method == ZoSortMethod_DateTime)
-        return false;
+    // A NaN is no order at all: sorting by it would not even be defined.
     if (method == ZoSortMethod_Numeric)
         for (const ZoSortKey& key : keys)
             if (std::isnan(key.number))
                 return false;
+    const auto compare = [&](int a, int b) { return ZoCompareSortKeys(method, keys[(size_t)a], keys[(size_t)b]); };
     std::vector<int> order(keys.size());
     for (size_t i = 0; i < order.size(); ++i)
         order[i] = (int)i;
-    std::sort(order.begin(), order.end(),
-              [&](int a, int b) { return ZoCompareSortKeys(method, keys[(size_t)a], keys[(size_t)b]) < 0; });
+    std::sort(order.begin(), order.end(), [&](int a, int b) { return compare(a, b) < 0; });
     ranks.assign(keys.size(), 0);
     int rank = 0;
     for (size_t place = 1; place < order.size(); ++place)
     {
-        if (ZoCompareSortKeys(method, keys[(size_t)order[place - 1]], keys[(size_t)order[place]]) != 0)
+        const int before = compare(order[place - 1], order[place]);
+        // Neighbours equal one way round only (dates less than half a second apart): no ranks.
+        if ((before < 0) != (compare(order[place], order[place - 1]) > 0))
+        {
+            ranks.clear();
+            return false;
+        }
+        if (before != 0)
             ++rank;
         ranks[(size_t)order[place]] = rank;
     }

@@ -64,8 +64,8 @@ ZOCTRL_API int ZoCompareSortKeys(int method, const ZoSortKey& key1, const ZoSort
 
 // Dense ranks of keys under `method`: equal keys share a rank, and a lower rank sorts first, so
 // comparing two ranks gives the sign comparing the two keys gives. Only where that comparison is a
-// consistent order: false for dates (half a second's tolerance is not transitive) and for numbers
-// that are not numbers (NaN compares after everything, either way round).
+// consistent order: false for dates less than half a second apart (equal one way round only) and
+// for numbers that are not numbers (NaN compares after everything, either way round).
 ZOCTRL_API bool ZoRankSortKeys(int method, const std::vector<ZoSortKey>& keys, std::vector<int>& ranks);
 
 } // namespace ZoControls

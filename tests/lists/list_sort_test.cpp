@@ -90,7 +90,7 @@ TEST(SortComparisons, RanksShareEqualKeysWhereTheOrderIsConsistent)
         {ZoSortMethod_TextInsensitive, {L"b", L"B", L"a", L"b"}, true, {1, 1, 0, 1}},
         {ZoSortMethod_Numeric, {L"10", L"abc", L"9", L"0", L"-1"}, true, {3, 1, 2, 1, 0}},
         {ZoSortMethod_Numeric, {}, true, {}},
-        {ZoSortMethod_DateTime, {L"2024-01-02", L"2024-01-01"}, false, {}},
+        {ZoSortMethod_DateTime, {L"2024-01-02", L"garbage", L"2024-01-01", L""}, true, {2, 0, 1, 0}},
     };
     for (const auto& c : cases)
     {
@@ -102,11 +102,15 @@ TEST(SortComparisons, RanksShareEqualKeysWhereTheOrderIsConsistent)
         EXPECT_EQ(ranked, c.ranked) << c.method;
         EXPECT_EQ(ranks, c.ranks) << c.method;
     }
-    // A runtime whose _wtof reads "nan" makes a number that is not ordered: no ranks then.
+    // A runtime whose _wtof reads "nan" makes a number that is not ordered; dates a quarter of a
+    // second apart are equal one way round only. No ranks for either.
     std::vector<ZoSortKey> keys = {ZoMakeSortKey(ZoSortMethod_Numeric, L"1"), ZoMakeSortKey(ZoSortMethod_Numeric, L"2")};
     keys[1].number = std::numeric_limits<double>::quiet_NaN();
     std::vector<int> ranks;
     EXPECT_FALSE(ZoRankSortKeys(ZoSortMethod_Numeric, keys, ranks));
+    keys = {ZoMakeSortKey(ZoSortMethod_DateTime, L"2024-01-01 10:00:00"), ZoMakeSortKey(ZoSortMethod_DateTime, L"x")};
+    keys[1].date = {true, keys[0].date.value + 0.25 / 86400.0};
+    EXPECT_FALSE(ZoRankSortKeys(ZoSortMethod_DateTime, keys, ranks));
 }
 
 // --- The list ----------------------------------------------------------------------------------
@@ -194,26 +198,37 @@ TEST_F(ListSortTest, TiesLandAlikeWhetherOrNotItemDataTellsRowsApart)
         {{L"a", L"2.5", L"x"}},  {{L"b", L"1", L"X"}},  {{L"c", L"2.50", L"y"}},
         {{L"d", L"abc", L"x"}},  {{L"e", L"0", L"Y"}},  {{L"f", L"1", L"x"}},
     };
+    const std::vector<Row> dated = {
+        {{L"a", L"", L"2024-01-02"}}, {{L"b", L"", L"garbage"}}, {{L"c", L"", L"2024-01-01 10:00:00"}},
+        {{L"d", L"", L"2024-01-02"}}, {{L"e", L"", L""}},        {{L"f", L"", L"2024-01-01 10:00:01"}},
+    };
+    const struct
+    {
+        CZoListCtrl::E_SortColumnMethod method;
+        int column;
+        const std::vector<Row>& rows;
+    } cases[] = {{CZoListCtrl::SCM_Numeric, 1, rows},
+                 {CZoListCtrl::SCM_TextInsensitive, 2, rows},
+                 {CZoListCtrl::SCM_TextSensitive, 2, rows},
+                 {CZoListCtrl::SCM_DateTime, 2, dated}};
     const DWORD_PTR kSpreads[] = {0, 1, 0x9E3779B1}; // shared, near, far apart
-    for (const CZoListCtrl::E_SortColumnMethod method : {CZoListCtrl::SCM_Numeric, CZoListCtrl::SCM_TextInsensitive,
-                                                          CZoListCtrl::SCM_TextSensitive})
+    for (const auto& c : cases)
         for (const bool ascending : {true, false})
         {
             std::vector<CString> orders[3];
             for (int kind = 0; kind < 3; ++kind)
             {
-                CZoListCtrl& list = MakeList(0, rows);
+                CZoListCtrl& list = MakeList(0, c.rows);
                 for (int i = 0; i < list.GetItemCount(); ++i)
                     list.SetItemData(i, 0x100 + i * kSpreads[kind]);
-                const int column = method == CZoListCtrl::SCM_Numeric ? 1 : 2;
-                list.SetColumnSortMethod(column, method);
+                list.SetColumnSortMethod(c.column, c.method);
                 spy_.codes.clear();
-                list.SortOnColumn(column, ascending);
+                list.SortOnColumn(c.column, ascending);
                 orders[kind] = Column(0);
                 if (kind > 0)
                 {
                     EXPECT_EQ(spy_.Count(LVN_ITEMCHANGING), 0u);
-                    EXPECT_EQ(orders[kind], orders[0]) << method << (ascending ? " ascending, " : " descending, ") << kind;
+                    EXPECT_EQ(orders[kind], orders[0]) << c.method << (ascending ? " ascending, " : " descending, ") << kind;
                 }
             }
         }

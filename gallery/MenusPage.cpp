@@ -2,6 +2,7 @@
 #include <afxext.h>
 
 #include "MenusPage.h"
+#include "PageParts.h"
 
 using namespace ZoControls;
 
@@ -198,7 +199,7 @@ void CMenusPage::DrawPage(CDC& dc, const CRect& client)
         return;
     CFont* pOld = dc.SelectObject(const_cast<CFont*>(pTheme->GetCacheGDIFont(ZoThemeFont_2, ZoMonitorSize_Normal)));
     dc.SetBkMode(TRANSPARENT);
-    dc.SetTextColor(pTheme->GetGDIColor(static_cast<E_ZoThemeColors>(2), ZoTheme_Default));
+    dc.SetTextColor(SlotColor(GallerySlot_CaptionText));
     CRect hint(client.left + kMargin * 2 + 280, client.top + kButtonTop, client.right - kMargin, client.top + kButtonTop + 28);
     dc.DrawText(L"Right-click anywhere on this page for a context menu.", &hint,
                 DT_LEFT | DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
@@ -240,9 +241,8 @@ void CMenusPage::_drawPopupPreview(CDC& dc, const CMenu& menu, const CPoint& ori
         y += measure.itemHeight;
     }
     // The popup's frame: border and two rings of the menu background.
-    const CZoThemeManager* pTheme = CZoThemeManager::GetInstance();
-    const COLORREF border = pTheme ? pTheme->GetGDIColor(static_cast<E_ZoThemeColors>(69), ZoTheme_Default) : RGB(0, 0, 0);
-    const COLORREF back = pTheme ? pTheme->GetGDIColor(static_cast<E_ZoThemeColors>(68), ZoTheme_Default) : RGB(0, 0, 0);
+    const COLORREF border = SlotColor(GallerySlot_MenuBorder);
+    const COLORREF back = SlotColor(GallerySlot_MenuBack);
     CRect frame(at.x, at.y, at.x + width, y + 3);
     dc.Draw3dRect(&frame, border, border);
     frame.DeflateRect(1, 1);

@@ -89,3 +89,9 @@ void ShowNextCount(CWnd* pWnd, const wchar_t* what, int& count)
     text.Format(count == 1 ? L"%s %d time" : L"%s %d times", what, count);
     pWnd->SetWindowText(text);
 }
+
+COLORREF SlotColor(GallerySlot slot, COLORREF fallback)
+{
+    const CZoThemeManager* pTheme = CZoThemeManager::GetInstance();
+    return pTheme ? pTheme->GetGDIColor(ThemeSlot(slot), ZoTheme_Default) : fallback;
+}

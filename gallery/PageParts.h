@@ -5,10 +5,34 @@
 //   GridCell            a cell of a regular grid of controls
 //   LoadLibraryBitmap   a bitmap from the library's resources
 //   ShowNextCount       a click counter shown as a control's text
+//   GallerySlot         the theme colour slots the gallery's own drawing takes, by name
 #pragma once
 #include <afxwin.h>
 
 #include <vector>
+
+#include "core/ZoThemeTypes.h"
+
+enum GallerySlot
+{
+    GallerySlot_ControlBack = 0,
+    GallerySlot_CaptionText = 2, // light text on the dark page
+    GallerySlot_ButtonFace = 13,
+    GallerySlot_ListBack = 38,
+    GallerySlot_ListText = 42,
+    GallerySlot_GroupFrame = 49,
+    GallerySlot_MenuBack = 68,
+    GallerySlot_MenuBorder = 69,
+    GallerySlot_Unassigned = 129 // a slot no control paints with: the skin grids' lines
+};
+
+inline ZoControls::E_ZoThemeColors ThemeSlot(GallerySlot slot)
+{
+    return static_cast<ZoControls::E_ZoThemeColors>(slot);
+}
+
+// The slot's colour in the default theme; `fallback` while there is no theme manager.
+COLORREF SlotColor(GallerySlot slot, COLORREF fallback = RGB(0, 0, 0));
 
 class CPageLabels
 {

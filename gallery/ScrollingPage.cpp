@@ -47,11 +47,6 @@ const CZoThemeManager* Theme()
     return CZoThemeManager::GetInstance();
 }
 
-COLORREF SlotColor(int slot, COLORREF fallback)
-{
-    return Theme() ? Theme()->GetGDIColor(static_cast<E_ZoThemeColors>(slot), ZoTheme_Default) : fallback;
-}
-
 CFont* SlotFont(E_ZoThemeFont role)
 {
     return Theme() ? const_cast<CFont*>(Theme()->GetCacheGDIFont(role, ZoMonitorSize_Normal)) : NULL;
@@ -138,11 +133,11 @@ void CScrolledLinesView::_paintInto(CDC& dc)
     CRect client;
     GetClientRect(&client);
     CZoMemDC mem(&dc, client.Width(), client.Height());
-    mem.FillSolidRect(&client, SlotColor(38, RGB(255, 255, 255)));
+    mem.FillSolidRect(&client, SlotColor(GallerySlot_ListBack, RGB(255, 255, 255)));
     CFont* pFont = m_pFont ? m_pFont : SlotFont(ZoThemeFont_1);
     CFont* pOld = pFont ? mem.SelectObject(pFont) : NULL;
     mem.SetBkMode(TRANSPARENT);
-    mem.SetTextColor(SlotColor(42, RGB(0, 0, 0)));
+    mem.SetTextColor(SlotColor(GallerySlot_ListText));
     for (int i = 0; i * m_nLineHeight < client.Height() && m_nTopLine + i < LineCount; ++i)
     {
         CString text;
@@ -337,8 +332,8 @@ void CScrollingPage::DrawPage(CDC& dc, const CRect& client)
 
 void CScrollingPage::_drawPanes(CDC& dc)
 {
-    const COLORREF back = SlotColor(38, RGB(255, 255, 255));
-    const COLORREF frame = SlotColor(49, RGB(0, 0, 0));
+    const COLORREF back = SlotColor(GallerySlot_ListBack, RGB(255, 255, 255));
+    const COLORREF frame = SlotColor(GallerySlot_GroupFrame);
     const CRect* panes[2] = {&m_panes.left, &m_panes.right};
     const wchar_t* names[2] = {L"Left pane", L"Right pane"};
     CPageLabels widths;

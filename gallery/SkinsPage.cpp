@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "SkinsPage.h"
+#include "PageParts.h"
 
 using namespace ZoControls;
 
@@ -63,11 +64,6 @@ const StripInfo kStrips[] = {
 const CZoThemeManager* Manager()
 {
     return CZoThemeManager::GetInstance();
-}
-
-COLORREF SlotColor(int slot)
-{
-    return Manager() ? Manager()->GetGDIColor(static_cast<E_ZoThemeColors>(slot), ZoTheme_Default) : RGB(0, 0, 0);
 }
 
 int TileWidth(const CSkinsPage::Tile& tile, int scale)
@@ -150,7 +146,7 @@ void CSkinsPage::DrawPage(CDC& dc, const CRect& client)
     const int bottom = LayoutTiles(tiles, area, scale);
 
     dc.SetBkMode(TRANSPARENT);
-    dc.SetTextColor(SlotColor(2));
+    dc.SetTextColor(SlotColor(GallerySlot_CaptionText));
     const int oldMode = dc.SetStretchBltMode(COLORONCOLOR);
     for (const Tile& tile : tiles)
         _drawTile(dc, tile, scale);
@@ -184,7 +180,7 @@ void CSkinsPage::_drawTile(CDC& dc, const Tile& tile, int scale) const
     const int left = tile.place.left + kRowNumbersWidth;
     const int top = labelRect.bottom + kColumnNumbersHeight;
     const CRect picture(left, top, left + tile.width * scale, top + tile.height * scale);
-    dc.FillSolidRect(&picture, SlotColor(0));
+    dc.FillSolidRect(&picture, SlotColor(GallerySlot_ControlBack));
     _drawPicture(dc, tile, picture, scale);
     _drawGrid(dc, tile, picture, scale);
 }
@@ -198,7 +194,7 @@ void CSkinsPage::_drawPicture(CDC& dc, const Tile& tile, const CRect& picture, i
         bitmap.LoadResourceImage(tile.name, m_sizeClass, tile.columns, tile.rows);
     } else {
         png.LoadResourceImage(kCheckRadioPng, tile.columns, tile.rows);
-        png.SetControlDefaultThema(static_cast<E_ZoThemeColors>(13));
+        png.SetControlDefaultThema(ThemeSlot(GallerySlot_ButtonFace));
         image = &png;
     }
     const int uw = image->GetUnitWidth();
@@ -213,7 +209,7 @@ void CSkinsPage::_drawGrid(CDC& dc, const Tile& tile, const CRect& picture, int 
 {
     const int cellWidth = tile.width / tile.columns * scale;
     const int cellHeight = tile.height / tile.rows * scale;
-    CPen pen(PS_SOLID, 1, SlotColor(129));
+    CPen pen(PS_SOLID, 1, SlotColor(GallerySlot_Unassigned));
     CPen* pOldPen = dc.SelectObject(&pen);
     for (int column = 0; column <= tile.columns; ++column) {
         dc.MoveTo(picture.left + column * cellWidth, picture.top);

@@ -189,7 +189,7 @@ void CStaticsPage::_createLive()
                         GridCell(first, step, 0, 1), 0, kClickableId);
 
     CZoStatic* pOwnColours = new CZoStatic;
-    pOwnColours->SetTextTheme(static_cast<E_ZoThemeColors>(2));
+    pOwnColours->SetTextTheme(ThemeSlot(GallerySlot_CaptionText));
     pOwnColours->SetBackGroundColor(RGB(50, 80, 120));
     _add(pOwnColours, L"Own text slot and background", SS_CENTER | SS_CENTERIMAGE, GridCell(first, step, 1, 1));
     m_texts.push_back(pOwnColours);

@@ -1,6 +1,7 @@
 #include <afxwin.h>
 
 #include "ThemePage.h"
+#include "PageParts.h"
 
 using namespace ZoControls;
 
@@ -16,11 +17,6 @@ const int kFontLabelWidth = 170;
 const CZoThemeManager* Manager()
 {
     return CZoThemeManager::GetInstance();
-}
-
-COLORREF SlotColor(int slot)
-{
-    return Manager() ? Manager()->GetGDIColor(static_cast<E_ZoThemeColors>(slot), ZoTheme_Default) : RGB(0, 0, 0);
 }
 
 } // namespace
@@ -44,13 +40,13 @@ void CThemePage::_drawColorSlots(CDC& dc, const CRect& area)
     const int columnWidth = area.Width() / kSwatchColumns;
     CFont* pOldFont = dc.SelectObject(const_cast<CFont*>(Manager()->GetCacheGDIFont(ZoThemeFont_0, ZoMonitorSize_Normal)));
     dc.SetBkMode(TRANSPARENT);
-    dc.SetTextColor(SlotColor(2));
+    dc.SetTextColor(SlotColor(GallerySlot_CaptionText));
     for (int slot = 0; slot < ZoThemeColor_Count; ++slot) {
         // Column-major, so neighbouring slot numbers stay together.
         const int x = area.left + (slot / rows) * columnWidth;
         const int y = area.top + (slot % rows) * kSwatchRowHeight;
         CRect swatch(x, y + 1, x + kSwatchSize, y + 1 + kSwatchSize);
-        dc.FillSolidRect(&swatch, SlotColor(slot));
+        dc.FillSolidRect(&swatch, Manager()->GetGDIColor(static_cast<E_ZoThemeColors>(slot), ZoTheme_Default));
         dc.Draw3dRect(&swatch, RGB(128, 128, 128), RGB(128, 128, 128));
         CString label;
         label.Format(L"%d %s", slot, ZoThemeColorName(slot));
@@ -63,7 +59,7 @@ void CThemePage::_drawColorSlots(CDC& dc, const CRect& area)
 void CThemePage::_drawFontRoles(CDC& dc, const CRect& area)
 {
     dc.SetBkMode(TRANSPARENT);
-    dc.SetTextColor(SlotColor(2));
+    dc.SetTextColor(SlotColor(GallerySlot_CaptionText));
     const int sampleWidth = (area.Width() - kFontLabelWidth) / ZoMonitorSize_Count;
     int y = area.top;
     for (int role = 0; role < ZoThemeFont_Count; ++role) {

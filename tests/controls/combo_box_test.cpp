@@ -73,21 +73,6 @@ protected:
 class ComboTest : public controltest::ReflectingParentTest
 {
 protected:
-    void SetUp() override
-    {
-        ReflectingParentTest::SetUp();
-        edit_ = controltest::LoadLibraryBitmap(L"BMP_ZO_EDIT");
-        dropList_ = controltest::LoadLibraryBitmap(L"BMP_ZO_CMBDROPDOWNLIST");
-        arrow_ = controltest::LoadLibraryBitmap(L"BMP_ZO_CMBDROPDOWNLISTBTN");
-        ASSERT_TRUE(edit_ && dropList_ && arrow_);
-    }
-    void TearDown() override
-    {
-        for (HBITMAP bitmap : {edit_, dropList_, arrow_})
-            ::DeleteObject(bitmap);
-        ReflectingParentTest::TearDown();
-    }
-
     void Create(CZoComboBox& combo, DWORD style, const CRect& rect = CRect(10, 10, 150, 200))
     {
         ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | style, rect, host(), 9));
@@ -132,9 +117,9 @@ protected:
         return result;
     }
 
-    HBITMAP edit_ = nullptr;
-    HBITMAP dropList_ = nullptr;
-    HBITMAP arrow_ = nullptr;
+    HBITMAP edit_ = Strip(L"BMP_ZO_EDIT");
+    HBITMAP dropList_ = Strip(L"BMP_ZO_CMBDROPDOWNLIST");
+    HBITMAP arrow_ = Strip(L"BMP_ZO_CMBDROPDOWNLISTBTN");
 };
 
 } // namespace

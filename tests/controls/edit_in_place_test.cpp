@@ -274,14 +274,6 @@ TEST_F(EditInPlaceTest, DownMovesTheSelectionAndEditsTheNextRow)
     EXPECT_EQ(::SendMessageW(list_, LVM_GETITEMSTATE, 1, LVIS_SELECTED), 0);
 }
 
-TEST_F(EditInPlaceTest, AmpersandTypedWithoutShiftMovesUp)
-{
-    Open(2);
-    Char(L'&');
-    ASSERT_EQ(Reports().size(), 1u);
-    EXPECT_EQ(recorder_.Count(LVM_EDITLABELW, zotest::WindowRole::Parent), 1u);
-}
-
 TEST_F(EditInPlaceTest, DestroyWindowReportsNothing)
 {
     Open(1);

@@ -59,18 +59,6 @@ bool Same(const CRect& r, int l, int t, int right, int b) { return r == CRect(l,
 
 } // namespace
 
-TEST_F(ScrollBarTest, CreatedTallBarHasButtonsThumbAndPageAfter)
-{
-    Create();
-    EXPECT_EQ(bar_.GetButtonGapSize(), 4);
-    EXPECT_TRUE(Same(bar_.GetPartRect(CZoScrollBar::SBHit_PrevButton), 0, 0, kWidth, 22));
-    EXPECT_TRUE(Same(bar_.GetPartRect(CZoScrollBar::SBHit_NextButton), 0, 178, kWidth, 200));
-    EXPECT_EQ(bar_.GetThumbLength(), (200 - 52) / 3);
-    EXPECT_TRUE(Same(bar_.GetPartRect(CZoScrollBar::SBHit_Thumb), 0, 22, kWidth, 22 + 49));
-    EXPECT_TRUE(bar_.GetPartRect(CZoScrollBar::SBHit_PageBefore).IsRectEmpty());
-    EXPECT_TRUE(Same(bar_.GetPartRect(CZoScrollBar::SBHit_PageAfter), 0, 71, kWidth, 178));
-}
-
 
 TEST_F(ScrollBarTest, ScrollInfoSetsThumbLengthAndPosition)
 {
@@ -318,22 +306,6 @@ TEST_F(ScrollBarTest, DoubleClickAndRightButtonAreSwallowed)
 class ScrollBarPixelTest : public ScrollBarTest
 {
 protected:
-    void SetUp() override
-    {
-        ScrollBarTest::SetUp();
-        buttons_ = controltest::LoadLibraryBitmap(L"BMP_ZO_SCROLLVER_BTNS");
-        thumb_ = controltest::LoadLibraryBitmap(L"BMP_ZO_SCROLLVER_THUMB");
-        back_ = controltest::LoadLibraryBitmap(L"BMP_ZO_SCROLLVER_BACK");
-        ASSERT_TRUE(buttons_ && thumb_ && back_);
-    }
-    void TearDown() override
-    {
-        ::DeleteObject(buttons_);
-        ::DeleteObject(thumb_);
-        ::DeleteObject(back_);
-        ScrollBarTest::TearDown();
-    }
-
     // The previous button's area, drawn in `state`.
     testing::AssertionResult PrevButtonIs(const zotest::Dib& dib, int state, int variant = 0,
                                           const CZoScrollBar* bar = nullptr)
@@ -345,9 +317,9 @@ protected:
     }
 
     const COLORREF kBackground = RGB(0x47, 0x47, 0x47);
-    HBITMAP buttons_ = nullptr;
-    HBITMAP thumb_ = nullptr;
-    HBITMAP back_ = nullptr;
+    HBITMAP buttons_ = Strip(L"BMP_ZO_SCROLLVER_BTNS");
+    HBITMAP thumb_ = Strip(L"BMP_ZO_SCROLLVER_THUMB");
+    HBITMAP back_ = Strip(L"BMP_ZO_SCROLLVER_BACK");
 };
 
 TEST_F(ScrollBarPixelTest, PreviousButtonInEachState)

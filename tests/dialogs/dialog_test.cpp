@@ -306,10 +306,8 @@ TEST_F(DialogTest, CaptionBarAndCloseCellPainted)
     ZOTEST_EXPECT_PIXEL(shown, border.left + 3, border.top + 3, Slot(ZoDialogColor_Caption));
     ZOTEST_EXPECT_PIXEL(shown, 0, 0, Slot(ZoDialogColor_FrameLine));
     // The close cell's pixels are the strip's cell (column 0, row 2).
-    HBITMAP strip = controltest::LoadLibraryBitmap(L"BMP_ZO_DLGSYSBTNS");
-    ASSERT_NE(nullptr, strip);
-    const zotest::Dib cell = controltest::StretchedCell(strip, 4, 4, 0, 2, 16, 16, Slot(ZoDialogColor_Caption));
-    ::DeleteObject(strip);
+    const zotest::Dib cell =
+        controltest::StretchedCell(Strip(L"BMP_ZO_DLGSYSBTNS"), 4, 4, 0, 2, 16, 16, Slot(ZoDialogColor_Caption));
     EXPECT_TRUE(controltest::AreaMatches(shown, close, cell));
     // The client area starts below the painted caption bar.
     CRect client;

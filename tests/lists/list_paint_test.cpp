@@ -177,20 +177,6 @@ TEST_F(ListPaintTest, ColumnZeroDrawsTheSmallImageAndCheckBoxes)
 class HeaderPaintTest : public ListPaintTest
 {
 protected:
-    void SetUp() override
-    {
-        ListPaintTest::SetUp();
-        strip_ = controltest::LoadLibraryBitmap(L"BMP_ZO_HEADER");
-        arrows_ = controltest::LoadLibraryBitmap(L"BMP_ZO_HEADERSORT");
-        ASSERT_NE(strip_, nullptr);
-        ASSERT_NE(arrows_, nullptr);
-    }
-    void TearDown() override
-    {
-        ::DeleteObject(strip_);
-        ::DeleteObject(arrows_);
-        ListPaintTest::TearDown();
-    }
     CRect Item(int index)
     {
         CRect rect;
@@ -207,8 +193,8 @@ protected:
     }
     POINT Centre(int index) { return Item(index).CenterPoint(); }
 
-    HBITMAP strip_ = nullptr;
-    HBITMAP arrows_ = nullptr;
+    HBITMAP strip_ = Strip(L"BMP_ZO_HEADER");
+    HBITMAP arrows_ = Strip(L"BMP_ZO_HEADERSORT");
 };
 
 TEST_F(HeaderPaintTest, ItemsAndTheEmptyAreaFromTheSkin)

@@ -33,20 +33,6 @@ TEST(ThemeMath, AbsurdScalingSaturates)
     EXPECT_EQ(ZoScaleByZoom(5, 0.0f), 0);
 }
 
-// Pixel heights of the built-in font sizes at the three size classes.
-TEST(ThemeMath, FontPixelHeightsFollowTheSizeClassTable)
-{
-    struct Row { int points; int heights[3]; };
-    const Row rows[] = {
-        {7, {9, 11, 15}},   {8, {11, 13, 17}},  {9, {12, 15, 19}},  {10, {13, 16, 21}},
-        {11, {15, 17, 24}}, {12, {16, 19, 25}}, {13, {17, 21, 28}}, {14, {19, 23, 29}},
-    };
-    for (const Row& row : rows)
-        for (int size = 0; size < 3; ++size)
-            EXPECT_EQ(ZoFontPixelHeight(row.points, ZoZoomFactorOf(size)), row.heights[size])
-                << row.points << " pt at size class " << size;
-}
-
 TEST(ThemeMath, MonitorClassThresholdsAreExactAreas)
 {
     EXPECT_EQ(ZoMonitorSizeForArea(0), ZoMonitorSize_Normal);

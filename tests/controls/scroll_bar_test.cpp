@@ -306,14 +306,13 @@ TEST_F(ScrollBarTest, DoubleClickAndRightButtonAreSwallowed)
 class ScrollBarPixelTest : public ScrollBarTest
 {
 protected:
-    // The previous button's area, drawn in `state`.
-    testing::AssertionResult PrevButtonIs(const zotest::Dib& dib, int state, int variant = 0,
-                                          const CZoScrollBar* bar = nullptr)
+    // The previous button's area as painted now shows `state`.
+    testing::AssertionResult PrevButtonIs(int state)
     {
-        const CRect prev = (bar ? bar : &bar_)->GetPartRect(CZoScrollBar::SBHit_PrevButton);
+        const CRect prev = bar_.GetPartRect(CZoScrollBar::SBHit_PrevButton);
         const zotest::Dib expected =
-            controltest::StretchedCell(buttons_, 4, 4, state, variant * 2, prev.Width(), prev.Height(), kBackground);
-        return controltest::AreaMatches(dib, prev, expected);
+            controltest::StretchedCell(buttons_, 4, 4, state, 0, prev.Width(), prev.Height(), kBackground);
+        return controltest::AreaMatches(zotest::RenderClient(bar_.GetSafeHwnd()), prev, expected);
     }
 
     const COLORREF kBackground = RGB(0x47, 0x47, 0x47);
@@ -326,17 +325,17 @@ TEST_F(ScrollBarPixelTest, PreviousButtonInEachState)
 {
     Create();
     SetStandardState();
-    EXPECT_TRUE(PrevButtonIs(zotest::RenderClient(bar_.GetSafeHwnd()), CZoScrollBar::CurState_Normal));
+    EXPECT_TRUE(PrevButtonIs(CZoScrollBar::CurState_Normal));
     Move(9, 5, 0);
-    EXPECT_TRUE(PrevButtonIs(zotest::RenderClient(bar_.GetSafeHwnd()), CZoScrollBar::CurState_Hover));
+    EXPECT_TRUE(PrevButtonIs(CZoScrollBar::CurState_Hover));
     Press(9, 5);
-    EXPECT_TRUE(PrevButtonIs(zotest::RenderClient(bar_.GetSafeHwnd()), CZoScrollBar::CurState_Pressed));
+    EXPECT_TRUE(PrevButtonIs(CZoScrollBar::CurState_Pressed));
     Release(9, 5);
-    EXPECT_TRUE(PrevButtonIs(zotest::RenderClient(bar_.GetSafeHwnd()), CZoScrollBar::CurState_Hover));
+    EXPECT_TRUE(PrevButtonIs(CZoScrollBar::CurState_Hover));
     bar_.SendMessage(WM_MOUSELEAVE);
-    EXPECT_TRUE(PrevButtonIs(zotest::RenderClient(bar_.GetSafeHwnd()), CZoScrollBar::CurState_Normal));
+    EXPECT_TRUE(PrevButtonIs(CZoScrollBar::CurState_Normal));
     bar_.EnableWindow(FALSE);
-    EXPECT_TRUE(PrevButtonIs(zotest::RenderClient(bar_.GetSafeHwnd()), CZoScrollBar::CurState_Disabled));
+    EXPECT_TRUE(PrevButtonIs(CZoScrollBar::CurState_Disabled));
 }
 
 TEST_F(ScrollBarPixelTest, PageAreasAndThumbInTheirStates)

@@ -37,11 +37,8 @@ TEST(ThemeMath, MonitorClassThresholdsAreExactAreas)
 {
     EXPECT_EQ(ZoMonitorSizeForArea(0), ZoMonitorSize_Normal);
     EXPECT_EQ(ZoMonitorSizeForArea(-5), ZoMonitorSize_Normal);
-    EXPECT_EQ(ZoMonitorSizeForArea(1280LL * 1024), ZoMonitorSize_Normal);
-    EXPECT_EQ(ZoMonitorSizeForArea(1920LL * 1080), ZoMonitorSize_Normal);
     EXPECT_EQ(ZoMonitorSizeForArea(3145727), ZoMonitorSize_Normal);
     EXPECT_EQ(ZoMonitorSizeForArea(3145728), ZoMonitorSize_3M);
-    EXPECT_EQ(ZoMonitorSizeForArea(2560LL * 1440), ZoMonitorSize_3M);
     EXPECT_EQ(ZoMonitorSizeForArea(5242879), ZoMonitorSize_3M);
     EXPECT_EQ(ZoMonitorSizeForArea(5242880), ZoMonitorSize_5M);
     EXPECT_EQ(ZoMonitorSizeForArea(3840LL * 2160), ZoMonitorSize_5M);
@@ -52,22 +49,16 @@ TEST(ThemeMath, FixedModeNumbersMapToSizeClasses)
     EXPECT_EQ(ZoMonitorSizeForFixedMode(1), ZoMonitorSize_Normal);
     EXPECT_EQ(ZoMonitorSizeForFixedMode(2), ZoMonitorSize_3M);
     EXPECT_EQ(ZoMonitorSizeForFixedMode(3), ZoMonitorSize_5M);
-    EXPECT_EQ(ZoMonitorSizeForFixedMode(0), ZoMonitorSize_Unknown);
-    EXPECT_EQ(ZoMonitorSizeForFixedMode(4), ZoMonitorSize_Unknown);
-    EXPECT_EQ(ZoMonitorSizeForFixedMode(-1), ZoMonitorSize_Unknown);
+    for (int mode : {0, 4, -1})
+        EXPECT_EQ(ZoMonitorSizeForFixedMode(mode), ZoMonitorSize_Unknown) << mode;
 }
 
 TEST(ThemeMath, ProfileFlagIsTrueOnlyForTheWordTrue)
 {
-    EXPECT_TRUE(ZoParseProfileFlag(L"true"));
-    EXPECT_TRUE(ZoParseProfileFlag(L"TRUE"));
-    EXPECT_TRUE(ZoParseProfileFlag(L"True"));
-    EXPECT_FALSE(ZoParseProfileFlag(L"yes"));
-    EXPECT_FALSE(ZoParseProfileFlag(L"1"));
-    EXPECT_FALSE(ZoParseProfileFlag(L""));
-    EXPECT_FALSE(ZoParseProfileFlag(L"tru"));
-    EXPECT_FALSE(ZoParseProfileFlag(L"truest"));
-    EXPECT_FALSE(ZoParseProfileFlag(L" true"));
+    for (const wchar_t* word : {L"true", L"TRUE", L"True"})
+        EXPECT_TRUE(ZoParseProfileFlag(word)) << word;
+    for (const wchar_t* word : {L"yes", L"1", L"", L"tru", L"truest", L" true"})
+        EXPECT_FALSE(ZoParseProfileFlag(word)) << word;
     EXPECT_FALSE(ZoParseProfileFlag(nullptr));
 }
 

@@ -60,7 +60,7 @@ bool Same(const CRect& r, int l, int t, int right, int b) { return r == CRect(l,
 } // namespace
 
 
-TEST_F(ScrollBarTest, ScrollInfoSetsThumbLengthAndPosition)
+TEST_F(ScrollBarTest, ScrollInfoOrAResizeSetsThumbLengthAndPosition)
 {
     Create();
     SetStandardState();
@@ -74,12 +74,7 @@ TEST_F(ScrollBarTest, ScrollInfoSetsThumbLengthAndPosition)
     bar_.SetScrollRange(0, 209);
     EXPECT_EQ(bar_.GetThumbLength(), 24); // only SBM_SETSCROLLINFO changes the length
     EXPECT_EQ(bar_.GetThumbPos(), 70);    // 100 of 200
-}
-
-TEST_F(ScrollBarTest, ResizeResetsThumbLengthAndKeepsPosition)
-{
-    Create();
-    SetStandardState();
+    // A resize sets the length anew and keeps the position.
     bar_.MoveWindow(10, 10, kWidth, 300);
     EXPECT_EQ(bar_.GetThumbLength(), (300 - 52) / 3);
     EXPECT_EQ(bar_.GetThumbPos(), 70);

@@ -235,29 +235,24 @@ TEST_F(HeaderPaintTest, SortArrowFromTheSkinForEachDirection)
                                      controltest::kMagenta));
 }
 
-TEST_F(HeaderPaintTest, HotAndPressedItems)
+// Hot and pressed items, but none on a header that does not sort.
+TEST_F(HeaderPaintTest, HotAndPressedItemsOnlyWhereClicksSort)
 {
-    MakeList();
-    ::SendMessageW(header(), WM_MOUSEMOVE, 0, MAKELPARAM(Centre(1).x, Centre(1).y));
-    EXPECT_TRUE(ItemIn(1, 1));
-    EXPECT_TRUE(ItemIn(0, 0));
-    ::SendMessageW(header(), WM_MOUSELEAVE, 0, 0);
-    EXPECT_TRUE(ItemIn(1, 0));
-
-    ::SendMessageW(header(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(Centre(2).x, Centre(2).y));
-    EXPECT_TRUE(ItemIn(2, 3));
-    ::SendMessageW(header(), WM_LBUTTONUP, 0, MAKELPARAM(Centre(2).x, Centre(2).y));
-    EXPECT_TRUE(ItemIn(2, 0));
-}
-
-TEST_F(HeaderPaintTest, NoSortHeaderShowsNoHotOrPressedItems)
-{
-    MakeList(LVS_NOSORTHEADER);
-    ::SendMessageW(header(), WM_MOUSEMOVE, 0, MAKELPARAM(Centre(1).x, Centre(1).y));
-    EXPECT_TRUE(ItemIn(1, 0));
-    ::SendMessageW(header(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(Centre(1).x, Centre(1).y));
-    EXPECT_TRUE(ItemIn(1, 0));
-    ::ReleaseCapture();
+    for (const DWORD style : {DWORD(0), DWORD(LVS_NOSORTHEADER)}) {
+        const bool sorts = style == 0;
+        MakeList(style);
+        ::SendMessageW(header(), WM_MOUSEMOVE, 0, MAKELPARAM(Centre(1).x, Centre(1).y));
+        EXPECT_TRUE(ItemIn(1, sorts ? 1 : 0)) << style;
+        EXPECT_TRUE(ItemIn(0, 0));
+        ::SendMessageW(header(), WM_MOUSELEAVE, 0, 0);
+        EXPECT_TRUE(ItemIn(1, 0));
+        ::SendMessageW(header(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(Centre(2).x, Centre(2).y));
+        EXPECT_TRUE(ItemIn(2, sorts ? 3 : 0)) << style;
+        ::SendMessageW(header(), WM_LBUTTONUP, 0, MAKELPARAM(Centre(2).x, Centre(2).y));
+        EXPECT_TRUE(ItemIn(2, 0));
+        ::ReleaseCapture();
+        list_->DestroyWindow();
+    }
 }
 
 TEST_F(HeaderPaintTest, LosingTheMouseEndsThePressWithoutSorting)

@@ -55,6 +55,8 @@ F24|dialogs/ZoDialogGeometry.cpp|s/else if (over == pressed)/else if (over != pr
 F25|dialogs/ZoMessageBoxRules.cpp|s/right = layout.buttons\[i\].left - 3;/right = layout.buttons[i].left - 4;/|^test_dialogs$|off-by-one: message box button gap one pixel wide
 F26|frames/ZoFrameWnd.cpp|s/if (platformHit != HTNOWHERE .. !skinLoaded)/if (platformHit != HTNOWHERE \&\& !skinLoaded)/|^test_frames$|swapped condition: the skin's caption overrides the platform's hit code
 F27|frames/ZoFrameWnd.cpp|s/const int down = atLeastZero(h - 3 \* u + 1);/const int down = atLeastZero(h - 3 * u);/|^test_frames$|off-by-one: frame side pieces one pixel short
+F28|controls/ZoEditInPlace.cpp|s/CString reported = m_eEndReason == ZoEditEnd_Escape/CString reported = m_eEndReason != ZoEditEnd_Escape/|^test_controls$|swapped condition: in-place editor reports the typed text on Escape and the old one otherwise
+F29|lists/ZoListCtrl.cpp|s/m_header.SetNoSortHeader(true);/m_header.SetNoSortHeader(false);/|^test_lists$|wrong flag: a header that does not sort still shows hot and pressed items
 EOF
 )
 

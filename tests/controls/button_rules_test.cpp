@@ -44,17 +44,6 @@ TEST(ButtonRules, CheckCellOrigin)
     EXPECT_EQ(ZoCheckCellOrigin(client, 15, BS_VCENTER), CPoint(0, 5));
 }
 
-TEST(ButtonRules, PushTextFlagsTestSingleBits)
-{
-    const UINT base = DT_SINGLELINE | DT_END_ELLIPSIS;
-    EXPECT_EQ(ZoPushButtonTextFormat(0), base | DT_CENTER | DT_VCENTER);
-    EXPECT_EQ(ZoPushButtonTextFormat(BS_LEFT), base | DT_LEFT | DT_VCENTER);
-    EXPECT_EQ(ZoPushButtonTextFormat(BS_RIGHT | BS_BOTTOM), base | DT_RIGHT | DT_BOTTOM);
-    // BS_CENTER has the left bit, BS_VCENTER the top bit.
-    EXPECT_EQ(ZoPushButtonTextFormat(BS_CENTER), base | DT_LEFT | DT_VCENTER);
-    EXPECT_EQ(ZoPushButtonTextFormat(BS_VCENTER), base | DT_CENTER | DT_TOP);
-}
-
 TEST(ButtonRules, CaptionTextFlags)
 {
     EXPECT_EQ(ZoCaptionTextFormat(0, false), static_cast<UINT>(DT_SINGLELINE | DT_LEFT | DT_VCENTER));
@@ -145,15 +134,6 @@ TEST(ButtonRules, GroupBoxGeometry)
     EXPECT_EQ(ZoGroupBoxCaptionAlign(BS_CENTER), static_cast<UINT>(TA_CENTER));
 }
 
-TEST(ButtonRules, EveryPushKindAndThemeSharesOneSkin)
-{
-    for (int theme = 0; theme < ZoTheme_Count; ++theme) {
-        EXPECT_EQ(ZoPushButtonResourceId(true, static_cast<E_ZoTheme>(theme)), CString(L"BMP_ZO_BTNDEFPUSH_NORMAL"));
-        EXPECT_EQ(ZoPushButtonResourceId(false, static_cast<E_ZoTheme>(theme)), CString(L"BMP_ZO_BTNDEFPUSH_NORMAL"));
-    }
-    EXPECT_EQ(ZoPushButtonResourceId(false, static_cast<E_ZoTheme>(17)), CString(L"BMP_ZO_BTNDEFPUSH_NORMAL"));
-}
-
 // A one-pixel pen line sets every pixel from its start up to, not including, its end.
 TEST(ButtonRules, BorderLinePixels)
 {
@@ -170,21 +150,6 @@ TEST(ButtonRules, BorderLinePixels)
     for (const auto& row : rows)
         EXPECT_EQ(ZoAxisLinePixels(row.from, row.to), row.pixels) << row.from.x << "," << row.from.y;
     EXPECT_TRUE(ZoAxisLinePixels(POINT{4, 4}, POINT{4, 4}).IsRectEmpty());
-}
-
-TEST(ButtonRules, Kinds)
-{
-    EXPECT_TRUE(CZoButton::IsPushButton(BS_PUSHBUTTON));
-    EXPECT_TRUE(CZoButton::IsPushButton(BS_DEFPUSHBUTTON));
-    EXPECT_FALSE(CZoButton::IsPushButton(BS_GROUPBOX));
-    EXPECT_TRUE(CZoButton::IsCheckbox(BS_CHECKBOX));
-    EXPECT_TRUE(CZoButton::IsCheckbox(BS_AUTOCHECKBOX));
-    EXPECT_TRUE(CZoButton::IsCheckbox(BS_3STATE));
-    EXPECT_TRUE(CZoButton::IsCheckbox(BS_AUTO3STATE));
-    EXPECT_FALSE(CZoButton::IsCheckbox(BS_RADIOBUTTON));
-    EXPECT_TRUE(CZoButton::IsRadioButton(BS_RADIOBUTTON));
-    EXPECT_TRUE(CZoButton::IsRadioButton(BS_AUTORADIOBUTTON));
-    EXPECT_FALSE(CZoButton::IsRadioButton(BS_OWNERDRAW));
 }
 
 } // namespace

@@ -216,21 +216,15 @@ const ControlCase kPaintingControls[] = {
 
 using EraseTest = ControlCaseTest;
 
-TEST_P(EraseTest, EraseBackgroundPaintsNothing)
+// Erasing paints nothing; as the native controls do, a DC in WM_PAINT's wParam is painted into
+// as WM_PRINTCLIENT would, the screen left alone.
+TEST_P(EraseTest, EraseBackgroundPaintsNothingAndPaintWithADcPaintsIntoIt)
 {
     const std::unique_ptr<CWnd> wnd = GetParam().make(parentWnd());
     ASSERT_TRUE(wnd);
     zotest::Dib dib(120, 40, RGB(9, 9, 9));
     EXPECT_EQ(wnd->SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dib.dc())), TRUE);
     ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 120, 40}), RGB(9, 9, 9));
-    wnd->DestroyWindow();
-}
-
-// As the native controls do: a DC in wParam is painted into, the screen is left alone.
-TEST_P(EraseTest, PaintWithADcPaintsIntoItAsPrintClientDoes)
-{
-    const std::unique_ptr<CWnd> wnd = GetParam().make(parentWnd());
-    ASSERT_TRUE(wnd);
     zotest::Dib painted(120, 40, RGB(9, 9, 9));
     zotest::Dib printed(120, 40, RGB(9, 9, 9));
     wnd->SendMessage(WM_PAINT, reinterpret_cast<WPARAM>(painted.dc()));

@@ -44,8 +44,18 @@ void ControlTest::TearDown()
 {
     parent_.Reset();
     zotest::PumpUntilIdle(200);
+    for (HBITMAP strip : strips_)
+        ::DeleteObject(strip);
+    strips_.clear();
     if (initialized_)
         UninitializeZoCtrl();
+}
+
+HBITMAP ControlTest::Strip(const wchar_t* name)
+{
+    strips_.push_back(LoadLibraryBitmap(name));
+    EXPECT_NE(strips_.back(), nullptr) << "no bitmap resource";
+    return strips_.back();
 }
 
 void ControlTest::MakeButton(CButton& button, const wchar_t* text, DWORD style, const RECT& rect)

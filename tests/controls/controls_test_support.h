@@ -4,6 +4,8 @@
 #pragma once
 #include <afxwin.h>
 
+#include <vector>
+
 #include <gtest/gtest.h>
 #include <zotest/zotest.h>
 
@@ -28,9 +30,12 @@ protected:
     // for attaching a skinned class to it.
     HWND MakeNative(const wchar_t* windowClass, DWORD style, const RECT& rect);
     static const int kNativeId = 101;
+    // Bitmap resource `name` of ZoCtrl.dll, deleted after the test.
+    HBITMAP Strip(const wchar_t* name);
 
 private:
     bool initialized_ = false;
+    std::vector<HBITMAP> strips_;
     zotest::ScopedWindow parent_;
 };
 

@@ -33,17 +33,10 @@ const int kCell = 3; // BMP_ZO_EDIT is 36 x 27 cut into 12 x 9
 class EditTest : public controltest::ReflectingParentTest
 {
 protected:
-    void SetUp() override
-    {
-        ReflectingParentTest::SetUp();
-        skin_ = controltest::LoadLibraryBitmap(L"BMP_ZO_EDIT");
-        ASSERT_TRUE(skin_);
-    }
     void TearDown() override
     {
         if (edit_.GetSafeHwnd())
             edit_.DestroyWindow();
-        ::DeleteObject(skin_);
         ReflectingParentTest::TearDown();
     }
 
@@ -101,7 +94,7 @@ protected:
     }
 
     CZoEdit edit_;
-    HBITMAP skin_ = nullptr;
+    HBITMAP skin_ = Strip(L"BMP_ZO_EDIT");
 };
 
 } // namespace

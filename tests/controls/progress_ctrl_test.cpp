@@ -42,19 +42,10 @@ namespace {
 class ProgressTest : public ControlTest
 {
 protected:
-    void SetUp() override
-    {
-        ControlTest::SetUp();
-        horizontal_ = controltest::LoadLibraryBitmap(L"BMP_ZO_PROGRHOR");
-        vertical_ = controltest::LoadLibraryBitmap(L"BMP_ZO_PROGRVER");
-        ASSERT_TRUE(horizontal_ && vertical_);
-    }
     void TearDown() override
     {
         if (bar_.GetSafeHwnd())
             bar_.DestroyWindow();
-        ::DeleteObject(horizontal_);
-        ::DeleteObject(vertical_);
         ControlTest::TearDown();
     }
 
@@ -65,8 +56,8 @@ protected:
         bar_.SetPos(pos);
     }
 
-    HBITMAP horizontal_ = nullptr;
-    HBITMAP vertical_ = nullptr;
+    HBITMAP horizontal_ = Strip(L"BMP_ZO_PROGRHOR");
+    HBITMAP vertical_ = Strip(L"BMP_ZO_PROGRVER");
     CZoProgressCtrl bar_;
 };
 

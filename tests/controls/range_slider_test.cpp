@@ -287,9 +287,8 @@ TEST_F(RangeSliderTest, AttachedPlatformTrackbarGetsThumbAndBounds)
     const zotest::Dib dib = zotest::RenderClient(native);
     const CPoint l = slider_.GetLeftBoundPt();
     ZOTEST_EXPECT_PIXEL(dib, l.x - 2, l.y + thumb_.Width() - 2, kBound);
-    HBITMAP strip = controltest::LoadLibraryBitmap(L"BMP_ZO_SLIDERNORMAL_HOR_BOTH");
+    HBITMAP strip = Strip(L"BMP_ZO_SLIDERNORMAL_HOR_BOTH");
     const zotest::Dib cell = controltest::StretchedCell(strip, 4, 1, 0, 0, thumb_.Width(), thumb_.Height(),
                                                         dib.Pixel(thumb_.left, thumb_.top));
     EXPECT_TRUE(controltest::AreaMatches(dib, thumb_, cell));
-    ::DeleteObject(strip);
 }

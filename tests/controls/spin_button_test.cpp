@@ -123,7 +123,7 @@ TEST_F(SpinTest, HalfAtItsRangeEndShowsNoPress)
     Send(WM_LBUTTONUP, 10, 25);
 }
 
-TEST_F(SpinTest, OutlineRoundTheWholeControlWhenTheSecondHalfIsNotHot)
+TEST_F(SpinTest, OutlineRoundTheWholeControlOrOnlyTheMiddleLineUnderTheHotSecondHalf)
 {
     Create(5);
     const zotest::Dib dib = Render();
@@ -132,19 +132,14 @@ TEST_F(SpinTest, OutlineRoundTheWholeControlWhenTheSecondHalfIsNotHot)
     EXPECT_EQ(dib.Pixel(0, 20), border);
     EXPECT_EQ(dib.Pixel(Right(), Bottom()), border);
     EXPECT_EQ(dib.Pixel(3, MidY()), controltest::Slot(92)); // no line across the middle
-}
-
-TEST_F(SpinTest, HoveredSecondHalfShowsOnlyTheMiddleLine)
-{
-    Create(5);
+    // Over the second half: only the middle line.
     Send(WM_MOUSEMOVE, 10, 25);
-    const zotest::Dib dib = Render();
-    const COLORREF border = controltest::Slot(94);
-    EXPECT_EQ(dib.Pixel(3, MidY()), border);
-    EXPECT_EQ(dib.Pixel(Right() - 2, MidY()), border);
-    EXPECT_EQ(dib.Pixel(0, 0), controltest::Slot(92));
-    EXPECT_EQ(dib.Pixel(0, 20), controltest::Slot(92));
-    EXPECT_EQ(dib.Pixel(Right(), Bottom()), controltest::Slot(92));
+    const zotest::Dib hot = Render();
+    EXPECT_EQ(hot.Pixel(3, MidY()), border);
+    EXPECT_EQ(hot.Pixel(Right() - 2, MidY()), border);
+    EXPECT_EQ(hot.Pixel(0, 0), controltest::Slot(92));
+    EXPECT_EQ(hot.Pixel(0, 20), controltest::Slot(92));
+    EXPECT_EQ(hot.Pixel(Right(), Bottom()), controltest::Slot(92));
     // Leaving restores the full outline.
     spin_.SendMessage(WM_MOUSELEAVE);
     EXPECT_EQ(Render().Pixel(0, 0), border);

@@ -40,21 +40,6 @@ TEST(StaticLineRules, DotRuns)
     EXPECT_EQ(ZoStaticLineDots(CRect(10, 5, 0, 0), 0).count, 0);
 }
 
-TEST(StaticLineRules, SolidSegment)
-{
-    CPoint from, to;
-    ZoStaticLineSegment(CRect(0, 0, 100, 10), 0, from, to);
-    EXPECT_EQ(from, CPoint(0, 5));
-    EXPECT_EQ(to, CPoint(100, 5));
-    ZoStaticLineSegment(CRect(0, 0, 10, 100), 1, from, to);
-    EXPECT_EQ(from, CPoint(6, 1));
-    EXPECT_EQ(to, CPoint(6, 101));
-    // Square: horizontal.
-    ZoStaticLineSegment(CRect(0, 0, 20, 20), 0, from, to);
-    EXPECT_EQ(from, CPoint(0, 10));
-    EXPECT_EQ(to, CPoint(20, 10));
-}
-
 TEST_F(StaticLineTest, DottedHorizontalLineAtTheTopRows)
 {
     CStaticLine line;
@@ -115,15 +100,5 @@ TEST_F(StaticLineTest, ColoursInArgumentOrder)
     ZOTEST_EXPECT_FILL(dib, (RECT{1, 3, 30, 4}), RGB(0, 2, 0));
     ZOTEST_EXPECT_FILL(dib, (RECT{0, 0, 30, 2}), RGB(0, 0, 3));
 }
-
-// A derived class replaces one layer; the others keep their order.
-class RedBackgroundLine : public CStaticLine
-{
-public:
-    void DrawBackground(CDC* pDC, E_StaticLine_Style style, COLORREF) override
-    {
-        CStaticLine::DrawBackground(pDC, style, RGB(255, 0, 0));
-    }
-};
 
 } // namespace

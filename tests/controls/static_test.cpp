@@ -25,19 +25,20 @@ protected:
 
 TEST(StaticRules, PaintKindByStyleType)
 {
-    EXPECT_EQ(ZoStaticPaintKindOf(SS_LEFT), ZoStaticPaint_Text);
-    EXPECT_EQ(ZoStaticPaintKindOf(SS_CENTER | SS_NOTIFY), ZoStaticPaint_Text);
-    EXPECT_EQ(ZoStaticPaintKindOf(SS_RIGHT), ZoStaticPaint_Text);
-    EXPECT_EQ(ZoStaticPaintKindOf(SS_SIMPLE), ZoStaticPaint_Text);
-    EXPECT_EQ(ZoStaticPaintKindOf(SS_LEFTNOWORDWRAP), ZoStaticPaint_Text);
-    EXPECT_EQ(ZoStaticPaintKindOf(SS_BITMAP | SS_CENTERIMAGE), ZoStaticPaint_Picture);
-    EXPECT_EQ(ZoStaticPaintKindOf(SS_ICON), ZoStaticPaint_Icon);
-    EXPECT_EQ(ZoStaticPaintKindOf(SS_BLACKFRAME), ZoStaticPaint_Frame);
-    EXPECT_EQ(ZoStaticPaintKindOf(SS_GRAYFRAME), ZoStaticPaint_Frame);
-    EXPECT_EQ(ZoStaticPaintKindOf(SS_WHITEFRAME), ZoStaticPaint_Frame);
-    EXPECT_EQ(ZoStaticPaintKindOf(SS_ETCHEDHORZ), ZoStaticPaint_System);
-    EXPECT_EQ(ZoStaticPaintKindOf(SS_OWNERDRAW), ZoStaticPaint_System);
-    EXPECT_EQ(ZoStaticPaintKindOf(SS_BLACKRECT), ZoStaticPaint_System);
+    const struct
+    {
+        std::initializer_list<DWORD> styles;
+        E_ZoStaticPaintKind kind;
+    } rows[] = {
+        {{SS_LEFT, SS_CENTER | SS_NOTIFY, SS_RIGHT, SS_SIMPLE, SS_LEFTNOWORDWRAP}, ZoStaticPaint_Text},
+        {{SS_BITMAP | SS_CENTERIMAGE}, ZoStaticPaint_Picture},
+        {{SS_ICON}, ZoStaticPaint_Icon},
+        {{SS_BLACKFRAME, SS_GRAYFRAME, SS_WHITEFRAME}, ZoStaticPaint_Frame},
+        {{SS_ETCHEDHORZ, SS_OWNERDRAW, SS_BLACKRECT}, ZoStaticPaint_System},
+    };
+    for (const auto& row : rows)
+        for (DWORD style : row.styles)
+            EXPECT_EQ(ZoStaticPaintKindOf(style), row.kind) << style;
 }
 
 TEST(StaticRules, TextFormatByType)

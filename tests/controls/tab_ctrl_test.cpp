@@ -26,8 +26,6 @@ protected:
     {
         if (tabs_.GetSafeHwnd())
             tabs_.DestroyWindow();
-        for (HBITMAP strip : strips_)
-            ::DeleteObject(strip);
         ControlTest::TearDown();
     }
 
@@ -39,11 +37,6 @@ protected:
         int i = 0;
         for (const wchar_t* caption : captions)
             tabs_.InsertItem(i++, caption);
-    }
-    HBITMAP Strip(const wchar_t* name)
-    {
-        strips_.push_back(controltest::LoadLibraryBitmap(name));
-        return strips_.back();
     }
     CRect Item(int index) const
     {
@@ -78,7 +71,6 @@ protected:
     }
 
     CZoTabCtrl tabs_;
-    std::vector<HBITMAP> strips_;
 };
 
 // Bounding box of the pixels that differ between two renderings of the same size.

@@ -64,23 +64,20 @@ TEST(FontsIni, FileBesideTheExecutableOverridesRoles)
     EXPECT_EQ(std::wstring(CZoThemeManager::GetInstance()->GetFontName()), ExpectedFace(L"Arial"));
 }
 
-TEST(FontsIni, FileBesideTheExecutableWinsOverShared)
+// Only the first file found is read: beside the executable, else in the shared folder.
+TEST(FontsIni, FileBesideTheExecutableWinsOverTheSharedOne)
 {
     ScopedFontsIni shared(InShared(), "[en-US]\r\nZoThemeFont_0=Arial,20\r\nZoThemeFont_1=Arial,21\r\n", true);
-    ScopedFontsIni beside(BesideExe(), "[en-US]\r\nZoThemeFont_0=Arial,10\r\n");
     ASSERT_TRUE(shared.written());
+    {
+        ScopedZoCtrl library;
+        EXPECT_EQ(CachedLogFont(0, 0).lfHeight, -PixelHeight(20));
+    }
+    ScopedFontsIni beside(BesideExe(), "[en-US]\r\nZoThemeFont_0=Arial,10\r\n");
     ASSERT_TRUE(beside.written());
     ScopedZoCtrl library;
     EXPECT_EQ(CachedLogFont(0, 0).lfHeight, -PixelHeight(10));
-    EXPECT_EQ(CachedLogFont(1, 0).lfHeight, -11); // only the first file found is read
-}
-
-TEST(FontsIni, SharedFolderIsReadWhenNothingIsBesideTheExecutable)
-{
-    ScopedFontsIni shared(InShared(), "[en-US]\r\nZoThemeFont_0=Arial,20\r\n", true);
-    ASSERT_TRUE(shared.written());
-    ScopedZoCtrl library;
-    EXPECT_EQ(CachedLogFont(0, 0).lfHeight, -PixelHeight(20));
+    EXPECT_EQ(CachedLogFont(1, 0).lfHeight, -11);
 }
 
 TEST(FontsIni, MissingLocaleSectionFallsBackToEnUs)

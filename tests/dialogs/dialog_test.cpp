@@ -5,6 +5,9 @@
 
 #include <afxcmn.h>
 
+#include <memory>
+#include <vector>
+
 #include "controls/ZoButton.h"
 #include "controls/ZoComboBox.h"
 #include "controls/ZoEdit.h"
@@ -26,19 +29,30 @@ namespace {
 class DialogTest : public controltest::ControlTest
 {
 protected:
-    // A modeless dialog on `templateId`, shown.
-    void Open(TestDialog& dialog, UINT templateId)
+    void TearDown() override
     {
-        ASSERT_TRUE(dialog.Create(templateId, parentWnd()));
-        dialog.ShowWindow(SW_SHOW);
-        zotest::PumpUntilIdle(200);
+        for (const auto& dialog : dialogs_)
+            if (dialog->GetSafeHwnd())
+                dialog->DestroyWindow();
+        dialogs_.clear();
+        ControlTest::TearDown();
     }
+    // A modeless dialog on `templateId` at size class `size`, shown; destroyed after the test.
+    TestDialog& Open(UINT templateId, E_ZoMonitorSize size = ZoMonitorSize_Unknown)
+    {
+        dialogs_.push_back(std::make_unique<TestDialog>(templateId, parentWnd(), size));
+        EXPECT_TRUE(dialogs_.back()->Create(templateId, parentWnd()));
+        dialogs_.back()->ShowWindow(SW_SHOW);
+        zotest::PumpUntilIdle(200);
+        return *dialogs_.back();
+    }
+
+    std::vector<std::unique_ptr<TestDialog>> dialogs_;
 };
 
 TEST_F(DialogTest, StyleChangedAtCreation)
 {
-    TestDialog dialog(IDD_TEST_NINE_CLASSES, parentWnd());
-    Open(dialog, IDD_TEST_NINE_CLASSES);
+    TestDialog& dialog = Open(IDD_TEST_NINE_CLASSES);
     // The boxes are the dialog's own: the system is told of none.
     EXPECT_EQ(0u, dialog.GetStyle() & (WS_MINIMIZEBOX | WS_MAXIMIZEBOX));
     EXPECT_NE(0u, dialog.GetStyle() & WS_SYSMENU);
@@ -46,13 +60,11 @@ TEST_F(DialogTest, StyleChangedAtCreation)
     const BorderDim border = dialog.GetBorderDim();
     EXPECT_EQ(2, border.left);
     EXPECT_EQ(22, border.caption);
-    dialog.DestroyWindow();
 }
 
 TEST_F(DialogTest, CloseAnswersAsMaximizeAndAClickPostsClose)
 {
-    TestDialog dialog(IDD_TEST_NINE_CLASSES, parentWnd());
-    Open(dialog, IDD_TEST_NINE_CLASSES);
+    TestDialog& dialog = Open(IDD_TEST_NINE_CLASSES);
     const HWND hWnd = dialog.GetSafeHwnd();
     const CRect close = dialog.GetSysButtonRect(ZoSysButton_Close);
     ASSERT_EQ(CSize(16, 16), close.Size());
@@ -70,13 +82,11 @@ TEST_F(DialogTest, CloseAnswersAsMaximizeAndAClickPostsClose)
     // The platform turns it into IDCANCEL, which ends the dialog.
     zotest::PumpUntilIdle(200);
     EXPECT_FALSE(::IsWindowVisible(hWnd));
-    dialog.DestroyWindow();
 }
 
 TEST_F(DialogTest, MaximizeShowsRestoreInItsNormalState)
 {
-    TestDialog dialog(IDD_TEST_NINE_CLASSES, parentWnd());
-    Open(dialog, IDD_TEST_NINE_CLASSES);
+    TestDialog& dialog = Open(IDD_TEST_NINE_CLASSES);
     const HWND hWnd = dialog.GetSafeHwnd();
     const CRect maximize = dialog.GetSysButtonRect(ZoSysButton_Maximize);
     ASSERT_FALSE(maximize.IsRectEmpty());
@@ -102,13 +112,11 @@ TEST_F(DialogTest, MaximizeShowsRestoreInItsNormalState)
     ::SendMessageW(hWnd, WM_NCLBUTTONDOWN, HTMINBUTTON, at);
     ::SendMessageW(hWnd, WM_NCLBUTTONUP, HTMINBUTTON, at);
     EXPECT_TRUE(dialog.IsIconic());
-    dialog.DestroyWindow();
 }
 
 TEST_F(DialogTest, HoverLightsAButtonAndLeavingResetsIt)
 {
-    TestDialog dialog(IDD_TEST_NINE_CLASSES, parentWnd());
-    Open(dialog, IDD_TEST_NINE_CLASSES);
+    TestDialog& dialog = Open(IDD_TEST_NINE_CLASSES);
     const HWND hWnd = dialog.GetSafeHwnd();
     const LPARAM at = dialogtest::ScreenPointOf(hWnd, dialog.GetSysButtonRect(ZoSysButton_Minimize));
     ::SendMessageW(hWnd, WM_NCMOUSEMOVE, HTMINBUTTON, at);
@@ -122,13 +130,11 @@ TEST_F(DialogTest, HoverLightsAButtonAndLeavingResetsIt)
     zotest::PumpUntilIdle(200);
     EXPECT_TRUE(::IsWindow(hWnd));
     EXPECT_FALSE(dialog.IsIconic());
-    dialog.DestroyWindow();
 }
 
 TEST_F(DialogTest, SystemButtonsFollowTheTemplate)
 {
-    TestDialog closeOnly(IDD_TEST_CLOSE_ONLY, parentWnd());
-    Open(closeOnly, IDD_TEST_CLOSE_ONLY);
+    TestDialog& closeOnly = Open(IDD_TEST_CLOSE_ONLY);
     EXPECT_FALSE(closeOnly.GetSysButtonRect(ZoSysButton_Close).IsRectEmpty());
     EXPECT_TRUE(closeOnly.GetSysButtonRect(ZoSysButton_Maximize).IsRectEmpty());
     EXPECT_TRUE(closeOnly.GetSysButtonRect(ZoSysButton_Minimize).IsRectEmpty());
@@ -136,8 +142,7 @@ TEST_F(DialogTest, SystemButtonsFollowTheTemplate)
     closeOnly.DestroyWindow();
 
     // No system menu: no buttons, the caption's right end is caption.
-    TestDialog plain(IDD_TEST_NO_SYSMENU, parentWnd());
-    Open(plain, IDD_TEST_NO_SYSMENU);
+    TestDialog& plain = Open(IDD_TEST_NO_SYSMENU);
     CRect window;
     plain.GetWindowRect(&window);
     EXPECT_TRUE(plain.GetSysButtonRect(ZoSysButton_Close).IsRectEmpty());
@@ -146,12 +151,10 @@ TEST_F(DialogTest, SystemButtonsFollowTheTemplate)
     plain.DestroyWindow();
 
     // Neither caption nor system menu: no caption is painted or hit.
-    TestDialog bare(IDD_TEST_BARE, parentWnd());
-    Open(bare, IDD_TEST_BARE);
+    TestDialog& bare = Open(IDD_TEST_BARE);
     EXPECT_EQ(0, bare.GetBorderDim().caption);
     EXPECT_TRUE(bare.GetSysButtonRect(ZoSysButton_Close).IsRectEmpty());
     bare.RedrawWindow(NULL, NULL, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
-    bare.DestroyWindow();
 }
 
 // Window classes, in the order they are skinned, with the class each becomes.
@@ -163,8 +166,7 @@ struct SkinnedCase
 
 TEST_F(DialogTest, EveryClassIsSkinned)
 {
-    TestDialog dialog(IDD_TEST_NINE_CLASSES, parentWnd());
-    Open(dialog, IDD_TEST_NINE_CLASSES);
+    TestDialog& dialog = Open(IDD_TEST_NINE_CLASSES);
     const SkinnedCase cases[] = {
         {IDC_TEST_STATIC, RUNTIME_CLASS(CZoStatic)},    {IDC_TEST_BUTTON, RUNTIME_CLASS(CZoButton)},
         {IDC_TEST_CHECK, RUNTIME_CLASS(CZoButton)},     {IDC_TEST_PROGRESS, RUNTIME_CLASS(CZoProgressCtrl)},
@@ -183,7 +185,6 @@ TEST_F(DialogTest, EveryClassIsSkinned)
     const HWND edit = ::GetDlgItem(dialog.GetSafeHwnd(), IDC_TEST_EDIT);
     dialog.SendMessage(WM_DESTROY);
     EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(edit));
-    dialog.DestroyWindow();
 }
 
 // A host that attaches two controls itself, one through data exchange.
@@ -228,15 +229,13 @@ class DialogScaling : public DialogTest, public testing::WithParamInterface<Scal
 TEST_P(DialogScaling, ScalesOnceAboutTheCentre)
 {
     // The same template at the normal size class gives the design sizes.
-    TestDialog design(IDD_TEST_NINE_CLASSES, parentWnd(), ZoMonitorSize_Normal);
-    Open(design, IDD_TEST_NINE_CLASSES);
+    TestDialog& design = Open(IDD_TEST_NINE_CLASSES, ZoMonitorSize_Normal);
     CRect designWindow;
     design.GetWindowRect(&designWindow);
     const CRect designEdit = dialogtest::ChildRect(design.GetSafeHwnd(), IDC_TEST_EDIT);
     design.DestroyWindow();
 
-    TestDialog dialog(IDD_TEST_NINE_CLASSES, parentWnd(), GetParam().size);
-    Open(dialog, IDD_TEST_NINE_CLASSES);
+    TestDialog& dialog = Open(IDD_TEST_NINE_CLASSES, GetParam().size);
     const float z = GetParam().zoom;
     CRect window;
     dialog.GetWindowRect(&window);
@@ -256,7 +255,6 @@ TEST_P(DialogScaling, ScalesOnceAboutTheCentre)
     CRect again;
     dialog.GetWindowRect(&again);
     EXPECT_EQ(window, again);
-    dialog.DestroyWindow();
 }
 
 INSTANTIATE_TEST_SUITE_P(SizeClasses, DialogScaling,
@@ -265,8 +263,7 @@ INSTANTIATE_TEST_SUITE_P(SizeClasses, DialogScaling,
 
 TEST_F(DialogTest, BackgroundsAndStaticColours)
 {
-    TestDialog dialog(IDD_TEST_NINE_CLASSES, parentWnd());
-    Open(dialog, IDD_TEST_NINE_CLASSES);
+    TestDialog& dialog = Open(IDD_TEST_NINE_CLASSES);
     const HWND hWnd = dialog.GetSafeHwnd();
     zotest::Dib dib(400, 400);
     EXPECT_TRUE(::SendMessageW(hWnd, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dib.dc()), 0));
@@ -287,13 +284,11 @@ TEST_F(DialogTest, BackgroundsAndStaticColours)
     EXPECT_NE(brush, editBrush);
     EXPECT_EQ(brush, ::SendMessageW(hWnd, WM_CTLCOLORDLG, reinterpret_cast<WPARAM>(dib.dc()),
                                     reinterpret_cast<LPARAM>(hWnd)));
-    dialog.DestroyWindow();
 }
 
 TEST_F(DialogTest, CaptionBarAndCloseCellPainted)
 {
-    TestDialog dialog(IDD_TEST_CLOSE_ONLY, parentWnd());
-    Open(dialog, IDD_TEST_CLOSE_ONLY);
+    TestDialog& dialog = Open(IDD_TEST_CLOSE_ONLY);
     dialog.SetWindowText(L"");
     dialog.RedrawWindow(NULL, NULL, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
     CWindowDC windowDC(&dialog);
@@ -306,17 +301,14 @@ TEST_F(DialogTest, CaptionBarAndCloseCellPainted)
     ZOTEST_EXPECT_PIXEL(shown, border.left + 3, border.top + 3, Slot(ZoDialogColor_Caption));
     ZOTEST_EXPECT_PIXEL(shown, 0, 0, Slot(ZoDialogColor_FrameLine));
     // The close cell's pixels are the strip's cell (column 0, row 2).
-    HBITMAP strip = controltest::LoadLibraryBitmap(L"BMP_ZO_DLGSYSBTNS");
-    ASSERT_NE(nullptr, strip);
-    const zotest::Dib cell = controltest::StretchedCell(strip, 4, 4, 0, 2, 16, 16, Slot(ZoDialogColor_Caption));
-    ::DeleteObject(strip);
+    const zotest::Dib cell =
+        controltest::StretchedCell(Strip(L"BMP_ZO_DLGSYSBTNS"), 4, 4, 0, 2, 16, 16, Slot(ZoDialogColor_Caption));
     EXPECT_TRUE(controltest::AreaMatches(shown, close, cell));
     // The client area starts below the painted caption bar.
     CRect client;
     dialog.GetClientRect(&client);
     dialog.MapWindowPoints(NULL, &client);
     EXPECT_GE(client.top - window.top, border.top + border.caption);
-    dialog.DestroyWindow();
 }
 
 TEST_F(DialogTest, NoGrowthOverOpenCloseCycles)

@@ -58,6 +58,14 @@ void CALLBACK rescue(HWND, UINT, UINT_PTR id, DWORD)
     }
 }
 
+// The visible top-level dialog of this thread, or null.
+HWND FindShownDialog()
+{
+    HWND found = NULL;
+    ::EnumThreadWindows(::GetCurrentThreadId(), findShown, reinterpret_cast<LPARAM>(&found));
+    return found;
+}
+
 void CALLBACK poll(HWND, UINT, UINT_PTR id, DWORD)
 {
     const HWND box = FindShownDialog();
@@ -148,12 +156,6 @@ void ExpectNoMoreGrowthThanPlatform(int cycles, const std::function<void()>& pla
         << ours.report << " / platform: " << platform.report;
 }
 
-HWND FindShownDialog()
-{
-    HWND found = NULL;
-    ::EnumThreadWindows(::GetCurrentThreadId(), findShown, reinterpret_cast<LPARAM>(&found));
-    return found;
-}
 
 LPARAM ScreenPointOf(HWND window, const RECT& inWindow)
 {

@@ -55,9 +55,6 @@ void HostIdleTime();
 void ExpectNoMoreGrowthThanPlatform(int cycles, const std::function<void()>& platformCycle,
                                     const std::function<void()>& cycle);
 
-// The visible top-level dialog of this thread, or null.
-HWND FindShownDialog();
-
 // A point of a window-coordinate rectangle's centre, in screen coordinates, as LPARAM.
 LPARAM ScreenPointOf(HWND window, const RECT& inWindow);
 

@@ -63,8 +63,9 @@ class MessageBoxTypes : public MessageBoxTest, public testing::WithParamInterfac
 {
 };
 
-// Each button shown has its caption and gives its result; the removed ones are gone.
-TEST_P(MessageBoxTypes, CaptionsAndResultsPerButton)
+// Each button shown has its caption and gives its result, the removed ones are gone; Escape and
+// the time-out (the right button's result) end the box too.
+TEST_P(MessageBoxTypes, CaptionsAndResultsPerButtonEscapeAndTimeOut)
 {
     const UINT type = GetParam().type;
     const ZoMsgBoxTypeRule rule = ZoMessageBoxTypeRule(type);
@@ -88,14 +89,8 @@ TEST_P(MessageBoxTypes, CaptionsAndResultsPerButton)
             }
         }
     }
-}
-
-TEST_P(MessageBoxTypes, EscapeAndTimeOut)
-{
-    const UINT type = GetParam().type;
     DriveModal([](HWND) { PostKey(VK_ESCAPE); });
     EXPECT_EQ(ZoMessageBoxTypeRule(type).escape, ZoMessageBox(parentWnd(), type, L"Escape"));
-    // The time-out gives the right button's result.
     DriveModal([](HWND) {});
     EXPECT_EQ(ZoMessageBoxTypeRule(type).results[0], TimedMessageBox(parentWnd(), 1, type, L"Waiting"));
 }

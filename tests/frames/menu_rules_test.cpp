@@ -7,18 +7,14 @@
 using namespace ZoControls;
 using namespace ZoControls::ZoMenu_Internals;
 
-TEST(MenuItemData, PacksHeightAcceleratorAndTextIntoTheirBits)
+TEST(MenuItemData, PacksHeightAcceleratorAndTextIntoBitsOfTheirWidth)
 {
     EXPECT_EQ(PackItemData(22, 40, 300), 22u | (40u << 8) | (300u << 16));
     const DWORD data = PackItemData(22, 40, 300);
     EXPECT_EQ(ItemDataHeight(data), 22);
     EXPECT_EQ(ItemDataAccelWidth(data), 40);
     EXPECT_EQ(ItemDataTextWidth(data), 300);
-}
-
-TEST(MenuItemData, EachFieldKeepsOnlyTheBitsOfItsWidth)
-{
-    // An accelerator text 260 px wide keeps its low 8 bits: 4.
+    // Each field keeps only the bits of its width: an accelerator text 260 px wide keeps its low 8 bits: 4.
     EXPECT_EQ(ItemDataAccelWidth(PackItemData(20, 260, 10)), 4);
     EXPECT_EQ(ItemDataHeight(PackItemData(256 + 7, 0, 0)), 7);
     EXPECT_EQ(ItemDataTextWidth(PackItemData(0, 0, 0x12345)), 0x2345);
@@ -77,10 +73,7 @@ TEST(MenuMnemonic, AmpersandBeforeTheLetter)
     EXPECT_FALSE(TextHasMnemonic(L"OPEN&", L'O'));
     EXPECT_FALSE(TextHasMnemonic(L"", L'O'));
     EXPECT_FALSE(TextHasMnemonic(nullptr, L'O'));
-}
-
-TEST(MenuMnemonic, DoubledAmpersandIsLiteral)
-{
+    // A doubled ampersand is literal.
     EXPECT_FALSE(TextHasMnemonic(L"R&&D", L'D'));
     EXPECT_TRUE(TextHasMnemonic(L"R&&D &X", L'X'));
 }

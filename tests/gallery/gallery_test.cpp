@@ -1,7 +1,6 @@
 // Every gallery page opens, paints (through WM_PRINTCLIENT and through the gallery's own capture
 // code) and closes, leaving no GDI object or window behind.
 #include <afxwin.h>
-#include <gdiplus.h>
 
 #include <gtest/gtest.h>
 #include <zotest/zotest.h>
@@ -10,6 +9,7 @@
 
 #include "GalleryCapture.h"
 #include "GalleryPage.h"
+#include "gallery_test_support.h"
 #include "ZoCtrl.h"
 
 namespace {
@@ -19,20 +19,13 @@ class GalleryPageTest : public testing::TestWithParam<int>
 protected:
     void SetUp() override
     {
-        static ULONG_PTR token = 0;
-        if (!token) {
-            Gdiplus::GdiplusStartupInput input;
-            Gdiplus::GdiplusStartup(&token, &input, nullptr);
-        }
-        ASSERT_TRUE(InitializeZoCtrl());
-        parent_.Reset(zotest::CreateSolidWindow(RECT{0, 0, 1040, 860}, RGB(10, 200, 30)));
+        ASSERT_TRUE(library_.Started());
         ASSERT_TRUE(parent_.get());
     }
     void TearDown() override
     {
         parent_.Reset();
         zotest::PumpUntilIdle(200);
-        UninitializeZoCtrl();
     }
 
     const GalleryPageEntry& Entry() const
@@ -61,7 +54,8 @@ protected:
         zotest::PumpUntilIdle();
     }
 
-    zotest::ScopedWindow parent_;
+    ScopedGalleryLibrary library_;
+    zotest::ScopedWindow parent_{zotest::CreateSolidWindow(RECT{0, 0, 1040, 860}, RGB(10, 200, 30))};
 };
 
 std::wstring TempBitmapPath()

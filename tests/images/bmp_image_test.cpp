@@ -77,33 +77,6 @@ protected:
     imagetest::ScopedZoCtrl zo_;
 };
 
-TEST_F(BmpImageTest, SizeClassVariantsOfSystemButtons)
-{
-    const struct {
-        E_ZoMonitorSize size;
-        int extent;
-    } cases[] = {{ZoMonitorSize_Normal, 64}, {ZoMonitorSize_3M, 72}, {ZoMonitorSize_5M, 96}, {ZoMonitorSize_Unknown, 64}};
-    for (const auto& c : cases) {
-        CZoResourceBMPImage image;
-        ASSERT_TRUE(image.LoadResourceImage(L"BMP_ZO_DLGSYSBTNS", c.size, 1, 1)) << "size " << c.size;
-        EXPECT_EQ(image.GetWidth(), c.extent) << "size " << c.size;
-        EXPECT_EQ(image.GetHeight(), c.extent) << "size " << c.size;
-        EXPECT_TRUE(image.IsLoaded());
-    }
-}
-
-TEST_F(BmpImageTest, StripWithoutVariantsFallsBackToNormal)
-{
-    for (int size = 0; size < 3; ++size) {
-        CZoResourceBMPImage image;
-        ASSERT_TRUE(image.LoadResourceImage(L"BMP_ZO_EDIT", static_cast<E_ZoMonitorSize>(size), 12, 9));
-        EXPECT_EQ(image.GetWidth(), 36);
-        EXPECT_EQ(image.GetHeight(), 27);
-        EXPECT_EQ(image.GetUnitWidth(), 3);
-        EXPECT_EQ(image.GetUnitHeight(), 3);
-    }
-}
-
 TEST_F(BmpImageTest, MissingResourceStaysUnloadedAndDrawsNothing)
 {
     CZoResourceBMPImage image;
@@ -175,6 +148,7 @@ TEST_P(CellCopyTest, EveryCellCopiesItsSourceRectangle)
 INSTANTIATE_TEST_SUITE_P(
     Strips, CellCopyTest,
     ::testing::Values(StripCase{L"BMP_ZO_HEADERSORT", L"BMP_ZO_HEADERSORT", ZoMonitorSize_Normal, 4, 2},
+                      StripCase{L"BMP_ZO_EDIT", L"BMP_ZO_EDIT", ZoMonitorSize_3M, 12, 9},
                       StripCase{L"BMP_ZO_EDIT", L"BMP_ZO_EDIT", ZoMonitorSize_5M, 12, 9},
                       StripCase{L"BMP_ZO_TABBTN_TOP", L"BMP_ZO_TABBTN_TOP", ZoMonitorSize_Normal, 12, 6},
                       StripCase{L"BMP_ZO_DLGSYSBTNS", L"BMP_ZO_DLGSYSBTNS", ZoMonitorSize_Normal, 4, 4},
@@ -209,22 +183,13 @@ TEST_F(BmpImageTest, StretchedCellFillsItsDestination)
 
 // ---- lower stretching -----------------------------------------------------------------------
 
-class LowerStretchTest : public BmpImageTest
+TEST_F(BmpImageTest, LowerStretchingKeepsTheUpperRowsAndRunsTheLastEightRowsBelow)
 {
-protected:
-    // Four rows in four colours; the third row carries a key pixel in its first column.
-    LowerStretchTest()
-        : image_(imagetest::MakeStripedBitmap(4, {RGB(200, 0, 0), RGB(0, 200, 0), RGB(0, 0, 200), RGB(90, 90, 0)}),
-                 true)
-    {
-    }
-    CZoResourceBMPImage image_;
-};
-
-TEST_F(LowerStretchTest, UpperRowsKeepHeightLastRowRunsEightRowsBelow)
-{
+    // Four rows in four colours.
+    CZoResourceBMPImage image(
+        imagetest::MakeStripedBitmap(4, {RGB(200, 0, 0), RGB(0, 200, 0), RGB(0, 0, 200), RGB(90, 90, 0)}), true);
     DibCanvas canvas(30, 50);
-    image_.DrawImageLowerStretching(canvas.dc(), 10, 10, 8, 12, 0, 0, 4, 4, kMagenta);
+    image.DrawImageLowerStretching(canvas.dc(), 10, 10, 8, 12, 0, 0, 4, 4, kMagenta);
     ZOTEST_EXPECT_FILL(canvas.dib(), (RECT{10, 10, 18, 11}), RGB(200, 0, 0));
     ZOTEST_EXPECT_FILL(canvas.dib(), (RECT{10, 11, 18, 12}), RGB(0, 200, 0));
     ZOTEST_EXPECT_FILL(canvas.dib(), (RECT{10, 12, 18, 13}), RGB(0, 0, 200));
@@ -233,7 +198,7 @@ TEST_F(LowerStretchTest, UpperRowsKeepHeightLastRowRunsEightRowsBelow)
     ZOTEST_EXPECT_BOUNDS(canvas.dib(), zotest::kUnpainted, (RECT{10, 10, 18, 29}));
 }
 
-TEST_F(LowerStretchTest, KeyColourLeftOutAndStretchModeRestored)
+TEST_F(BmpImageTest, LowerStretchingLeavesTheKeyColourOutAndRestoresTheStretchMode)
 {
     HBITMAP bitmap = imagetest::MakeStripedBitmap(3, {RGB(10, 10, 10), kMagenta});
     CZoResourceBMPImage image(bitmap, true);

@@ -136,19 +136,13 @@ TEST_F(PngTest, ThirdStateWithTwoColoursComposesOverBlack)
     EXPECT_EQ(store().GetImageData(picture, static_cast<E_ToolButtonStates>(-1)), nullptr);
 }
 
-TEST_F(PngTest, ColourQueueIsEmptiedByEachComposition)
+// A composition empties the colour queue, and counts below one queue nothing: the next
+// composition has no colour and goes over black.
+TEST_F(PngTest, ColourQueueIsEmptiedByEachCompositionAndNonPositiveCountsQueueNothing)
 {
     const StoredPicture picture(imagetest::MakePicture(1, 1, {kClear}));
     store().SetBackGroundColor(RGB(1, 2, 3), 2);
     store().SetImageData(picture, 1);
-    // The second colour was dropped with the queue: the next composition has none.
-    store().SetImageData(picture, 1);
-    EXPECT_EQ(BufferPixel(store().GetImageData(picture, ToolButton_Normal), 0), 0xFF000000u);
-}
-
-TEST_F(PngTest, NonPositiveCountsQueueNothing)
-{
-    const StoredPicture picture(imagetest::MakePicture(1, 1, {kClear}));
     const COLORREF white = RGB(255, 255, 255);
     store().SetBackGroundColor(white, 0);
     store().SetBackGroundColor(white, -4);
@@ -253,7 +247,9 @@ TEST_F(PngTest, ThemeGroupColoursPerState)
     }
 }
 
-TEST_F(PngTest, DestroyingTheImageReleasesItsEntry)
+// Destroying an image or loading another picture into it releases the old picture's entry; a
+// reload deletes the old picture whatever the flag said.
+TEST_F(PngTest, DestroyingOrReloadingTheImageReleasesItsEntry)
 {
     HBITMAP picture = imagetest::MakePicture(1, 1, {kHalf});
     {
@@ -263,17 +259,11 @@ TEST_F(PngTest, DestroyingTheImageReleasesItsEntry)
     }
     EXPECT_EQ(store().GetImageData(picture, ToolButton_Normal), nullptr);
     EXPECT_EQ(GetObjectType(picture), static_cast<DWORD>(OBJ_BITMAP));
-    DeleteObject(picture);
-}
-
-TEST_F(PngTest, ReloadReleasesTheOldPicturesEntry)
-{
-    HBITMAP picture = imagetest::MakePicture(1, 1, {kHalf});
     CZoResourcePNGImage image(picture, false);
     image.SetBackgroundColor(RGB(0, 0, 0));
     ASSERT_NE(store().GetImageData(picture, ToolButton_Normal), nullptr);
     ASSERT_TRUE(image.LoadResourceImage(kCheckRadioPng, 4, 5));
-    EXPECT_EQ(GetObjectType(picture), 0u); // deleted whatever the flag said
+    EXPECT_EQ(GetObjectType(picture), 0u);
 }
 
 // ---- lifetime -------------------------------------------------------------------------------

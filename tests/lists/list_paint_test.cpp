@@ -5,6 +5,8 @@
 
 #include <zotest/zotest.h>
 
+#include <cstdlib>
+
 using namespace ZoControls;
 using controltest::Slot;
 using listtest::ListTest;
@@ -94,51 +96,38 @@ TEST_F(ListPaintTest, CellTextFollowsItsColumnsAlignment)
     EXPECT_EQ(inkLeft(), left);
 }
 
-// Cell places are read afresh by every paint: a column made wider draws its grid line further.
-TEST_F(ListPaintTest, CellsFollowAColumnWidthChangedBetweenPaints)
+// Cell places are read afresh by every paint: a column width changed through the list or on the
+// header itself, or a sideways scroll, between two paints, and the grid line is drawn anew.
+TEST_F(ListPaintTest, CellsFollowWidthsAndScrollingChangedBetweenPaints)
 {
-    CZoListCtrl& list = MakeList(0, kRows);
-    const CRect before = Label(2, 1);
-    ZOTEST_EXPECT_PIXEL(zotest::RenderClient(list.GetSafeHwnd()), before.right - 1, before.CenterPoint().y,
-                        Slot(kGrid));
-    list.SetColumnWidth(1, 160);
-    const CRect after = Label(2, 1);
-    ASSERT_GT(after.right, before.right + 20);
-    const zotest::Dib dib = zotest::RenderClient(list.GetSafeHwnd());
-    ZOTEST_EXPECT_PIXEL(dib, after.right - 1, after.CenterPoint().y, Slot(kGrid));
-    ZOTEST_EXPECT_PIXEL(dib, before.right - 1, before.CenterPoint().y, Slot(kBackground));
-}
-
-// A width changed on the header itself, not through the list, moves the cells all the same.
-TEST_F(ListPaintTest, CellsFollowAWidthChangedOnTheHeader)
-{
-    CZoListCtrl& list = MakeList(0, kRows);
-    const CRect before = Label(2, 1);
-    zotest::RenderClient(list.GetSafeHwnd());
-    HDITEMW item = {};
-    item.mask = HDI_WIDTH;
-    item.cxy = 40;
-    ASSERT_TRUE(::SendMessageW(header(), HDM_SETITEMW, 1, reinterpret_cast<LPARAM>(&item)));
-    const CRect after = Label(2, 1);
-    ASSERT_EQ(after.right, before.right - 60);
-    const zotest::Dib dib = zotest::RenderClient(list.GetSafeHwnd());
-    ZOTEST_EXPECT_PIXEL(dib, after.right - 1, after.CenterPoint().y, Slot(kGrid));
-    ZOTEST_EXPECT_PIXEL(dib, before.right - 1, before.CenterPoint().y, Slot(kBackground));
-}
-
-// Scrolled sideways between two paints, the cells are drawn where the list now has them.
-TEST_F(ListPaintTest, CellsFollowAHorizontalScrollBetweenPaints)
-{
-    CZoListCtrl& list = MakeList(0, kRows);
-    list.SetColumnWidth(2, 900);
-    const CRect before = Label(2, 1);
-    zotest::RenderClient(list.GetSafeHwnd());
-    list.Scroll(CSize(50, 0));
-    const CRect after = Label(2, 1);
-    ASSERT_LT(after.right, before.right);
-    const zotest::Dib dib = zotest::RenderClient(list.GetSafeHwnd());
-    ZOTEST_EXPECT_PIXEL(dib, after.right - 1, after.CenterPoint().y, Slot(kGrid));
-    ZOTEST_EXPECT_PIXEL(dib, before.right - 1, before.CenterPoint().y, Slot(kBackground));
+    const struct
+    {
+        const char* change;
+        void (*apply)(CZoListCtrl& list, HWND header);
+    } cases[] = {
+        {"list width", [](CZoListCtrl& list, HWND) { list.SetColumnWidth(1, 160); }},
+        {"header width",
+         [](CZoListCtrl&, HWND header) {
+             HDITEMW item = {};
+             item.mask = HDI_WIDTH;
+             item.cxy = 40;
+             ::SendMessageW(header, HDM_SETITEMW, 1, reinterpret_cast<LPARAM>(&item));
+         }},
+        {"scroll", [](CZoListCtrl& list, HWND) { list.Scroll(CSize(50, 0)); }},
+    };
+    for (const auto& c : cases) {
+        CZoListCtrl& list = MakeList(0, kRows);
+        list.SetColumnWidth(2, 900); // room to scroll sideways
+        const CRect before = Label(2, 1);
+        zotest::RenderClient(list.GetSafeHwnd());
+        c.apply(list, header());
+        const CRect after = Label(2, 1);
+        ASSERT_GT(std::abs(after.right - before.right), 20) << c.change;
+        const zotest::Dib dib = zotest::RenderClient(list.GetSafeHwnd());
+        ZOTEST_EXPECT_PIXEL(dib, after.right - 1, after.CenterPoint().y, Slot(kGrid)) << c.change;
+        ZOTEST_EXPECT_PIXEL(dib, before.right - 1, before.CenterPoint().y, Slot(kBackground)) << c.change;
+        list.DestroyWindow();
+    }
 }
 
 TEST_F(ListPaintTest, ColumnZeroDrawsTheSmallImageAndCheckBoxes)
@@ -177,20 +166,6 @@ TEST_F(ListPaintTest, ColumnZeroDrawsTheSmallImageAndCheckBoxes)
 class HeaderPaintTest : public ListPaintTest
 {
 protected:
-    void SetUp() override
-    {
-        ListPaintTest::SetUp();
-        strip_ = controltest::LoadLibraryBitmap(L"BMP_ZO_HEADER");
-        arrows_ = controltest::LoadLibraryBitmap(L"BMP_ZO_HEADERSORT");
-        ASSERT_NE(strip_, nullptr);
-        ASSERT_NE(arrows_, nullptr);
-    }
-    void TearDown() override
-    {
-        ::DeleteObject(strip_);
-        ::DeleteObject(arrows_);
-        ListPaintTest::TearDown();
-    }
     CRect Item(int index)
     {
         CRect rect;
@@ -207,8 +182,8 @@ protected:
     }
     POINT Centre(int index) { return Item(index).CenterPoint(); }
 
-    HBITMAP strip_ = nullptr;
-    HBITMAP arrows_ = nullptr;
+    HBITMAP strip_ = Strip(L"BMP_ZO_HEADER");
+    HBITMAP arrows_ = Strip(L"BMP_ZO_HEADERSORT");
 };
 
 TEST_F(HeaderPaintTest, ItemsAndTheEmptyAreaFromTheSkin)
@@ -260,29 +235,24 @@ TEST_F(HeaderPaintTest, SortArrowFromTheSkinForEachDirection)
                                      controltest::kMagenta));
 }
 
-TEST_F(HeaderPaintTest, HotAndPressedItems)
+// Hot and pressed items, but none on a header that does not sort.
+TEST_F(HeaderPaintTest, HotAndPressedItemsOnlyWhereClicksSort)
 {
-    MakeList();
-    ::SendMessageW(header(), WM_MOUSEMOVE, 0, MAKELPARAM(Centre(1).x, Centre(1).y));
-    EXPECT_TRUE(ItemIn(1, 1));
-    EXPECT_TRUE(ItemIn(0, 0));
-    ::SendMessageW(header(), WM_MOUSELEAVE, 0, 0);
-    EXPECT_TRUE(ItemIn(1, 0));
-
-    ::SendMessageW(header(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(Centre(2).x, Centre(2).y));
-    EXPECT_TRUE(ItemIn(2, 3));
-    ::SendMessageW(header(), WM_LBUTTONUP, 0, MAKELPARAM(Centre(2).x, Centre(2).y));
-    EXPECT_TRUE(ItemIn(2, 0));
-}
-
-TEST_F(HeaderPaintTest, NoSortHeaderShowsNoHotOrPressedItems)
-{
-    MakeList(LVS_NOSORTHEADER);
-    ::SendMessageW(header(), WM_MOUSEMOVE, 0, MAKELPARAM(Centre(1).x, Centre(1).y));
-    EXPECT_TRUE(ItemIn(1, 0));
-    ::SendMessageW(header(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(Centre(1).x, Centre(1).y));
-    EXPECT_TRUE(ItemIn(1, 0));
-    ::ReleaseCapture();
+    for (const DWORD style : {DWORD(0), DWORD(LVS_NOSORTHEADER)}) {
+        const bool sorts = style == 0;
+        MakeList(style);
+        ::SendMessageW(header(), WM_MOUSEMOVE, 0, MAKELPARAM(Centre(1).x, Centre(1).y));
+        EXPECT_TRUE(ItemIn(1, sorts ? 1 : 0)) << style;
+        EXPECT_TRUE(ItemIn(0, 0));
+        ::SendMessageW(header(), WM_MOUSELEAVE, 0, 0);
+        EXPECT_TRUE(ItemIn(1, 0));
+        ::SendMessageW(header(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(Centre(2).x, Centre(2).y));
+        EXPECT_TRUE(ItemIn(2, sorts ? 3 : 0)) << style;
+        ::SendMessageW(header(), WM_LBUTTONUP, 0, MAKELPARAM(Centre(2).x, Centre(2).y));
+        EXPECT_TRUE(ItemIn(2, 0));
+        ::ReleaseCapture();
+        list_->DestroyWindow();
+    }
 }
 
 TEST_F(HeaderPaintTest, LosingTheMouseEndsThePressWithoutSorting)

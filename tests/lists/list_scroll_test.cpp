@@ -105,7 +105,7 @@ TEST_F(ListScrollTest, BarsFollowEveryChangeOfTheScrollState)
     }
 }
 
-TEST_F(ListScrollTest, BarArrowsAndPagesScrollTheList)
+TEST_F(ListScrollTest, BarArrowsPagesAndEnsureVisibleScrollTheList)
 {
     CZoListCtrl& list = MakeList();
     Fill(100);
@@ -116,12 +116,8 @@ TEST_F(ListScrollTest, BarArrowsAndPagesScrollTheList)
     zotest::SendClick(vert->GetSafeHwnd(), vert->GetPartRect(CZoScrollBar::SBHit_PageAfter).CenterPoint());
     EXPECT_EQ(list.GetTopIndex(), 1 + list.GetCountPerPage());
     EXPECT_TRUE(BarMirrorsList(list, true));
-}
 
-TEST_F(ListScrollTest, EnsureVisibleAlwaysMakesTheItemTheLastVisibleRow)
-{
-    CZoListCtrl& list = MakeList();
-    Fill(100);
+    // LVM_ENSUREVISIBLE always makes the item the last visible row.
     const int page = list.GetCountPerPage();
     ASSERT_GT(page, 3);
     EXPECT_TRUE(list.EnsureVisible(50, FALSE));

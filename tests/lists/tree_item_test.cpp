@@ -95,24 +95,21 @@ TEST(TreeItem, OnlyTheLastAppendedChildIsFlaggedLast)
     EXPECT_FALSE(root.HasNoChildren());
 }
 
-TEST(TreeItem, DeletingTheLastChildLeavesTheOthersFlagsAsTheyWere)
-{
-    SmallTree tree;
-    EXPECT_EQ(tree.root.DeleteChildItem(tree.b), 1);
-    EXPECT_EQ(ChildTexts(tree.root), L"a");
-    EXPECT_EQ(LastFlags(tree.root), L"0");
-    EXPECT_EQ(tree.a->DeleteChildItem(tree.a1), 1);
-    EXPECT_EQ(LastFlags(*tree.a), L"1");
-}
-
-TEST(TreeItem, DeletingWhatIsNoChildDeletesNothing)
+TEST(TreeItem, DeletingAChildLeavesTheOthersFlagsAsTheyWereAndWhatIsNoChildStays)
 {
     SmallTree tree;
     CZoTreeListCtrlItem stray(&tree.root, -1); // names the root as parent but was never inserted
     for (CZoTreeListCtrlItem* node : {static_cast<CZoTreeListCtrlItem*>(nullptr), tree.a1, &stray})
         EXPECT_EQ(tree.root.DeleteChildItem(node), 0);
-    EXPECT_EQ(ChildTexts(tree.root), L"a b");
     EXPECT_EQ(ChildTexts(*tree.a), L"a1 a2");
+    EXPECT_EQ(tree.root.DeleteChildItem(tree.b), 1);
+    EXPECT_EQ(ChildTexts(tree.root), L"a");
+    EXPECT_EQ(LastFlags(tree.root), L"0");
+    EXPECT_EQ(tree.a->DeleteChildItem(tree.a1), 1);
+    EXPECT_EQ(LastFlags(*tree.a), L"1");
+    // A node deleted directly leaves its parent's list.
+    delete tree.a2;
+    EXPECT_TRUE(tree.a->HasNoChildren());
 }
 
 TEST(TreeItem, ANodeJoinsOneListOnlyAndNeverBelowItself)
@@ -125,13 +122,6 @@ TEST(TreeItem, ANodeJoinsOneListOnlyAndNeverBelowItself)
     EXPECT_TRUE(tree.b->HasNoChildren());
     EXPECT_TRUE(tree.a1->HasNoChildren());
     EXPECT_EQ(ChildTexts(*tree.a), L"a1 a2");
-}
-
-TEST(TreeItem, ANodeDeletedDirectlyLeavesItsParentsList)
-{
-    SmallTree tree;
-    delete tree.a1;
-    EXPECT_EQ(ChildTexts(*tree.a), L"a2");
 }
 
 TEST(TreeItem, ClearDeletesTheChildrenAndForgetsTheNodesTexts)

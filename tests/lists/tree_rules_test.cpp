@@ -104,12 +104,7 @@ TEST(TreeRowIndex, OutOfRangeAndUnknownNodesGiveNothing)
     EXPECT_EQ(index.Find(&b, 0), -1);
     EXPECT_EQ(index.Find(nullptr, 0), -1);
     EXPECT_EQ(index.Find(&a, -3), 0);
-}
-
-TEST(TreeRowIndex, ANodeInTwoRowsIsFoundFromTheStartRowOn)
-{
-    CZoTreeListCtrlItem a, b;
-    CZoTreeRowIndex index;
+    // A node in two rows is found from the start row on.
     index.Assign({&a, &b, &a});
     EXPECT_EQ(index.Find(&a, 0), 0);
     EXPECT_EQ(index.Find(&a, 1), 2);

@@ -148,7 +148,7 @@ zotest::ExpectedMessage Posted(WPARAM code, LPARAM lParam)
 
 // --- Building ------------------------------------------------------------------------------------
 
-TEST_F(TreeTest, InsertedNodesFollowTheirParentsSubtrees)
+TEST_F(TreeTest, InsertedNodesFollowTheirParentsSubtreesWithExpandersForLevelAndState)
 {
     MakeTree();
     BuildSample();
@@ -165,12 +165,7 @@ TEST_F(TreeTest, InsertedNodesFollowTheirParentsSubtrees)
     EXPECT_FALSE(tree_->IsRootItemOfTreeList(b1_));
     EXPECT_TRUE(tree_->IsExpand(a_));
     EXPECT_TRUE(RowsInStep());
-}
-
-TEST_F(TreeTest, ExpanderImagesTellLevelAndState)
-{
-    MakeTree();
-    BuildSample();
+    // The expander images tell level and state.
     auto image = [this](DWORD_PTR node) {
         LVITEMW item = {};
         item.iItem = RowOf(node);

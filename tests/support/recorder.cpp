@@ -88,40 +88,14 @@ std::vector<RecordedMessage> RelevantMessages(const MessageRecorder& recorder, c
     return relevant;
 }
 
-// Whether expected[i..] can consume actual[j..] exactly, skipping optional rows as needed.
-bool SequenceMatches(const std::vector<ExpectedMessage>& expected, const std::vector<RecordedMessage>& actual)
-{
-    const size_t rows = expected.size(), columns = actual.size();
-    // reachable[i][j]: expected[i..] matches actual[j..]; filled from the end.
-    std::vector<std::vector<char>> reachable(rows + 1, std::vector<char>(columns + 1, 0));
-    reachable[rows][columns] = 1;
-    for (size_t i = rows; i-- > 0;) {
-        for (size_t j = columns + 1; j-- > 0;) {
-            bool ok = (expected[i].flags & optional) && reachable[i + 1][j];
-            if (!ok && j < columns && Matches(expected[i], actual[j]))
-                ok = reachable[i + 1][j + 1] != 0;
-            reachable[i][j] = ok;
-        }
-    }
-    return reachable[0][0] != 0;
-}
-
-// Where a straightforward walk first goes wrong: the indices shown with the report.
+// The first row where the table and the messages part (both sizes when they match).
 std::pair<size_t, size_t> FirstDifference(const std::vector<ExpectedMessage>& expected,
                                           const std::vector<RecordedMessage>& actual)
 {
-    size_t i = 0, j = 0;
-    while (i < expected.size()) {
-        if (j < actual.size() && Matches(expected[i], actual[j])) {
-            ++i;
-            ++j;
-        } else if (expected[i].flags & optional) {
-            ++i;
-        } else {
-            break;
-        }
-    }
-    return {i, j};
+    size_t i = 0;
+    while (i < expected.size() && i < actual.size() && Matches(expected[i], actual[i]))
+        ++i;
+    return {i, i};
 }
 
 std::string Hex(ULONG_PTR value)
@@ -287,11 +261,11 @@ SequenceCheck CompareSequence(const MessageRecorder& recorder, const ExpectedMes
     const std::vector<ExpectedMessage> expected(table, table + (table ? count : 0));
     const std::vector<RecordedMessage> actual = RelevantMessages(recorder, table, count);
     SequenceCheck check;
-    check.matches = SequenceMatches(expected, actual);
+    const auto difference = FirstDifference(expected, actual);
+    check.matches = difference.first == expected.size() && difference.second == actual.size();
     if (check.matches)
         return check;
 
-    const auto difference = FirstDifference(expected, actual);
     std::string text = "first difference at expected row " + std::to_string(difference.first) +
                        ", actual message " + std::to_string(difference.second) + "\n  expected:\n";
     for (size_t i = 0; i < expected.size(); ++i)
@@ -344,8 +318,6 @@ std::string DescribeExpected(const ExpectedMessage& message)
         text += " lParam=" + Hex(static_cast<ULONG_PTR>(message.lParam));
     if (flags & code)
         text += " code=" + std::to_string(static_cast<int>(message.code));
-    if (flags & optional)
-        text += " (optional)";
     return text;
 }
 

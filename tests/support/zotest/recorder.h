@@ -9,7 +9,6 @@
 // Table rows read like Wine's tests:
 //   static const zotest::ExpectedMessage click[] = {
 //       { WM_LBUTTONDOWN, zotest::sent | zotest::wparam, MK_LBUTTON },
-//       { BM_SETSTATE, zotest::sent | zotest::optional },
 //       { WM_LBUTTONUP, zotest::sent },
 //       { WM_COMMAND, zotest::sent | zotest::parent | zotest::code, 0, 0, BN_CLICKED },
 //   };
@@ -45,7 +44,6 @@ enum MessageFlags : unsigned {
     wparam = 0x0004,       // compare wParam
     lparam = 0x0008,       // compare lParam
     code = 0x0010,         // compare the notification code (WM_COMMAND high word, NMHDR::code)
-    optional = 0x0020,     // may be missing
     parent = 0x0100,       // received by a window watched as WindowRole::Parent
     other = 0x0200,        // received by a window watched as WindowRole::Other
 };

@@ -2,9 +2,9 @@
 //   recorder.h          message recorder and ZOTEST_EXPECT_SEQUENCE
 //   renderer.h          Dib, RenderClient/RenderWindow, pixel assertions
 //   resource_counter.h  GDI/USER/heap counts and ZOTEST_EXPECT_NO_LEAKS
-//   pump.h              PumpUntilIdle, PumpFor, PumpUntil
+//   pump.h              PumpUntilIdle, PumpUntil
 //   fresh_process.h     ZOTEST_RUN_IN_FRESH_PROCESS
-//   input.h             SendClick, SendKey, MoveCursorTo, RealClick, PumpUntilReceived
+//   input.h             SendClick, SendKey, MoveCursorTo, PumpUntilReceived
 //   test_window.h       RunningUnderWine, CreateSolidWindow, ScopedWindow
 #pragma once
 

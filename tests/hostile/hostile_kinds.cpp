@@ -100,6 +100,9 @@ CWnd* CreateTexted(CWnd& host, DWORD style, const RECT& rect, UINT id)
 
 void Click(HWND control, POINT at)
 {
+    // A real press has its release queued behind it: the platform's scroll bar tracks a press in a
+    // loop of its own that ends only when the release arrives.
+    PostMessageW(control, WM_LBUTTONUP, 0, MAKELPARAM(at.x + 9, at.y));
     SendMessageW(control, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(at.x, at.y));
     SendMessageW(control, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(at.x + 9, at.y));
     SendMessageW(control, WM_LBUTTONUP, 0, MAKELPARAM(at.x + 9, at.y));

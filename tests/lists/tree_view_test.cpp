@@ -644,6 +644,51 @@ TEST_F(TreeTest, AParentAddingRowsWhileRowsGoCannotKeepACollapseOrDeleteGoing)
     }
 }
 
+// A parent that answers a row's deletion by deleting, collapsing or inserting itself, while the
+// view deletes or collapses: no node is used after it is freed (run under WINEDEBUG=warn+heap,
+// which fills freed blocks), the rows stay in step and the view goes on working.
+TEST_F(TreeTest, AParentChangingTheTreeWhileRowsGoLeavesNoRowOnAFreedNode)
+{
+    using Change = std::function<void(CZoTreeListCtrl&)>;
+    const std::pair<const char*, Change> reactions[] = {
+        {"LVM_DELETEALLITEMS", [](CZoTreeListCtrl& tree) { tree.SendMessage(LVM_DELETEALLITEMS); }},
+        {"DeleteAllNodes", [](CZoTreeListCtrl& tree) { tree.DeleteAllNodes(); }},
+        {"DeleteNode", [](CZoTreeListCtrl& tree) { tree.DeleteNode(0, true); }},
+        {"Collapse", [](CZoTreeListCtrl& tree) { tree.Collapse(0); }},
+        {"Reset", [](CZoTreeListCtrl& tree) { tree.Reset(3); }},
+        {"LVM_INSERTITEMW", [](CZoTreeListCtrl& tree) {
+             LVITEMW item = {};
+             item.iItem = 1;
+             tree.SendMessage(LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+         }},
+    };
+    const std::pair<const char*, Change> operations[] = {
+        {"DeleteAllNodes", [](CZoTreeListCtrl& tree) { tree.DeleteAllNodes(); }},
+        {"DeleteNode", [](CZoTreeListCtrl& tree) { tree.DeleteNode(0, false); }},
+        {"Collapse", [](CZoTreeListCtrl& tree) { tree.Collapse(0); }},
+    };
+    for (const auto& operation : operations)
+        for (const auto& reaction : reactions) {
+            SCOPED_TRACE(std::string(operation.first) + " meets " + reaction.first);
+            CZoTreeListCtrl& tree = MakeTree();
+            BuildSample();
+            int reactions = 0;
+            parent_.onListNotify = [&](const NMHDR& header) {
+                if (header.code == LVN_DELETEITEM && reactions++ < 2)
+                    reaction.second(tree);
+            };
+            operation.second(tree);
+            parent_.onListNotify = nullptr;
+            tree.RedrawWindow(NULL, NULL, RDW_INVALIDATE | RDW_UPDATENOW);
+            EXPECT_TRUE(RowsInStep());
+            const int rows = tree.GetItemCount();
+            Add(0, L"after");
+            EXPECT_EQ(tree.GetItemCount(), rows + 1);
+            for (int row = 0; row < tree.GetItemCount(); ++row)
+                tree.Expand(row);
+        }
+}
+
 TEST_F(TreeTest, RowsAParentInsertsWhileTheViewGoesAreRefused)
 {
     CZoTreeListCtrl& tree = MakeTree();

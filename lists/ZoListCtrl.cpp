@@ -919,9 +919,13 @@ CZoEditInPlace* CZoListCtrl::EditSubLabel(int item, int column)
     m_pEditor = pEditor;
     if (!pEditor->Create(style, rect, this, EditorId))
     {
+        // An editor whose creation ended the edit (a parent starting another from its handler
+        // of the focus change) is retired already and goes with the retired ones.
         if (m_pEditor == pEditor)
+        {
             m_pEditor = NULL;
-        delete pEditor;
+            delete pEditor;
+        }
         return NULL;
     }
     return m_pEditor == pEditor ? pEditor : NULL;

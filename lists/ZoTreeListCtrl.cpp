@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "controls/ZoControlTheme.h"
+#include "lists/ZoNestingScope.h"
 #include "lists/ZoTreeSort.h"
 
 namespace ZoControls {
@@ -22,19 +23,6 @@ const wchar_t* const kExpanderStrips[] = {L"BMP_ZO_TREELISTICON", L"BMP_ZO_TREEL
 const UINT kRowStates = LVIS_SELECTED | LVIS_FOCUSED;
 
 CZoTreeListCtrlItem* nodeOf(DWORD_PTR handle) { return reinterpret_cast<CZoTreeListCtrlItem*>(handle); }
-
-// Marks the view busy for the scope's lifetime.
-class CBusyScope
-{
-public:
-    explicit CBusyScope(int& busy) : m_busy(busy) { ++m_busy; }
-    ~CBusyScope() { --m_busy; }
-
-private:
-    int& m_busy;
-    CBusyScope(const CBusyScope&);
-    CBusyScope& operator=(const CBusyScope&);
-};
 
 // Whether `node` is `top` or lies below it.
 bool IsUnder(const CZoTreeListCtrlItem* node, const CZoTreeListCtrlItem* top)
@@ -380,7 +368,7 @@ DWORD_PTR CZoTreeListCtrl::InsertRootNode(const wchar_t* text, int image, int* r
 {
     if (rowOut)
         *rowOut = -1;
-    if (m_nBusy)
+    if (_isLocked())
         return 0;
     CZoTreeListCtrlItem* node = new CZoTreeListCtrlItem(m_pRoot, image);
     node->SetSubItemText(0, text);
@@ -399,7 +387,7 @@ DWORD_PTR CZoTreeListCtrl::InsertNode(DWORD_PTR parentNode, const wchar_t* text,
 DWORD_PTR CZoTreeListCtrl::InsertNode(DWORD_PTR parentNode, const wchar_t* text, int image, int* rowOut)
 {
     CZoTreeListCtrlItem* parent = nodeOf(parentNode);
-    if (!parent || parent == m_pRoot || m_nBusy)
+    if (!parent || parent == m_pRoot || _isLocked())
         return InsertRootNode(text, image, rowOut);
     CZoTreeListCtrlItem* node = new CZoTreeListCtrlItem(parent, image);
     parent->Expand(true);
@@ -422,9 +410,9 @@ DWORD_PTR CZoTreeListCtrl::InsertNode(DWORD_PTR parentNode, const wchar_t* text,
 
 void CZoTreeListCtrl::DeleteNode(int row, bool deleteEmptyParents)
 {
-    if (m_nBusy)
+    if (_isLocked())
         return;
-    CBusyScope busy(m_nBusy);
+    const CZoNestingScope busy(m_nBusy);
     int parentRow = -1;
     int deletedDepth = -1;
     for (int pass = 0;; ++pass)
@@ -477,9 +465,9 @@ void CZoTreeListCtrl::DeleteNode(int row, bool deleteEmptyParents)
 
 void CZoTreeListCtrl::DeleteAllNodes()
 {
-    if (m_nBusy)
+    if (_isLocked())
         return;
-    CBusyScope busy(m_nBusy);
+    const CZoNestingScope busy(m_nBusy);
     // The rows go before the nodes they show: the list notifies the parent of every row it
     // deletes and may repaint meanwhile, and whatever reaches a node from there finds it alive.
     if (::IsWindow(m_hWnd))
@@ -492,7 +480,7 @@ void CZoTreeListCtrl::DeleteAllNodes()
 
 BOOL CZoTreeListCtrl::DeleteAllItems()
 {
-    if (m_nBusy)
+    if (_isLocked())
         return FALSE;
     DeleteAllNodes();
     return TRUE;
@@ -500,7 +488,7 @@ BOOL CZoTreeListCtrl::DeleteAllItems()
 
 void CZoTreeListCtrl::Reset(int levels)
 {
-    if (m_nBusy)
+    if (_isLocked())
         return;
     m_nLevels = std::max(levels, 1);
     DeleteAllNodes();
@@ -510,7 +498,7 @@ void CZoTreeListCtrl::Reset(int levels)
 
 // --- Expanding and collapsing ----------------------------------------------------------------
 
-int CZoTreeListCtrl::Expand(int row) { return m_nBusy ? 0 : _expand(row); }
+int CZoTreeListCtrl::Expand(int row) { return _isLocked() ? 0 : _expand(row); }
 
 int CZoTreeListCtrl::_expand(int row)
 {
@@ -529,7 +517,7 @@ int CZoTreeListCtrl::_expand(int row)
     else if (node->IsCollapsed())
     {
         // The children are walked while their rows go in, each insertion notifying the parent.
-        CBusyScope busy(m_nBusy);
+        const CZoNestingScope busy(m_nBusy);
         LockWindowUpdate();
         int next = row + 1;
         for (POSITION pos = node->GetFirstChildPosition(); pos != NULL;)
@@ -562,9 +550,9 @@ int CZoTreeListCtrl::_expand(int row)
 void CZoTreeListCtrl::Collapse(int row)
 {
     CZoTreeListCtrlItem* node = _nodeOf(row);
-    if (!node || m_nBusy)
+    if (!node || _isLocked())
         return;
-    CBusyScope busy(m_nBusy);
+    const CZoNestingScope busy(m_nBusy);
     LockWindowUpdate();
     const int depth = node->GetDepthLevel();
     const unsigned editsBefore = m_nRowEdits;
@@ -872,7 +860,7 @@ void CZoTreeListCtrl::DrawSubitemText(CDC& dc, int item, int subItem, bool selec
 // native list then only puts its rows in that order, each comparison a look-up of two places.
 void CZoTreeListCtrl::SortOnColumn(int column, bool ascending)
 {
-    if (!m_bSortEnabled || !::IsWindow(m_hWnd) || column < 0 || m_nBusy)
+    if (!m_bSortEnabled || !::IsWindow(m_hWnd) || column < 0 || _isLocked())
         return;
     CWaitCursor wait;
     const int count = m_rows.GetCount();

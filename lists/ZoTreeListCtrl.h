@@ -180,9 +180,10 @@ private:
     // deleted `deleted` rows since `editsBefore`; nothing when only the view's own edits happened.
     void _dropLeftRows(const CZoTreeListCtrlItem* top, bool withTop, unsigned editsBefore, unsigned deleted);
 
-    // Non-zero while the view adds or takes down rows for nodes it holds: a parent's handlers of
-    // the list's notifications then cannot change the tree (such calls do nothing), so no node
-    // the view holds is freed under it.
+    // While the view adds or takes down rows for nodes it holds, while the native list deletes
+    // rows, and once the window goes, a parent's handlers of the list's notifications cannot
+    // change the tree (such calls do nothing): no node the view holds is freed under it.
+    bool _isLocked() const { return m_nBusy > 0 || m_nDeletingRows > 0 || m_bGoing; }
     int m_nBusy;
     // Every change of the rows counts here, the view's own and those a parent makes meanwhile.
     unsigned m_nRowEdits;

@@ -7,6 +7,7 @@
 #include "core/ZoThemeManager.h"
 #include "lists/ZoListGeometry.h"
 #include "lists/ZoListSort.h"
+#include "lists/ZoNestingScope.h"
 
 #include <algorithm>
 
@@ -180,7 +181,7 @@ CZoListCtrl::CZoListCtrl()
       m_crGrid(0), m_crSelectedRow(0), m_crCellText(0), m_crSelectedFocusRow(0), m_crFocusFrame(0),
       m_bSortingFromHeader(false), m_sortMethods(kSortMapBlockSize), m_childSortMethods(kSortMapBlockSize),
       m_pHorzBar(new CZoScrollBar(CZoScrollBar::ScrollBarTheme_1)),
-      m_pVertBar(new CZoScrollBar(CZoScrollBar::ScrollBarTheme_1)), m_bRedrawSuspended(false), m_bGoing(false),
+      m_pVertBar(new CZoScrollBar(CZoScrollBar::ScrollBarTheme_1)), m_bRedrawSuspended(false), m_bGoing(false), m_nDeletingRows(0),
       m_nPaintDepth(0), m_bPaintColumnsKnown(false), m_paintRow()
 {
     m_paintRow.iItem = -1;
@@ -484,9 +485,16 @@ LRESULT CZoListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     if (message == WM_DESTROY)
         m_bGoing = true;
     // Once the list goes, it deletes its rows with a notification each; a row a parent inserts
-    // from one of those handlers would never be freed (the platform's list loses it), so none is.
+    // from one of those handlers would never be freed, so none is.
     if (m_bGoing && (message == LVM_INSERTITEMA || message == LVM_INSERTITEMW))
         return -1;
+    // Rows deleted from a parent's handler of another row's deletion, or while the list goes,
+    // go from under the platform's deletion loop, which then loses rows or faults (Wine's own
+    // list does both on that input): such deletions are refused.
+    const bool deletion = message == LVM_DELETEITEM || message == LVM_DELETEALLITEMS;
+    if (deletion && (m_bGoing || m_nDeletingRows > 0))
+        return FALSE;
+    const CZoNestingScope deleting(m_nDeletingRows, deletion);
     UINT headerCode = 0;
     if (message == WM_NOTIFY && lParam && m_header.GetSafeHwnd())
     {
@@ -1028,9 +1036,13 @@ CZoEditInPlace* CZoListCtrl::EditSubLabel(int item, int column)
     m_pEditor = pEditor;
     if (!pEditor->Create(style, rect, this, EditorId))
     {
+        // An editor whose creation ended the edit (a parent starting another from its handler
+        // of the focus change) is retired already and goes with the retired ones.
         if (m_pEditor == pEditor)
+        {
             m_pEditor = NULL;
-        delete pEditor;
+            delete pEditor;
+        }
         return NULL;
     }
     return m_pEditor == pEditor ? pEditor : NULL;

@@ -180,8 +180,10 @@ protected:
     bool m_bRedrawSuspended;
     // Editors whose windows are gone, deleted once no handler of theirs can still be running.
     std::vector<CZoEditInPlace*> m_retiredEditors;
-    // From WM_DESTROY on: rows inserted then are refused.
+    // From WM_DESTROY on: rows inserted or deleted then are refused.
     bool m_bGoing;
+    // Row deletions of the native list under way (its notification of each row runs inside).
+    int m_nDeletingRows;
     int m_nPaintDepth;
     // The list's answers about a column that a paint needs for every cell, kept from paint to
     // paint: its format, and where its cells lie against their row's position. They hold while

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "controls/ZoControlTheme.h"
+#include "lists/ZoNestingScope.h"
 #include "lists/ZoTreeSort.h"
 
 namespace ZoControls {
@@ -22,6 +23,15 @@ const wchar_t* const kExpanderStrips[] = {L"BMP_ZO_TREELISTICON", L"BMP_ZO_TREEL
 const UINT kRowStates = LVIS_SELECTED | LVIS_FOCUSED;
 
 CZoTreeListCtrlItem* nodeOf(DWORD_PTR handle) { return reinterpret_cast<CZoTreeListCtrlItem*>(handle); }
+
+// Whether `node` is `top` or lies below it.
+bool IsUnder(const CZoTreeListCtrlItem* node, const CZoTreeListCtrlItem* top)
+{
+    for (; node; node = node->GetParentItem())
+        if (node == top)
+            return true;
+    return false;
+}
 DWORD_PTR handleOf(const CZoTreeListCtrlItem* node) { return reinterpret_cast<DWORD_PTR>(node); }
 // The model hands out its parents read-only; the view owns every node of its tree.
 CZoTreeListCtrlItem* parentOf(const CZoTreeListCtrlItem* node)
@@ -111,7 +121,8 @@ ZO_IMPLEMENT_MENUXP_FORWARDING(CZoTreeListCtrl, CZoListCtrl)
 
 CZoTreeListCtrl::CZoTreeListCtrl()
     : m_nLevels(kDefaultLevels), m_pRoot(new CZoTreeListCtrlItem(NULL, -1)), m_bExpandAllEnabled(true),
-      m_bKeepChildData(false), m_eBoldFont(ZoThemeFont_12), m_bImageListsShared(false), m_bHostSharesImageLists(false)
+      m_bKeepChildData(false), m_eBoldFont(ZoThemeFont_12), m_bImageListsShared(false), m_bHostSharesImageLists(false),
+      m_nBusy(0), m_nRowEdits(0)
 {
     m_pRoot->Expand(true);
 }
@@ -216,7 +227,10 @@ LRESULT CZoTreeListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     // The row being deleted is known only before the list forgets it.
     const LRESULT result = CZoListCtrl::WindowProc(message, wParam, lParam);
+    const int rowsBefore = m_rows.GetCount();
     _trackRowMessage(message, wParam, lParam, result);
+    if (m_rows.GetCount() != rowsBefore || ((message == LVM_SORTITEMS || message == LVM_SORTITEMSEX) && result))
+        ++m_nRowEdits;
     return result;
 }
 
@@ -238,7 +252,10 @@ void CZoTreeListCtrl::_trackRowMessage(UINT message, WPARAM wParam, LPARAM lPara
             m_rows.Remove((int)wParam);
         break;
     case LVM_DELETEALLITEMS:
-        if (result)
+        // Rows a parent inserted from its handlers of the deletions may have stayed.
+        if (result && CListCtrl::GetItemCount() > 0)
+            _reloadRows();
+        else if (result)
             m_rows.RemoveAll();
         break;
     case LVM_SETITEMA:
@@ -298,6 +315,31 @@ void CZoTreeListCtrl::_fillTexts(int row, const CZoTreeListCtrlItem* node)
 
 bool CZoTreeListCtrl::_deleteRow(int row) { return CListCtrl::DeleteItem(row) && ::IsWindow(m_hWnd); }
 
+void CZoTreeListCtrl::_dropRowsUnder(const CZoTreeListCtrlItem* top, bool withTop)
+{
+    // A handler inserting rows meanwhile moves those not visited yet: a few sweeps, each from the end.
+    const int kSweeps = 3;
+    for (int sweep = 0, dropped = 1; sweep < kSweeps && dropped; ++sweep)
+    {
+        dropped = 0;
+        for (int row = m_rows.GetCount() - 1; row >= 0; row = std::min(row - 1, m_rows.GetCount() - 1))
+        {
+            const CZoTreeListCtrlItem* node = _nodeOf(row);
+            if (!node || (node == top && !withTop) || !IsUnder(node, top))
+                continue;
+            if (!_deleteRow(row))
+                return;
+            ++dropped;
+        }
+    }
+}
+
+void CZoTreeListCtrl::_dropLeftRows(const CZoTreeListCtrlItem* top, bool withTop, unsigned editsBefore, unsigned deleted)
+{
+    if (m_nRowEdits - editsBefore != deleted && ::IsWindow(m_hWnd))
+        _dropRowsUnder(top, withTop);
+}
+
 void CZoTreeListCtrl::_notify(E_TreeListNotification code, LPARAM lParam, bool post)
 {
     const HWND hParent = ::IsWindow(m_hWnd) ? ::GetParent(m_hWnd) : NULL;
@@ -324,6 +366,10 @@ bool CZoTreeListCtrl::_atLevelLimit(const CZoTreeListCtrlItem* node) const
 
 DWORD_PTR CZoTreeListCtrl::InsertRootNode(const wchar_t* text, int image, int* rowOut)
 {
+    if (rowOut)
+        *rowOut = -1;
+    if (_isLocked())
+        return 0;
     CZoTreeListCtrlItem* node = new CZoTreeListCtrlItem(m_pRoot, image);
     node->SetSubItemText(0, text);
     const int row = _insertRow(m_rows.GetCount(), node, text, image);
@@ -341,7 +387,7 @@ DWORD_PTR CZoTreeListCtrl::InsertNode(DWORD_PTR parentNode, const wchar_t* text,
 DWORD_PTR CZoTreeListCtrl::InsertNode(DWORD_PTR parentNode, const wchar_t* text, int image, int* rowOut)
 {
     CZoTreeListCtrlItem* parent = nodeOf(parentNode);
-    if (!parent || parent == m_pRoot)
+    if (!parent || parent == m_pRoot || _isLocked())
         return InsertRootNode(text, image, rowOut);
     CZoTreeListCtrlItem* node = new CZoTreeListCtrlItem(parent, image);
     parent->Expand(true);
@@ -364,6 +410,9 @@ DWORD_PTR CZoTreeListCtrl::InsertNode(DWORD_PTR parentNode, const wchar_t* text,
 
 void CZoTreeListCtrl::DeleteNode(int row, bool deleteEmptyParents)
 {
+    if (_isLocked())
+        return;
+    const CZoNestingScope busy(m_nBusy);
     int parentRow = -1;
     int deletedDepth = -1;
     for (int pass = 0;; ++pass)
@@ -372,13 +421,16 @@ void CZoTreeListCtrl::DeleteNode(int row, bool deleteEmptyParents)
         if (!node)
             break;
         deletedDepth = node->GetDepthLevel();
+        const unsigned editsBefore = m_nRowEdits;
+        unsigned deleted = 0;
         // At most the rows there were: a parent adding rows from its handler of each deletion, or
         // one that refuses or ends it, must not keep the loop going.
-        for (int left = m_rows.GetCount() - row - 1; left > 0 && _isDescendantRow(row + 1, deletedDepth); --left)
+        for (int left = m_rows.GetCount() - row - 1; left > 0 && _isDescendantRow(row + 1, deletedDepth); --left, ++deleted)
             if (!_deleteRow(row + 1))
                 break;
         if (!_deleteRow(row))
             break;
+        _dropLeftRows(node, true, editsBefore, deleted + 1);
 
         CZoTreeListCtrlItem* parent = parentOf(node);
         if (!parent)
@@ -413,19 +465,31 @@ void CZoTreeListCtrl::DeleteNode(int row, bool deleteEmptyParents)
 
 void CZoTreeListCtrl::DeleteAllNodes()
 {
-    m_pRoot->Clear();
+    if (_isLocked())
+        return;
+    const CZoNestingScope busy(m_nBusy);
+    // The rows go before the nodes they show: the list notifies the parent of every row it
+    // deletes and may repaint meanwhile, and whatever reaches a node from there finds it alive.
     if (::IsWindow(m_hWnd))
+    {
         CListCtrl::DeleteAllItems();
+        _dropRowsUnder(m_pRoot, false);
+    }
+    m_pRoot->Clear();
 }
 
 BOOL CZoTreeListCtrl::DeleteAllItems()
 {
+    if (_isLocked())
+        return FALSE;
     DeleteAllNodes();
     return TRUE;
 }
 
 void CZoTreeListCtrl::Reset(int levels)
 {
+    if (_isLocked())
+        return;
     m_nLevels = std::max(levels, 1);
     DeleteAllNodes();
     if (::IsWindow(m_hWnd))
@@ -434,7 +498,9 @@ void CZoTreeListCtrl::Reset(int levels)
 
 // --- Expanding and collapsing ----------------------------------------------------------------
 
-int CZoTreeListCtrl::Expand(int row)
+int CZoTreeListCtrl::Expand(int row) { return _isLocked() ? 0 : _expand(row); }
+
+int CZoTreeListCtrl::_expand(int row)
 {
     CZoTreeListCtrlItem* node = _nodeOf(row);
     if (!node)
@@ -450,6 +516,8 @@ int CZoTreeListCtrl::Expand(int row)
     }
     else if (node->IsCollapsed())
     {
+        // The children are walked while their rows go in, each insertion notifying the parent.
+        const CZoNestingScope busy(m_nBusy);
         LockWindowUpdate();
         int next = row + 1;
         for (POSITION pos = node->GetFirstChildPosition(); pos != NULL;)
@@ -465,7 +533,7 @@ int CZoTreeListCtrl::Expand(int row)
             if (child->IsExpanded() && !child->HasNoChildren())
             {
                 child->Expand(false);
-                const int subtree = Expand(childRow);
+                const int subtree = _expand(childRow);
                 added += subtree;
                 next += subtree;
             }
@@ -482,10 +550,13 @@ int CZoTreeListCtrl::Expand(int row)
 void CZoTreeListCtrl::Collapse(int row)
 {
     CZoTreeListCtrlItem* node = _nodeOf(row);
-    if (!node)
+    if (!node || _isLocked())
         return;
+    const CZoNestingScope busy(m_nBusy);
     LockWindowUpdate();
     const int depth = node->GetDepthLevel();
+    const unsigned editsBefore = m_nRowEdits;
+    unsigned deleted = 0;
     if (row < m_rows.GetCount() - 1)
     {
         int number = 0;
@@ -508,6 +579,7 @@ void CZoTreeListCtrl::Collapse(int row)
             }
             if (!_deleteRow(row + 1))
                 break;
+            ++deleted;
         }
     }
     // Kept children take the order their rows had; otherwise they go, and the next Expand asks
@@ -515,7 +587,10 @@ void CZoTreeListCtrl::Collapse(int row)
     if (m_bKeepChildData)
         node->SortChildren();
     else
+    {
+        _dropLeftRows(node, false, editsBefore, deleted);
         node->Clear();
+    }
     node->Expand(false);
     UnlockWindowUpdate();
     Update(row);
@@ -785,7 +860,7 @@ void CZoTreeListCtrl::DrawSubitemText(CDC& dc, int item, int subItem, bool selec
 // native list then only puts its rows in that order, each comparison a look-up of two places.
 void CZoTreeListCtrl::SortOnColumn(int column, bool ascending)
 {
-    if (!m_bSortEnabled || !::IsWindow(m_hWnd) || column < 0)
+    if (!m_bSortEnabled || !::IsWindow(m_hWnd) || column < 0 || _isLocked())
         return;
     CWaitCursor wait;
     const int count = m_rows.GetCount();

@@ -167,11 +167,26 @@ private:
     // Whether `row` shows a node deeper than `depth`.
     bool _isDescendantRow(int row, int depth) const;
     void _toggle(int row);
+    int _expand(int row);
     void _moveFocus(int from, int to);
     void _notify(E_TreeListNotification code, LPARAM lParam, bool post);
     // Rows changed under the native list's own handling: the row index follows.
     void _trackRowMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT result);
     void _reloadRows();
+    // Deletes the rows still showing a node below `top` (and `top`'s own with `withTop`): rows a
+    // parent's handler put back or left while the view took them down, before their nodes go.
+    void _dropRowsUnder(const CZoTreeListCtrlItem* top, bool withTop);
+    // Deletes the rows showing nodes below `top` that a parent's handler left while the view
+    // deleted `deleted` rows since `editsBefore`; nothing when only the view's own edits happened.
+    void _dropLeftRows(const CZoTreeListCtrlItem* top, bool withTop, unsigned editsBefore, unsigned deleted);
+
+    // While the view adds or takes down rows for nodes it holds, while the native list deletes
+    // rows, and once the window goes, a parent's handlers of the list's notifications cannot
+    // change the tree (such calls do nothing): no node the view holds is freed under it.
+    bool _isLocked() const { return m_nBusy > 0 || m_nDeletingRows > 0 || m_bGoing; }
+    int m_nBusy;
+    // Every change of the rows counts here, the view's own and those a parent makes meanwhile.
+    unsigned m_nRowEdits;
 
     CZoTreeListCtrl(const CZoTreeListCtrl&);
     CZoTreeListCtrl& operator=(const CZoTreeListCtrl&);

@@ -100,6 +100,9 @@ CWnd* CreateTexted(CWnd& host, DWORD style, const RECT& rect, UINT id)
 
 void Click(HWND control, POINT at)
 {
+    // A real press has its release queued behind it: the platform's scroll bar tracks a press in a
+    // loop of its own that ends only when the release arrives.
+    PostMessageW(control, WM_LBUTTONUP, 0, MAKELPARAM(at.x + 9, at.y));
     SendMessageW(control, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(at.x, at.y));
     SendMessageW(control, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(at.x + 9, at.y));
     SendMessageW(control, WM_LBUTTONUP, 0, MAKELPARAM(at.x + 9, at.y));
@@ -688,7 +691,8 @@ const std::vector<Kind>& Kinds()
          CreatePlain<CZoListCtrl>, ListMessages(), ProvokeList, CreatePlain<CListCtrl>},
         {"CZoTreeListCtrl", {LVS_REPORT | LVS_SHOWSELALWAYS, LVS_REPORT | LVS_EDITLABELS | WS_BORDER},
          CreatePlain<CZoTreeListCtrl>, TreeListMessages(), ProvokeTree, CreatePlain<CListCtrl>, false,
-         "leaves one of the native list's own items (4 heap blocks) per run in its re-entering scene"},
+         "loses one of the native list's own items (4 heap blocks) per run in its re-entering scene, where an "
+         "insertion's handler re-enters; not yet shown to be the platform's"},
     };
     return kinds;
 }

@@ -30,7 +30,7 @@ const RECT kControlRect = {12, 12, 252, 112};
 const UINT kControlId = 1001;
 const DWORD kGroupTimeout = 300000;
 
-enum class GroupType { Kind, MissingSkins, OddAnswers, GarbageFontsIni, UnknownSizeMarker };
+enum class GroupType { Kind, MissingSkins, OddResources };
 
 struct Group
 {
@@ -46,12 +46,7 @@ std::vector<Group> Groups()
     for (size_t i = 0; i < Kinds().size(); ++i)
         groups.push_back({Kinds()[i].name, GroupType::Kind, i, Kinds()[i].openFinding});
     groups.push_back({"skins that cannot be loaded", GroupType::MissingSkins, 0});
-    // Traced to an SS_BITMAP static: the platform's own static leaves the same block per pass, but
-    // the comparison over the whole group does not subtract it yet.
-    const char* heapGrowth = "leaves one 12-byte heap block per pass (an SS_BITMAP static; the platform's own does too)";
-    groups.push_back({"theme and size class out of range", GroupType::OddAnswers, 0, heapGrowth});
-    groups.push_back({"garbage Fonts.ini", GroupType::GarbageFontsIni, 0, heapGrowth});
-    groups.push_back({"size-class marker for a class that does not exist", GroupType::UnknownSizeMarker, 0, heapGrowth});
+    groups.push_back({"odd theme answers, garbage Fonts.ini, bad markers", GroupType::OddResources, 0});
     return groups;
 }
 
@@ -117,7 +112,11 @@ public:
 
     bool Create()
     {
-        if (!m_host.CreateHost())
+        if (g_trace)
+            fprintf(stderr, "scene %ld: %s style 0x%lX\n", (long)g_scenes, m_kind.name, (unsigned long)m_style);
+        // A class without a platform counterpart has nothing to compare with: creating ours in the
+        // platform's run would cancel our own faults.
+        if ((g_native && !m_kind.native) || !m_host.CreateHost())
             return false;
         m_pControl = (g_native && m_kind.native ? m_kind.native : m_kind.create)(m_host, m_style, kControlRect,
                                                                                     kControlId);
@@ -127,8 +126,9 @@ public:
         return m_control != NULL;
     }
 
-    // What a user's hand does after the press that made the control notify.
-    void FollowUp()
+    // What a user's hand does after the press that made the control notify, and the time given
+    // to what it queues (the scene's end dispatches what is left).
+    void FollowUp(DWORD pump = 40)
     {
         SendMessageW(m_control, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(40, 8));
         SendMessageW(m_control, WM_LBUTTONUP, 0, MAKELPARAM(40, 8));
@@ -136,7 +136,7 @@ public:
             SendMessageW(m_control, WM_TIMER, id, 0);
         SendMessageW(m_control, WM_KEYUP, VK_RIGHT, 0xC0000001);
         m_tally.messages += 7;
-        Pump(40, m_tally);
+        Pump(pump, m_tally);
     }
 
 private:
@@ -215,13 +215,19 @@ void RunKinds(const std::vector<Kind>& kinds, Random& random, int steps, Tally& 
             RunStyle(kind, style, random, steps, tally, Odd());
 }
 
-// Every class in every style created, painted every way, used and resized under odd resources.
-void RunUnderOddResources(Tally& tally, const Odd& odd)
+// Every class in every style created, painted every way, used and resized under odd resources
+// (the process's own: a garbage "Fonts.ini", size-class markers for classes that do not exist)
+// and with the parent's answers to the theme and size-class queries taken in turn from: none
+// (the control measures its monitor), too large, unknown, too small.
+void RunUnderOddResources(Tally& tally)
 {
     static const SIZE kSizes[] = {{240, 100}, {1, 1}, {0, 0}, {600, 30}, {30, 400}};
+    static const Odd kAnswers[] = {Odd(), Odd{true, INT_MAX, 3}, Odd{true, -5, -1}, Odd{true, 130, INT_MIN}};
     Random unused(1);
+    size_t turn = 0;
     for (const Kind& kind : Kinds())
         for (DWORD style : kind.openFinding ? std::vector<DWORD>() : kind.styles) {
+            const Odd& odd = kAnswers[turn++ % (sizeof kAnswers / sizeof kAnswers[0])];
             CScene scene(kind, style, tally, unused);
             scene.host().answerQueries = odd.answer;
             scene.host().themeAnswer = odd.theme;
@@ -236,7 +242,7 @@ void RunUnderOddResources(Tally& tally, const Odd& odd)
             }
             if (kind.provoke)
                 kind.provoke(scene.control());
-            scene.FollowUp();
+            scene.FollowUp(0);
         }
 }
 
@@ -250,13 +256,8 @@ void RunGroup(const Group& group, unsigned long long seed, int steps, Tally& tal
     case GroupType::MissingSkins:
         RunKinds(KindsWithMissingSkins(), random, steps, tally);
         break;
-    case GroupType::OddAnswers:
-        for (const Odd odd : {Odd{true, INT_MAX, 3}, Odd{true, -5, -1}, Odd{true, 130, INT_MIN}})
-            RunUnderOddResources(tally, odd);
-        break;
-    case GroupType::GarbageFontsIni:
-    case GroupType::UnknownSizeMarker:
-        RunUnderOddResources(tally, Odd());
+    case GroupType::OddResources:
+        RunUnderOddResources(tally);
         break;
     }
 }
@@ -394,14 +395,12 @@ Outcome RunGroupProcess(const Group& group, size_t index, unsigned long long see
 {
     const std::wstring self = zotest::OwnExecutable();
     std::unique_ptr<CPrivateCopy> copy;
-    if (group.type == GroupType::GarbageFontsIni || group.type == GroupType::UnknownSizeMarker) {
+    if (group.type == GroupType::OddResources) {
         copy.reset(new CPrivateCopy(self));
         const std::wstring exeName = copy->executable().substr(copy->executable().find_last_of(L'\\') + 1);
-        if (group.type == GroupType::GarbageFontsIni)
-            copy->Write(L"Fonts.ini", GarbageFontsIni(seed));
-        else
-            for (const wchar_t* mode : {L"0", L"4", L"-1", L"99"})
-                copy->Write(exeName + L".ZoCtrl.FixedMode." + mode, "");
+        copy->Write(L"Fonts.ini", GarbageFontsIni(seed));
+        for (const wchar_t* mode : {L"0", L"4", L"-1", L"99"})
+            copy->Write(exeName + L".ZoCtrl.FixedMode." + mode, "");
     }
     const std::wstring executable = copy ? copy->executable() : self;
     const std::wstring commandLine = L"\"" + executable + L"\" --group " + std::to_wstring(index) + L" --seed " +
@@ -438,7 +437,7 @@ int RunParent(unsigned long long seed, int steps, bool all)
         // A group that fails or grows is run again on the platform's own controls with the same
         // input: what they do too is the platform's (Wine's) limit, not a fault of ours.
         bool platformLimit = false;
-        // The resource groups compare against every class's platform control in the same sequence.
+        // The resource group compares against every class's platform control in the same sequence.
         const bool hasNative = groups[i].type == GroupType::Kind ? Kinds()[groups[i].kind].native != nullptr
                                                                  : groups[i].type != GroupType::MissingSkins;
         if (hasNative && (!ours.finished || ours.gdi || ours.heap)) {

@@ -154,6 +154,28 @@ TEST_F(ListEditTest, DownMovesTheEditToTheNextRow)
     zotest::PumpUntilIdle(200);
 }
 
+// A parent that starts another edit when the list loses the focus to the editor being created:
+// that editor is retired before its creation ends and deleted once (run under
+// WINEDEBUG=warn+heap, which fills freed blocks), and one editor is left.
+TEST_F(ListEditTest, AnEditStartedWhileTheEditorIsCreatedLeavesOneEditor)
+{
+    MakeEditableList();
+    int reactions = 0;
+    spy_.onNotify = [&](const NMHDR& header) {
+        if (header.code == (UINT)NM_KILLFOCUS && reactions++ == 0)
+            list_->SendMessage(LVM_EDITLABELW, 1, 0);
+    };
+    PressF2();
+    spy_.onNotify = nullptr;
+    zotest::PumpUntilIdle(200);
+    EXPECT_EQ(reactions, 1);
+    int editors = 0;
+    for (HWND child = ::GetWindow(list_->GetSafeHwnd(), GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT))
+        editors += ::GetDlgCtrlID(child) == CZoListCtrl::EditorId;
+    EXPECT_EQ(editors, 1);
+    EXPECT_TRUE(::IsWindow(EditControl()));
+}
+
 TEST_F(ListEditTest, MovingAndCancellingLeaveNothingBehind)
 {
     MakeEditableList();

@@ -16,6 +16,8 @@ size_t ParentSpy::Count(UINT code) const
 
 BOOL ParentSpy::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
+    if (onNotify && lParam)
+        onNotify(*reinterpret_cast<const NMHDR*>(lParam));
     const BOOL handled = CWnd::OnNotify(wParam, lParam, pResult);
     if (!handled && lParam)
         codes.push_back(reinterpret_cast<const NMHDR*>(lParam)->code);
@@ -30,6 +32,7 @@ void ListTest::SetUp()
 
 void ListTest::TearDown()
 {
+    spy_.onNotify = nullptr;
     if (list_ && list_->GetSafeHwnd())
         list_->DestroyWindow();
     list_.reset();

@@ -4,6 +4,7 @@
 #include <afxcmn.h>
 #include <afxwin.h>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -28,6 +29,7 @@ class ParentSpy : public CWnd
 {
 public:
     std::vector<UINT> codes;
+    std::function<void(const NMHDR&)> onNotify; // reacts to every notification first
     size_t Count(UINT code) const;
 
 protected:

@@ -582,11 +582,12 @@ void CZoListCtrl::SortOnColumn(int column, bool ascending)
     // Each row's cell is read and parsed once; the comparisons then touch no window.
     std::vector<DWORD_PTR> data((size_t)count);
     std::vector<ZoSortKey> keys((size_t)count);
-    std::vector<wchar_t> buffer;
+    CString cell;
     for (int i = 0; i < count; ++i)
     {
         data[(size_t)i] = _itemData(i);
-        keys[(size_t)i] = ZoMakeSortKey(method, _readItemText(i, column, buffer));
+        _readItemText(i, column, cell);
+        keys[(size_t)i] = ZoMakeSortKey(method, cell);
     }
     std::vector<int> ranks;
     RankedRows ranked(ascending);
@@ -626,27 +627,28 @@ LRESULT CZoListCtrl::_tell(UINT message, WPARAM wParam, LPARAM lParam)
 
 CString CZoListCtrl::_itemText(int item, int subItem) const
 {
-    std::vector<wchar_t> buffer;
-    return CString(_readItemText(item, subItem, buffer));
+    CString text;
+    _readItemText(item, subItem, text);
+    return text;
 }
 
-const wchar_t* CZoListCtrl::_readItemText(int item, int subItem, std::vector<wchar_t>& buffer) const
+void CZoListCtrl::_readItemText(int item, int subItem, CString& text) const
 {
-    // Grown until the text fits, as CListCtrl::GetItemText does; a buffer kept between calls
-    // saves reading a long list's cells one allocation each.
-    if (buffer.size() < 256)
-        buffer.resize(256);
+    // Grown until the text fits, as CListCtrl::GetItemText does; a string kept between calls
+    // keeps its buffer, which saves reading a long list's cells one allocation each.
     LVITEMW lvItem = {};
     lvItem.iSubItem = subItem;
-    for (;;)
+    int length = 128;
+    int got = 0;
+    do
     {
-        lvItem.cchTextMax = (int)buffer.size();
-        lvItem.pszText = buffer.data();
-        buffer[0] = L'\0';
-        if ((int)_ask(LVM_GETITEMTEXTW, (WPARAM)item, (LPARAM)&lvItem) < lvItem.cchTextMax - 1)
-            return buffer.data();
-        buffer.resize(buffer.size() * 2);
-    }
+        length *= 2;
+        lvItem.cchTextMax = length;
+        lvItem.pszText = text.GetBufferSetLength(length);
+        lvItem.pszText[0] = L'\0';
+        got = (int)_ask(LVM_GETITEMTEXTW, (WPARAM)item, (LPARAM)&lvItem);
+    } while (got >= length - 1);
+    text.ReleaseBuffer();
 }
 
 DWORD_PTR CZoListCtrl::_itemData(int item) const

@@ -110,7 +110,7 @@ protected:
     // passing the thread's message hooks (ZoCallWindow).
     LRESULT _tell(UINT message, WPARAM wParam, LPARAM lParam);
     CString _itemText(int item, int subItem) const;
-    const wchar_t* _readItemText(int item, int subItem, std::vector<wchar_t>& buffer) const;
+    void _readItemText(int item, int subItem, CString& text) const;
     DWORD_PTR _itemData(int item) const;
     void _setItemData(int item, DWORD_PTR data);
     // LVM_GETSUBITEMRECT's LVIR_LABEL and LVIR_ICON rectangles of a cell.

@@ -23,16 +23,16 @@ const wchar_t* const kExpanderStrips[] = {L"BMP_ZO_TREELISTICON", L"BMP_ZO_TREEL
 const UINT kRowStates = LVIS_SELECTED | LVIS_FOCUSED;
 
 CZoTreeListCtrlItem* nodeOf(DWORD_PTR handle) { return reinterpret_cast<CZoTreeListCtrlItem*>(handle); }
-
+DWORD_PTR handleOf(const CZoTreeListCtrlItem* node) { return reinterpret_cast<DWORD_PTR>(node); }
 // Whether `node` is `top` or lies below it.
-bool IsUnder(const CZoTreeListCtrlItem* node, const CZoTreeListCtrlItem* top)
+bool isUnder(const CZoTreeListCtrlItem* node, const CZoTreeListCtrlItem* top)
 {
     for (; node; node = node->GetParentItem())
         if (node == top)
             return true;
     return false;
 }
-DWORD_PTR handleOf(const CZoTreeListCtrlItem* node) { return reinterpret_cast<DWORD_PTR>(node); }
+
 // The model hands out its parents read-only; the view owns every node of its tree.
 CZoTreeListCtrlItem* parentOf(const CZoTreeListCtrlItem* node)
 {
@@ -325,7 +325,7 @@ void CZoTreeListCtrl::_dropRowsUnder(const CZoTreeListCtrlItem* top, bool withTo
         for (int row = m_rows.GetCount() - 1; row >= 0; row = std::min(row - 1, m_rows.GetCount() - 1))
         {
             const CZoTreeListCtrlItem* node = _nodeOf(row);
-            if (!node || (node == top && !withTop) || !IsUnder(node, top))
+            if (!node || (node == top && !withTop) || !isUnder(node, top))
                 continue;
             if (!_deleteRow(row))
                 return;

@@ -6,6 +6,7 @@
 #include <zotest/zotest.h>
 
 #include <algorithm>
+#include <climits>
 #include <functional>
 #include <memory>
 #include <string>
@@ -716,6 +717,61 @@ TEST_F(TreeTest, RowsAParentDeletesWhileRowsGoOrInsertsWhileTheViewGoesAreRefuse
         EXPECT_EQ(std::count(answers.begin(), answers.end(), 0), (long)answers.size()) << going;
         ZOTEST_EXPECT_NO_LEAKS(5, cycle, zotest::count_heap);
     }
+}
+
+// Wine's list (8.0) checks an insertion's index only after allocating the item, its sub-item
+// array and its id, and keeps those four blocks when it then refuses a negative index. A host
+// sending such an insertion, directly or from its handler of the view's notice of a collapse,
+// costs the view what it costs the platform's own list, and the view tracks no row for it.
+TEST_F(TreeTest, AnInsertionRefusedForANegativeIndexCostsWhatItCostsThePlatformsList)
+{
+    const int kTimes = 3;
+    LVITEMW refused = {};
+    refused.mask = LVIF_TEXT;
+    refused.iItem = INT_MIN + 1;
+    refused.pszText = const_cast<wchar_t*>(L"refused");
+    // The heap blocks kTimes insertions leave, after one to warm up; each is refused.
+    const auto lost = [](const std::function<LRESULT()>& insert) {
+        EXPECT_EQ(insert(), -1);
+        const long before = zotest::CountHeapBlocks();
+        for (int i = 0; i < kTimes; ++i)
+            EXPECT_EQ(insert(), -1);
+        return zotest::CountHeapBlocks() - before;
+    };
+    const auto send = [&refused](HWND list) { return ::SendMessageW(list, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&refused)); };
+
+    CListCtrl plain;
+    ASSERT_TRUE(plain.Create(WS_CHILD | LVS_REPORT, listtest::kListRect, parentWnd(), listtest::kListId + 1));
+    plain.InsertColumn(0, L"Name", LVCFMT_LEFT, 100);
+    const long platform = lost([&] { return send(plain.GetSafeHwnd()); });
+    plain.DestroyWindow();
+    if (zotest::RunningUnderWine()) {
+        EXPECT_EQ(platform, 4 * kTimes);
+    }
+
+    CZoTreeListCtrl& tree = MakeTree(3, 0);
+    tree.SetKeepChildData(true);
+    BuildSample();
+    const std::string rows = Rows();
+    EXPECT_EQ(lost([&] { return send(tree.GetSafeHwnd()); }), platform) << "sent directly";
+    bool armed = false;
+    LRESULT answer = 0;
+    parent_.onNotify = [&](WPARAM code, LPARAM) {
+        if (armed && code == CZoTreeListCtrl::TLN_Expanded) {
+            armed = false;
+            answer = send(tree.GetSafeHwnd());
+        }
+    };
+    EXPECT_EQ(lost([&] {
+                  armed = true;
+                  tree.Collapse(0);
+                  tree.Expand(0);
+                  return answer;
+              }),
+              platform)
+        << "sent from the parent's handler";
+    EXPECT_EQ(Rows(), rows);
+    EXPECT_TRUE(RowsInStep());
 }
 
 TEST_F(TreeTest, LargeTreesGiveTheSameRowsAsSmallOnes)

@@ -3,6 +3,7 @@
 // resources. Each group runs in a child process, so a crash or a hang is counted, not fatal.
 #pragma once
 #include <afxwin.h>
+#include <commctrl.h>
 
 #include <functional>
 #include <vector>
@@ -99,5 +100,14 @@ extern bool g_trace;
 extern bool g_native;
 // Dispatches what is queued for a while; counts timer messages that reach no window.
 void Pump(DWORD milliseconds, Tally& tally);
+
+// Sends a list an insertion. Wine's list view allocates an item before it checks the index and
+// keeps it when it refuses a negative one; the host's reactions to the library's own notifications
+// have no counterpart in the platform's run, so such a loss cannot cancel there. Instead, an
+// insertion the control refuses goes to a plain platform list too, and what that list keeps of it
+// (as much of the control's loss as matches, and the plain list's own) counts in
+// g_platformHeapBlocks, which the measured growth leaves out.
+LRESULT SendInsertion(HWND control, const LVITEMW& item);
+extern long g_platformHeapBlocks;
 
 } // namespace hostile

@@ -1,7 +1,10 @@
 #include "hostile.h"
 
+#include <algorithm>
 #include <climits>
 #include <cstdio>
+
+#include <zotest/resource_counter.h>
 
 #include "core/ZoThemeManager.h"
 
@@ -9,6 +12,7 @@ namespace hostile {
 
 bool g_trace = false;
 bool g_native = false;
+long g_platformHeapBlocks = 0;
 
 namespace {
 
@@ -204,6 +208,30 @@ void Pump(DWORD milliseconds, Tally& tally)
     } while (GetTickCount() - start < milliseconds && dispatched < 20000);
 }
 
+LRESULT SendInsertion(HWND control, const LVITEMW& item)
+{
+    // Hidden, without a parent, kept for the whole process.
+    static const HWND plain = CreateWindowExW(0, WC_LISTVIEWW, L"", LVS_REPORT, 0, 0, 100, 100, NULL, NULL, NULL, NULL);
+    LVITEMW sent = item;
+    const long before = zotest::CountHeapBlocks();
+    const LRESULT result = SendMessageW(control, LVM_INSERTITEMW, 0, (LPARAM)&sent);
+    if (result != -1 || !plain)
+        return result;
+    const long controlLoss = zotest::CountHeapBlocks() - before;
+    sent = item;
+    const long plainBefore = zotest::CountHeapBlocks();
+    if (SendMessageW(plain, LVM_INSERTITEMW, 0, (LPARAM)&sent) != -1) {
+        // Refused by the library alone: nothing of it is the platform's.
+        SendMessageW(plain, LVM_DELETEALLITEMS, 0, 0);
+        return result;
+    }
+    const long plainLoss = zotest::CountHeapBlocks() - plainBefore;
+    g_platformHeapBlocks += plainLoss + std::max(0L, std::min(controlLoss, plainLoss));
+    if (g_trace)
+        fprintf(stderr, "  refused insertion at %d: the control kept %ld heap blocks, a plain list %ld\n", item.iItem,
+                controlLoss, plainLoss);
+    return result;
+}
 
 void Storm(const Kind& kind, HWND control, Random& random, int steps, Tally& tally)
 {

@@ -40,4 +40,16 @@ bool ZoForwardMenuChar(CMenu* pMenu, UINT nChar, UINT nFlags, LRESULT& lResult)
     return g_pMenuSupport && g_pMenuSupport->MenuChar(pMenu, nChar, nFlags, lResult);
 }
 
+CZoMenuHookPause::CZoMenuHookPause() : m_pSupport(g_pMenuSupport)
+{
+    if (m_pSupport)
+        m_pSupport->PauseHook(true);
+}
+
+CZoMenuHookPause::~CZoMenuHookPause()
+{
+    if (m_pSupport)
+        m_pSupport->PauseHook(false);
+}
+
 } // namespace ZoControls

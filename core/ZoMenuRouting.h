@@ -1,6 +1,7 @@
 // How themed windows reach the owner-drawn menus without depending on them.
 // Classes in this file:
 //   IZoMenuSupport   what the owner-drawn menus do for a window that forwards to them
+//   CZoMenuHookPause keeps the menu hook off the thread for a while
 // plus the opt-in and forwarding calls every themed window makes, and
 // ZO_DECLARE_MENUXP_FORWARDING / ZO_ON_MENUXP_MESSAGES / ZO_IMPLEMENT_MENUXP_FORWARDING, the one
 // way every themed window routes its four menu messages.
@@ -23,6 +24,8 @@ public:
     virtual bool DrawItem(DRAWITEMSTRUCT* pDrawItemStruct, HWND hWnd) = 0;
     // False when the menu is not owner-drawn by us.
     virtual bool MenuChar(CMenu* pMenu, UINT nChar, UINT nFlags, LRESULT& lResult) = 0;
+    // Takes the menu hook off the calling thread (true) and puts it back (false), nested.
+    virtual void PauseHook(bool bPause) = 0;
 
 protected:
     ~IZoMenuSupport() {}
@@ -39,6 +42,21 @@ ZOCTRL_API void ZoForwardInitMenuPopup(CWnd* pWnd, CMenu* pPopupMenu, BOOL bSysM
 ZOCTRL_API void ZoForwardMeasureItem(MEASUREITEMSTRUCT* pMeasureItemStruct);
 ZOCTRL_API bool ZoForwardDrawItem(DRAWITEMSTRUCT* pDrawItemStruct, HWND hWnd);
 ZOCTRL_API bool ZoForwardMenuChar(CMenu* pMenu, UINT nChar, UINT nFlags, LRESULT& lResult);
+
+// For its lifetime the menu hook leaves the calling thread's messages alone: bulk work that sends
+// a window many messages while no menu can open (each hooked message is a round trip to the
+// server under Wine).
+class ZOCTRL_API CZoMenuHookPause
+{
+public:
+    CZoMenuHookPause();
+    ~CZoMenuHookPause();
+
+private:
+    IZoMenuSupport* m_pSupport;
+    CZoMenuHookPause(const CZoMenuHookPause&);
+    CZoMenuHookPause& operator=(const CZoMenuHookPause&);
+};
 
 } // namespace ZoControls
 

@@ -336,9 +336,11 @@ typedef CMap<UINT_PTR, UINT_PTR, MenuImageEntry, const MenuImageEntry&> MenuImag
 
 struct MenuXPState
 {
-    MenuXPState() : nHookRefs(0), hHook(NULL), rcMenuBar(0, 0, 0, 0), nDrawCount(0) {}
+    MenuXPState() : nHookRefs(0), hHook(NULL), dwHookThread(0), nPauses(0), rcMenuBar(0, 0, 0, 0), nDrawCount(0) {}
     int nHookRefs;
     HHOOK hHook;
+    DWORD dwHookThread;
+    int nPauses; // taken off the thread for a moment while this is above 0
     PopupFrameMap frames;
     MenuTextMap texts;
     MenuImageMap images;
@@ -542,11 +544,36 @@ void CMenuXP::InitializeHook()
     MenuXPState& state = State();
     if (state.nHookRefs++ > 0)
         return;
+    state.dwHookThread = ::GetCurrentThreadId();
+    state.hHook = _installHook();
+}
+
+HHOOK CMenuXP::_installHook()
+{
     // The module that holds the hook procedure: this library, not the host.
     HMODULE hModule = NULL;
     ::GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
                          reinterpret_cast<LPCWSTR>(&CMenuXP::_hookProc), &hModule);
-    state.hHook = ::SetWindowsHookExW(WH_CALLWNDPROC, &CMenuXP::_hookProc, hModule, ::GetCurrentThreadId());
+    return ::SetWindowsHookExW(WH_CALLWNDPROC, &CMenuXP::_hookProc, hModule, ::GetCurrentThreadId());
+}
+
+void CMenuXP::PauseHook(bool bPause)
+{
+    MenuXPState& state = State();
+    if (::GetCurrentThreadId() != state.dwHookThread)
+        return;
+    if (bPause)
+    {
+        if (state.nPauses++ == 0 && state.hHook)
+        {
+            ::UnhookWindowsHookEx(state.hHook);
+            state.hHook = NULL;
+        }
+    }
+    else if (state.nPauses > 0 && --state.nPauses == 0 && state.nHookRefs > 0 && !state.hHook)
+    {
+        state.hHook = _installHook();
+    }
 }
 
 void CMenuXP::UninitializeHook()
@@ -565,6 +592,7 @@ void CMenuXP::UninitializeHook()
     if (state.hHook)
         ::UnhookWindowsHookEx(state.hHook);
     state.hHook = NULL;
+    state.nPauses = 0;
 }
 
 bool CMenuXP::IsHookInstalled()
@@ -1134,6 +1162,7 @@ public:
     {
         return CMenuXP::ForwardMenuChar(pMenu, nChar, nFlags, lResult);
     }
+    void PauseHook(bool bPause) override { CMenuXP::PauseHook(bPause); }
 };
 
 CMenuXPSupport g_menuXPSupport;

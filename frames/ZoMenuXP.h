@@ -179,6 +179,11 @@ public:
     static void UninitializeHook();
     // Whether the hook is installed (for hosts and tests).
     static bool IsHookInstalled();
+    // Takes the hook off the calling thread until as many calls with false have followed, the
+    // popups it knows kept: for work that sends the thread's windows many messages while no menu
+    // can open, where a hook makes every message dearer (a round trip to the server under Wine).
+    // Nothing on any other thread than the hook's.
+    static void PauseHook(bool bPause);
 
     static void SetXPLookNFeel(CWnd* pWnd, bool bEnable = true);
     static bool GetXPLookNFeel(const CWnd* pWnd);
@@ -205,6 +210,7 @@ public:
 private:
     CMenuXP();
     static LRESULT CALLBACK _hookProc(int nCode, WPARAM wParam, LPARAM lParam);
+    static HHOOK _installHook();
     static LRESULT CALLBACK _popupWndProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam);
     static void _subclassPopup(HWND hWnd);
     static void _dropStaleEntries();

@@ -16,6 +16,8 @@
 #include <afxtempl.h>
 #include <afxwin.h>
 
+#include <vector>
+
 #include "lists/ZoListCtrl.h"
 #include "lists/ZoTreeListCtrlItem.h"
 #include "lists/ZoTreeRowIndex.h"
@@ -173,6 +175,8 @@ private:
     // Rows changed under the native list's own handling: the row index follows.
     void _trackRowMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT result);
     void _reloadRows();
+    // Puts the rows in `order` (row order[i] to row i); false when the list refused.
+    bool _placeRows(const std::vector<int>& order);
     // Deletes the rows still showing a node below `top` (and `top`'s own with `withTop`): rows a
     // parent's handler put back or left while the view took them down, before their nodes go.
     void _dropRowsUnder(const CZoTreeListCtrlItem* top, bool withTop);

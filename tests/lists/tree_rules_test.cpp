@@ -10,6 +10,7 @@
 #include <random>
 #include <vector>
 
+#include "lists/ZoRowRewrite.h"
 #include "lists/ZoTreeRowIndex.h"
 #include "lists/ZoTreeSort.h"
 #include "tree_test_support.h"
@@ -305,6 +306,29 @@ TEST(TreeRowSort, ParentsThatAreNoEarlierRowsLeaveTheirRowsInOrderAtTheEnd)
     EXPECT_EQ(ZoTreeSortedRowOrder({-1, 2, 1}, &CompareKeys, &keys), (std::vector<int>{0, 1, 2}));
     EXPECT_EQ(ZoTreeSortedRowOrder({7, -5}, &CompareKeys, &keys), (std::vector<int>{0, 1}));
     EXPECT_TRUE(ZoTreeSortedRowOrder({}, &CompareKeys, &keys).empty());
+}
+
+// How many pairs an order turns round decides whether rows are rewritten rather than sorted:
+// only past a constant number per comparison of the sort, so a reversed order of a few rows still
+// goes through the sort and one of hundreds is rewritten.
+TEST(TreeRowSort, RowsAreRewrittenOnlyForOrdersThatTurnManyPairsRound)
+{
+    const struct
+    {
+        std::vector<int> order;
+        long long inversions;
+    } counts[] = {{{}, 0}, {{0}, 0}, {{0, 1, 2}, 0}, {{2, 1, 0}, 3}, {{1, 0, 3, 2}, 2}, {{3, 0, 1, 2}, 3}, {{1, 2, 3, 0}, 3}};
+    for (const auto& count : counts)
+        EXPECT_EQ(ZoCountInversions(count.order), count.inversions);
+    std::vector<int> reversed(606);
+    for (size_t i = 0; i < reversed.size(); ++i)
+        reversed[i] = (int)(reversed.size() - 1 - i);
+    EXPECT_EQ(ZoCountInversions(reversed), 606LL * 605 / 2);
+    EXPECT_TRUE(ZoRewritingPays(606, ZoCountInversions(reversed)));
+    EXPECT_FALSE(ZoRewritingPays(6, 15));
+    EXPECT_FALSE(ZoRewritingPays(100000, 100000LL * 17 * 16));
+    EXPECT_TRUE(ZoRewritingPays(100000, 100000LL * 17 * 16 + 1));
+    EXPECT_FALSE(ZoRewritingPays(1, 1000));
 }
 
 } // namespace

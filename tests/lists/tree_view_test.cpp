@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "frames/ZoMenuXP.h"
 #include "lists/ZoTreeListCtrl.h"
 #include "tree_test_support.h"
 
@@ -406,39 +407,68 @@ TEST_F(TreeTest, HeaderSortKeepsChildrenUnderParentsAndBoldSiblingsFirst)
     EXPECT_EQ(Rows(), "B B1 A A2 A1 A11");
 }
 
-// The rows change places with everything they carry: cells of every column, selection, focus and
-// the selection mark; the parent hears of no item changes, and the view stays where it was.
+// The rows change places with everything they carry: cells of every column (those the parent
+// supplies stay supplied), selection, focus and the selection mark; the parent hears of no item
+// changes, and the view stays where it was. Few rows turned round go through the list's own sort,
+// many are rewritten in their new places: both ways alike, and the menu hook survives either.
 TEST_F(TreeTest, SortedRowsKeepTheirCellsSelectionAndFocus)
 {
-    MakeTree();
-    BuildSample();
-    const DWORD_PTR nodes[] = {a_, a1_, a11_, a2_, b_, b1_};
-    for (DWORD_PTR node : nodes)
-        tree_->SetItemText(RowOf(node), 1, CString(L"size of ") + tree_->GetItemText(RowOf(node), 0));
-    tree_->CListCtrl::SetItemText(RowOf(b1_), 2, L"row only"); // in the row, not in the node
-    tree_->SetItemFocus(RowOf(b1_));
-    tree_->SetItemState(RowOf(a2_), LVIS_SELECTED, LVIS_SELECTED);
-    tree_->SetSelectionMark(RowOf(b1_));
-    parent_.codes.clear();
+    for (int fillers : {0, 600})
+    {
+        SCOPED_TRACE(fillers);
+        MakeTree();
+        BuildSample();
+        CString name;
+        tree_->SetRedraw(FALSE);
+        for (int i = 0; i < fillers; ++i)
+        {
+            name.Format(L"%04d", i); // after "B1", sorting below "A"
+            Add(0, name);
+        }
+        tree_->SetRedraw(TRUE);
+        const DWORD_PTR nodes[] = {a_, a1_, a11_, a2_, b_, b1_};
+        for (DWORD_PTR node : nodes)
+            tree_->SetItemText(RowOf(node), 1, CString(L"size of ") + tree_->GetItemText(RowOf(node), 0));
+        tree_->CListCtrl::SetItemText(RowOf(b1_), 2, L"row only"); // in the row, not in the node
+        tree_->CListCtrl::SetItemText(RowOf(a1_), 2, LPSTR_TEXTCALLBACKW);
+        parent_.onListNotify = [this](const NMHDR& header) {
+            auto& info = const_cast<NMLVDISPINFOW&>(reinterpret_cast<const NMLVDISPINFOW&>(header));
+            if (header.code == LVN_GETDISPINFOW && info.item.lParam == (LPARAM)a1_ && info.item.iSubItem == 2 &&
+                (info.item.mask & LVIF_TEXT))
+                lstrcpynW(info.item.pszText, L"supplied", info.item.cchTextMax);
+        };
+        tree_->SetItemFocus(RowOf(b1_));
+        tree_->SetItemState(RowOf(a2_), LVIS_SELECTED, LVIS_SELECTED);
+        tree_->SetSelectionMark(RowOf(b1_));
+        parent_.codes.clear();
 
-    ClickHeader(0);
-    EXPECT_EQ(Rows(), "B B1 A A2 A1 A11");
-    for (DWORD_PTR node : nodes)
-        EXPECT_EQ(tree_->GetItemText(RowOf(node), 1), CString(L"size of ") + tree_->GetItemText(RowOf(node), 0));
-    EXPECT_EQ(tree_->GetItemText(RowOf(b1_), 2), L"row only");
-    int focusRow = -1;
-    EXPECT_EQ(tree_->GetFocusedItem(&focusRow), b1_);
-    EXPECT_EQ(focusRow, 1);
-    EXPECT_EQ(tree_->GetSelectedCount(), 2u);
-    EXPECT_EQ(tree_->GetItemState(RowOf(a2_), LVIS_SELECTED), (UINT)LVIS_SELECTED);
-    EXPECT_EQ(tree_->GetSelectionMark(), 1);
-    EXPECT_EQ(tree_->GetTopIndex(), 0);
-    EXPECT_EQ(parent_.Count(LVN_ITEMCHANGING), 0u);
-    EXPECT_EQ(parent_.Count(LVN_ITEMCHANGED), 0u);
-    EXPECT_TRUE(RowsInStep());
-    // Item changes outside a sort still reach the parent.
-    tree_->SetItemState(RowOf(a_), LVIS_SELECTED, LVIS_SELECTED);
-    EXPECT_EQ(parent_.Count(LVN_ITEMCHANGED), 1u);
+        ClickHeader(0);
+        EXPECT_EQ(Rows().substr(0, 16), "B B1 A A2 A1 A11");
+        if (fillers)
+        {
+            EXPECT_EQ(tree_->GetItemText(6, 0), L"0599");
+        }
+        EXPECT_EQ(parent_.Count(LVN_ITEMCHANGING), 0u);
+        EXPECT_EQ(parent_.Count(LVN_ITEMCHANGED), 0u);
+        EXPECT_EQ(parent_.Count(LVN_GETDISPINFOW), 0u);
+        for (DWORD_PTR node : nodes)
+            EXPECT_EQ(tree_->GetItemText(RowOf(node), 1), CString(L"size of ") + tree_->GetItemText(RowOf(node), 0));
+        EXPECT_EQ(tree_->GetItemText(RowOf(b1_), 2), L"row only");
+        EXPECT_EQ(tree_->GetItemText(RowOf(a1_), 2), L"supplied");
+        int focusRow = -1;
+        EXPECT_EQ(tree_->GetFocusedItem(&focusRow), b1_);
+        EXPECT_EQ(focusRow, 1);
+        EXPECT_EQ(tree_->GetSelectedCount(), 2u);
+        EXPECT_EQ(tree_->GetItemState(RowOf(a2_), LVIS_SELECTED), (UINT)LVIS_SELECTED);
+        EXPECT_EQ(tree_->GetSelectionMark(), 1);
+        EXPECT_EQ(tree_->GetTopIndex(), 0);
+        EXPECT_TRUE(RowsInStep());
+        EXPECT_TRUE(CMenuXP::IsHookInstalled());
+        // Item changes outside a sort still reach the parent.
+        tree_->SetItemState(RowOf(a_), LVIS_SELECTED, LVIS_SELECTED);
+        EXPECT_EQ(parent_.Count(LVN_ITEMCHANGED), 1u);
+        parent_.onListNotify = nullptr;
+    }
 }
 
 TEST_F(TreeTest, DateColumnsSortByTheTreesDateRules)

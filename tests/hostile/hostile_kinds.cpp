@@ -43,12 +43,22 @@ Message Values(const char* name, UINT message)
                    }};
 }
 
-// Margins the platform's own EDIT survives: under Wine its caret scrolling loops forever once
-// the margins leave it no room to format (the native control hangs on the same input).
-int EditMargin(Random& random)
+// Offsets for a formatting rectangle that keeps some room to format in.
+int EditOffset(Random& random)
+{
+    const int offset = Extreme(random);
+    return offset > 15 ? 15 : offset < -15 ? -15 : offset;
+}
+
+// Margins travel as unsigned 16-bit words: -15 is a margin of 65521 pixels. Wine's EDIT then
+// puts its formatting rectangle beyond the 16-bit caret positions it compares with it, and a
+// single-line edit's caret scrolling steps its offset through all 2^32 values (the platform's
+// own edit hangs on EM_SETMARGINS with MAKELPARAM(-15, -15) the same way). Margins stay
+// within what a 16-bit position can hold beside the text; EC_USEFONTINFO is kept.
+WORD EditMargin(Random& random)
 {
     const int margin = Extreme(random);
-    return margin > 15 ? 15 : margin < -15 ? -15 : margin;
+    return margin == EC_USEFONTINFO ? EC_USEFONTINFO : (WORD)(margin < 0 ? 0 : margin > 255 ? 255 : margin);
 }
 
 // A message whose lParam points at a valid `T` that `fill` sets up with absurd values.
@@ -412,8 +422,7 @@ std::vector<Message> EditMessages()
                         SendMessageW(control, EM_REPLACESEL, random.Below(2), (LPARAM)kText);
                     }},
             With<RECT>("EM_SETRECT", EM_SETRECT, [](RECT& rect, Random& random) {
-                // A formatting rectangle that keeps some room, for the same reason.
-                rect = RECT{EditMargin(random), EditMargin(random), 40 + EditMargin(random), 20 + EditMargin(random)};
+                rect = RECT{EditOffset(random), EditOffset(random), 40 + EditOffset(random), 20 + EditOffset(random)};
                 return (WPARAM)0;
             })};
 }

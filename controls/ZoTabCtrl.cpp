@@ -152,6 +152,8 @@ IMPLEMENT_DYNAMIC(CZoTabCtrl, CTabCtrl)
 
 BEGIN_MESSAGE_MAP(CZoTabCtrl, CTabCtrl)
     ON_WM_CREATE()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_KEYDOWN()
     ON_WM_MOUSEMOVE()
     ON_WM_MOUSELEAVE()
     ZO_ON_MENUXP_MESSAGES()
@@ -385,6 +387,64 @@ void CZoTabCtrl::_invalidateNoFlickering()
     pageRegion.CreateRectRgnIndirect(&page);
     outside.CombineRgn(&outside, &pageRegion, RGN_DIFF);
     InvalidateRgn(&outside, FALSE);
+}
+
+// The platform's control goes on with its own data after telling the parent of a click or a
+// key, and a parent that destroyed it meanwhile leaves it reading freed memory (Wine's asserts
+// or faults). Choices by the user are therefore made here, and nothing follows a notification
+// that destroyed the control.
+void CZoTabCtrl::OnLButtonDown(UINT nFlags, CPoint point)
+{
+    const DWORD style = GetStyle();
+    TCHITTESTINFO hit = {{point.x, point.y}, 0};
+    const int item = HitTest(&hit);
+    const bool multiSelecting =
+        (style & (TCS_BUTTONS | TCS_MULTISELECT)) == (TCS_BUTTONS | TCS_MULTISELECT) && (nFlags & MK_CONTROL);
+    if (item < 0 || item == GetCurSel() || multiSelecting)
+    {
+        CTabCtrl::OnLButtonDown(nFlags, point);
+        return;
+    }
+    const HWND self = m_hWnd;
+    if (!(style & TCS_FOCUSNEVER))
+        ::SetFocus(self);
+    if (::IsWindow(self))
+        _selectByUser(item);
+}
+
+void CZoTabCtrl::OnKeyDown(UINT nChar, UINT /*nRepCnt*/, UINT nFlags)
+{
+    NMTCKEYDOWN key = {};
+    key.wVKey = static_cast<WORD>(nChar);
+    key.flags = MAKELONG(1, nFlags); // the key message's lParam: a repeat of one and its flags
+    bool alive = true;
+    _notifyParent(key.hdr, TCN_KEYDOWN, alive);
+    if (!alive || (nChar != VK_LEFT && nChar != VK_RIGHT))
+        return;
+    const int item = GetCurFocus() + (nChar == VK_LEFT ? -1 : 1);
+    if (item >= 0 && item < GetItemCount())
+        _selectByUser(item);
+}
+
+void CZoTabCtrl::_selectByUser(int item)
+{
+    NMHDR header = {};
+    bool alive = true;
+    if (_notifyParent(header, TCN_SELCHANGING, alive) || !alive)
+        return;
+    SetCurSel(item);
+    _notifyParent(header, TCN_SELCHANGE, alive);
+}
+
+LRESULT CZoTabCtrl::_notifyParent(NMHDR& header, UINT code, bool& alive)
+{
+    const HWND self = m_hWnd;
+    header.hwndFrom = self;
+    header.idFrom = static_cast<UINT_PTR>(::GetDlgCtrlID(self));
+    header.code = code;
+    const LRESULT answer = ::SendMessageW(::GetParent(self), WM_NOTIFY, header.idFrom, reinterpret_cast<LPARAM>(&header));
+    alive = ::IsWindow(self) != FALSE;
+    return answer;
 }
 
 void CZoTabCtrl::OnMouseMove(UINT nFlags, CPoint point)

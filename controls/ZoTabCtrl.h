@@ -87,8 +87,16 @@ protected:
     void _drawTabItem(CDC& dc, int index, DWORD style, bool enabled, bool selected);
     void _drawRotatedCaption(CDC& dc, const CRect& area, wchar_t* text, bool selected, bool right);
     void _invalidateNoFlickering();
+    // The user's choice of `item`: asked of the parent, made, announced. Stops as soon as a
+    // notification leaves the control destroyed.
+    void _selectByUser(int item);
+    // Sends the parent `header` (its code filled in) and returns the answer; `alive` tells
+    // whether the control outlived it.
+    LRESULT _notifyParent(NMHDR& header, UINT code, bool& alive);
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
     afx_msg void OnMouseLeave();
     ZO_DECLARE_MENUXP_FORWARDING()

@@ -1239,6 +1239,7 @@ inline void UseTabs(CTabCtrl& tabs, CWnd* parent)
     (void)tabs.GetItem(0, &item);
     TCHITTESTINFO hit = {};
     (void)tabs.HitTest(&hit);
+    (void)tabs.GetCurFocus();
     tabs.AdjustRect(FALSE, &rect);
     (void)tabs.SetItemSize(CSize(25, 25));
     (void)tabs.DeleteAllItems();

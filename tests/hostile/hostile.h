@@ -83,10 +83,12 @@ public:
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
 private:
     void _react();
     int m_depth = 0;
+    bool m_notifyEaten = false; // the last WM_NOTIFY was answered by the control's reflection
 };
 
 // Drives one control with a storm of `steps` random actions: its own messages, the platform's

@@ -296,8 +296,12 @@ LRESULT CHost::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         *reinterpret_cast<int*>(lParam) = message == ZoControls::ZoMsg_GetCurrentTheme ? themeAnswer : sizeAnswer;
         return 1;
     }
+    m_notifyEaten = false;
     const LRESULT result = CWnd::WindowProc(message, wParam, lParam);
-    if (reaction != Reaction::None && IsNotification(message, lParam) && m_depth < 2) {
+    // A host reacts where its message map would: a notification the control's own reflection
+    // answers never reaches an MFC parent's handlers.
+    const bool eaten = message == WM_NOTIFY && m_notifyEaten;
+    if (reaction != Reaction::None && IsNotification(message, lParam) && !eaten && m_depth < 2) {
         if (g_trace)
             fprintf(stderr, "  host reacts to 0x%X code %d\n", message,
                     message == WM_NOTIFY ? (int)reinterpret_cast<const NMHDR*>(lParam)->code : (int)wParam);
@@ -306,6 +310,13 @@ LRESULT CHost::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         --m_depth;
     }
     return result;
+}
+
+BOOL CHost::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult)
+{
+    // The host's map has no entries: TRUE means the control's reflection took it.
+    m_notifyEaten = CWnd::OnNotify(wParam, lParam, pResult) != FALSE;
+    return m_notifyEaten;
 }
 
 void CHost::_react()

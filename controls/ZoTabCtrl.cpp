@@ -406,6 +406,12 @@ void CZoTabCtrl::OnLButtonDown(UINT nFlags, CPoint point)
         return;
     }
     const HWND self = m_hWnd;
+    // A tip showing goes away on the press, as the platform's handler would tell it.
+    if (const HWND tips = reinterpret_cast<HWND>(::SendMessageW(self, TCM_GETTOOLTIPS, 0, 0)))
+    {
+        MSG press = {self, WM_LBUTTONDOWN, nFlags, MAKELPARAM(point.x, point.y), 0, {0, 0}};
+        ::SendMessageW(tips, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&press));
+    }
     if (!(style & TCS_FOCUSNEVER))
         ::SetFocus(self);
     if (::IsWindow(self))

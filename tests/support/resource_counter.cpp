@@ -40,14 +40,20 @@ size_t ReadableEntries(const BYTE* table)
     return entries < kWineMaxHandles ? entries : kWineMaxHandles;
 }
 
-long CountWineGdiHandles()
+// Calls `each` with the type byte of every live entry.
+template <typename Each> void ForEachWineGdiHandle(Each each)
 {
     const BYTE* table = WineGdiHandleTable();
     const size_t entries = ReadableEntries(table);
-    long live = 0;
     for (size_t i = 0; i < entries; ++i)
-        if (table[i * kWineHandleEntrySize + kWineHandleTypeOffset] != 0)
-            ++live;
+        if (const BYTE type = table[i * kWineHandleEntrySize + kWineHandleTypeOffset])
+            each(type);
+}
+
+long CountWineGdiHandles()
+{
+    long live = 0;
+    ForEachWineGdiHandle([&live](BYTE) { ++live; });
     return live;
 }
 
@@ -142,6 +148,14 @@ long CountGdiObjects()
     if (reported != 0)
         return static_cast<long>(reported);
     return WineHandleTableUsable() ? CountWineGdiHandles() : 0;
+}
+
+GdiTypeCounts CountWineGdiObjectsByType()
+{
+    GdiTypeCounts counts;
+    if (WineHandleTableUsable())
+        ForEachWineGdiHandle([&counts](BYTE type) { ++counts.live[type]; });
+    return counts;
 }
 
 long CountUserObjects()

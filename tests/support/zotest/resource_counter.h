@@ -44,6 +44,12 @@ enum Counters : unsigned {
 long CountGdiObjects();
 long CountUserObjects();
 long CountHeapBlocks();
+// Live GDI objects by the type byte of Wine's handle table (all zero elsewhere): which kind grew.
+// Counting allocates nothing, so it does not disturb the heap counts taken beside it.
+struct GdiTypeCounts {
+    long live[256] = {};
+};
+GdiTypeCounts CountWineGdiObjectsByType();
 ResourceCounts CountResources();
 
 CountSource GdiCountSource();

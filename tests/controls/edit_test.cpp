@@ -9,23 +9,6 @@
 using namespace ZoControls;
 using controltest::Slot;
 
-TEST(EditRules, BorderState)
-{
-    struct Row
-    {
-        bool enabled, readOnly, focused;
-        E_ZoButtonStates state;
-    };
-    const Row rows[] = {
-        {true, false, false, BS_ZO_NORMAL},   {true, false, true, BS_ZO_HOT},
-        {true, true, true, BS_ZO_NORMAL},     // read-only never shows focus
-        {false, false, true, BS_ZO_DISABLED}, {false, true, false, BS_ZO_DISABLED},
-    };
-    for (const Row& row : rows)
-        EXPECT_EQ(ZoEditBorderState(row.enabled, row.readOnly, row.focused), row.state)
-            << row.enabled << row.readOnly << row.focused;
-}
-
 namespace {
 
 const int kCell = 3; // BMP_ZO_EDIT is 36 x 27 cut into 12 x 9
@@ -116,12 +99,6 @@ TEST_F(EditTest, ReadOnlyEditNeverShowsTheFocusedBorder)
     Create(ES_READONLY);
     edit_.SetFocus();
     ASSERT_EQ(::GetFocus(), edit_.GetSafeHwnd());
-    EXPECT_TRUE(BorderShows(BS_ZO_NORMAL));
-}
-
-TEST_F(EditTest, MultiLineEditGetsTheSameBorder)
-{
-    Create(ES_MULTILINE | ES_AUTOVSCROLL, CRect(10, 10, 150, 80));
     EXPECT_TRUE(BorderShows(BS_ZO_NORMAL));
 }
 

@@ -83,20 +83,6 @@ TEST_F(RangeSliderTest, NoBoundsBeforeTheFirstSelection)
     EXPECT_NE(slider_.HitTest(start), ZoRangeHit_RightBound);
 }
 
-TEST_F(RangeSliderTest, BoundsStandOnTheSelectionMeasuredFromZero)
-{
-    for (int lo : {0, 40}) {
-        Create(lo, lo + 100);
-        slider_.SetSelection(lo + 20, lo + 60);
-        const float ratio = ZoRangeRatio(lo, lo + 100, channel_.Width());
-        EXPECT_EQ(slider_.GetLeftBoundPt(),
-                  CPoint(channel_.left + ZoRangeValueToOffset(lo + 20, ratio), channel_.bottom));
-        EXPECT_EQ(slider_.GetRightBoundPt(),
-                  CPoint(channel_.left + ZoRangeValueToOffset(lo + 60, ratio), channel_.bottom));
-        slider_.DestroyWindow();
-    }
-}
-
 TEST_F(RangeSliderTest, MarkersPointOutwardBelowTheChannelAndLightUpOnHover)
 {
     Create();

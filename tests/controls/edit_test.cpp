@@ -16,13 +16,6 @@ const int kCell = 3; // BMP_ZO_EDIT is 36 x 27 cut into 12 x 9
 class EditTest : public controltest::ReflectingParentTest
 {
 protected:
-    void TearDown() override
-    {
-        if (edit_.GetSafeHwnd())
-            edit_.DestroyWindow();
-        ReflectingParentTest::TearDown();
-    }
-
     void Create(DWORD style, const CRect& rect = CRect(10, 10, 130, 34))
     {
         ASSERT_TRUE(edit_.Create(WS_CHILD | WS_VISIBLE | style, rect, host(), 7));

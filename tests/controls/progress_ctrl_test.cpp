@@ -36,13 +36,6 @@ namespace {
 class ProgressTest : public ControlTest
 {
 protected:
-    void TearDown() override
-    {
-        if (bar_.GetSafeHwnd())
-            bar_.DestroyWindow();
-        ControlTest::TearDown();
-    }
-
     void Create(DWORD style, const CRect& rect, int lo, int hi, int pos)
     {
         ASSERT_TRUE(bar_.Create(WS_CHILD | WS_VISIBLE | style, rect, parentWnd(), 5));

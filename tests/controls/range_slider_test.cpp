@@ -19,14 +19,6 @@ const COLORREF kBoundHover = RGB(0x7F, 0xF4, 0xFF);
 class RangeSliderTest : public ControlTest
 {
 protected:
-    void TearDown() override
-    {
-        recorder_.UnwatchAll();
-        if (slider_.GetSafeHwnd())
-            slider_.DestroyWindow();
-        ControlTest::TearDown();
-    }
-
     // 0..100 on a wide slider, thumb at the right end, out of the bounds' way.
     void Create(int lo = 0, int hi = 100)
     {

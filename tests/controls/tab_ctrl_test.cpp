@@ -22,13 +22,6 @@ const int kTextDisabled = 8;
 class TabTest : public ControlTest
 {
 protected:
-    void TearDown() override
-    {
-        if (tabs_.GetSafeHwnd())
-            tabs_.DestroyWindow();
-        ControlTest::TearDown();
-    }
-
     void Create(DWORD style, std::initializer_list<const wchar_t*> captions = {L"One", L"Two", L"Three"},
                 CWnd* parent = nullptr)
     {

@@ -1,5 +1,5 @@
 // CZoButton pixels: face and border lines per state, check and radio cells from the strip,
-// text and image placement, group boxes, focus cues.
+// caption colours, image rows, group boxes, focus cues.
 #include "controls_test_support.h"
 
 #include "controls/ZoButton.h"

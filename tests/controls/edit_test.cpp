@@ -1,5 +1,5 @@
-// CZoEdit: the border state rule, the border band painted from the skin's own cells in each
-// state, the theme colours through the reflected WM_CTLCOLOR, the thin frame made whatever the
+// CZoEdit: the border band painted from the skin's own cells in each state (read-only never
+// focused), the theme colours through the reflected WM_CTLCOLOR, the thin frame made whatever the
 // template said, and zero-size edits.
 #include "controls_test_support.h"
 

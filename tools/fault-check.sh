@@ -57,6 +57,8 @@ F26|frames/ZoFrameWnd.cpp|s/if (platformHit != HTNOWHERE .. !skinLoaded)/if (pla
 F27|frames/ZoFrameWnd.cpp|s/const int down = atLeastZero(h - 3 \* u + 1);/const int down = atLeastZero(h - 3 * u);/|^test_frames$|off-by-one: frame side pieces one pixel short
 F28|controls/ZoEditInPlace.cpp|s/CString reported = m_eEndReason == ZoEditEnd_Escape/CString reported = m_eEndReason != ZoEditEnd_Escape/|^test_controls$|swapped condition: in-place editor reports the typed text on Escape and the old one otherwise
 F29|lists/ZoListCtrl.cpp|s/m_header.SetNoSortHeader(true);/m_header.SetNoSortHeader(false);/|^test_lists$|wrong flag: a header that does not sort still shows hot and pressed items
+F30A|images/ZoResourcePNG.cpp|s/dst\[0\] = ZoComposeChannel(src\[0\], alpha, GetBValue(background));/dst[0] = ZoComposeChannel(src[0], alpha, GetRValue(background));/|^test_images$|wrong channel: half-transparent PNG pixels blend blue with the background's red
+F31A|core/ZoMemDC.cpp|s/^    ::PatBlt(m_hDC, 0, 0, m_nWidth, m_nHeight, BLACKNESS);/    ;/|^test_core$|kept surface lent again still shows the last paint
 EOF
 )
 

@@ -34,16 +34,6 @@ TEST(ButtonRules, CheckStripCells)
     EXPECT_EQ(ZoCheckCellColumn(true, BST_CHECKED, false), 0);
 }
 
-TEST(ButtonRules, CheckCellOrigin)
-{
-    const CRect client(0, 0, 100, 25);
-    EXPECT_EQ(ZoCheckCellOrigin(client, 15, 0), CPoint(0, 5));
-    EXPECT_EQ(ZoCheckCellOrigin(client, 15, BS_LEFTTEXT), CPoint(85, 5));
-    EXPECT_EQ(ZoCheckCellOrigin(client, 15, BS_TOP), CPoint(0, 0));
-    EXPECT_EQ(ZoCheckCellOrigin(client, 15, BS_BOTTOM), CPoint(0, 10));
-    EXPECT_EQ(ZoCheckCellOrigin(client, 15, BS_VCENTER), CPoint(0, 5));
-}
-
 TEST(ButtonRules, CaptionTextFlags)
 {
     EXPECT_EQ(ZoCaptionTextFormat(0, false), static_cast<UINT>(DT_SINGLELINE | DT_LEFT | DT_VCENTER));
@@ -113,13 +103,6 @@ TEST(ButtonRules, ImageBelowOrAboveText)
     const ZoImageTextLayout above = ZoLayoutImageAndText(t, CSize(16, 10), true, 30, 14, BS_BOTTOM, false, 2, false);
     EXPECT_EQ(above.image, CPoint(42, 5));
     EXPECT_EQ(above.text, CRect(0, 17, 100, 35));
-}
-
-TEST(ButtonRules, TextWithoutImageMovesOnlyWhenPressed)
-{
-    const CRect t(3, 3, 97, 37);
-    EXPECT_EQ(ZoLayoutImageAndText(t, CSize(0, 0), true, 30, 14, 0, false, 0, false).text, t);
-    EXPECT_EQ(ZoLayoutImageAndText(t, CSize(0, 0), true, 30, 14, 0, false, 0, true).text, CRect(4, 4, 98, 38));
 }
 
 TEST(ButtonRules, GroupBoxGeometry)

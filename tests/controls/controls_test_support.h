@@ -15,7 +15,8 @@ const COLORREF kParentColor = RGB(10, 200, 30);
 const COLORREF kMagenta = RGB(255, 0, 255);
 
 // GDI+ (started once for the program) and InitializeZoCtrl for the life of a test, and a
-// visible top-level parent 400 x 300 at (40, 40) of the screen that paints itself in kParentColor.
+// visible top-level parent 400 x 300 at (40, 40) of the screen that paints itself in kParentColor;
+// destroying it at the end takes every control made in it along.
 class ControlTest : public testing::Test
 {
 protected:

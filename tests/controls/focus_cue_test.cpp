@@ -27,12 +27,15 @@ CRect ClientOf(HWND hWnd)
     return client;
 }
 
+// A slider (the range slider with a selection), or tabs with the second one selected.
+template <class TSlider, DWORD style>
 std::unique_ptr<CWnd> MakeSlider(CWnd* parent)
 {
-    std::unique_ptr<CZoSliderCtrl> slider(new CZoSliderCtrl);
-    slider->Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | TBS_BOTH, kPlace, parent, kId);
+    std::unique_ptr<TSlider> slider(new TSlider);
+    slider->Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | TBS_BOTH | style, kPlace, parent, kId);
     slider->SetRange(0, 100, TRUE);
     slider->SetPos(30);
+    slider->SetSelection(20, 70);
     return std::unique_ptr<CWnd>(slider.release());
 }
 
@@ -47,17 +50,6 @@ CRect SliderCue(HWND hWnd)
     cue.IntersectRect(&cue, ClientOf(hWnd));
     return cue;
 }
-
-std::unique_ptr<CWnd> MakeRangeSlider(CWnd* parent)
-{
-    std::unique_ptr<CZoRangeSliderCtrl> slider(new CZoRangeSliderCtrl);
-    slider->Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | TBS_BOTH | TBS_ENABLESELRANGE, kPlace, parent, kId);
-    slider->SetRange(0, 100, TRUE);
-    slider->SetSelection(20, 70);
-    return std::unique_ptr<CWnd>(slider.release());
-}
-
-CRect WholeClient(HWND hWnd) { return ClientOf(hWnd); }
 
 std::unique_ptr<CWnd> MakeTabs(CWnd* parent)
 {
@@ -85,8 +77,8 @@ struct FocusCase
 };
 
 const FocusCase kCases[] = {
-    {"slider", MakeSlider, SliderCue},
-    {"range slider", MakeRangeSlider, WholeClient},
+    {"slider", MakeSlider<CZoSliderCtrl, 0>, SliderCue},
+    {"range slider", MakeSlider<CZoRangeSliderCtrl, TBS_ENABLESELRANGE>, ClientOf},
     {"tab control", MakeTabs, TabCue},
 };
 
@@ -112,9 +104,7 @@ void SetHideFocus(HWND hWnd, bool hide)
     ::SendMessageW(hWnd, WM_UPDATEUISTATE, MAKEWPARAM(hide ? UIS_SET : UIS_CLEAR, UISF_HIDEFOCUS), 0);
 }
 
-class FocusCueTest : public ControlTest
-{
-};
+using FocusCueTest = ControlTest;
 
 } // namespace
 

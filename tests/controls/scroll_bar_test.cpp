@@ -18,14 +18,6 @@ const unsigned kToParent = zotest::sent | zotest::parent | zotest::wparam | zote
 class ScrollBarTest : public ControlTest
 {
 protected:
-    void TearDown() override
-    {
-        recorder_.UnwatchAll();
-        if (bar_.GetSafeHwnd())
-            bar_.DestroyWindow();
-        ControlTest::TearDown();
-    }
-
     void Create(DWORD style = SBS_VERT, CRect rect = CRect(10, 10, 10 + kWidth, 10 + kHeight))
     {
         ASSERT_TRUE(bar_.Create(WS_CHILD | WS_VISIBLE | style, rect, parentWnd(), 100));

@@ -81,15 +81,6 @@ TEST(ScrollLayout, OnePixelLongerThanTheLimitHasAThumb)
     EXPECT_FALSE(::IsRectEmpty(&layout.part[ZoScrollPart_Thumb]));
 }
 
-TEST(ScrollRects, ThumbAndPageAreasFollowTheThumbPosition)
-{
-    ZoScrollLayout layout = TallBar();
-    ZoScrollUpdateRects(layout, true, 30, kThumbUnit);
-    EXPECT_TRUE(SameRect(layout.part[ZoScrollPart_Before], 0, 22, 19, 52));
-    EXPECT_TRUE(SameRect(layout.part[ZoScrollPart_Thumb], 0, 52, 19, 101));
-    EXPECT_TRUE(SameRect(layout.part[ZoScrollPart_After], 0, 101, 19, 178));
-}
-
 TEST(ScrollRects, ChannelOfThreeThumbUnitsHidesThumbAndPageAreas)
 {
     // Channel 68 - 2 x 26 + 2 x 4 = 24, exactly three thumb units.

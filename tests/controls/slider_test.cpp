@@ -21,13 +21,6 @@ const int kSelection = 47;
 class SliderTest : public ControlTest
 {
 protected:
-    void TearDown() override
-    {
-        if (slider_.GetSafeHwnd())
-            slider_.DestroyWindow();
-        ControlTest::TearDown();
-    }
-
     void Create(DWORD style, const CRect& rect = CRect(0, 0, 220, 50), int lo = 0, int hi = 100)
     {
         ASSERT_TRUE(slider_.Create(WS_CHILD | WS_VISIBLE | style, rect, parentWnd(), 7));

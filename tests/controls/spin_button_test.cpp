@@ -38,16 +38,6 @@ namespace {
 class SpinTest : public ControlTest
 {
 protected:
-    void TearDown() override
-    {
-        if (spin_.GetSafeHwnd())
-        {
-            ::ReleaseCapture();
-            spin_.DestroyWindow();
-        }
-        ControlTest::TearDown();
-    }
-
     void Create(int pos, DWORD style = 0)
     {
         ASSERT_TRUE(spin_.Create(WS_CHILD | WS_VISIBLE | style, CRect(0, 0, 20, 30), parentWnd(), 9));

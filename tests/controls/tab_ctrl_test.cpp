@@ -22,13 +22,6 @@ const int kTextDisabled = 8;
 class TabTest : public ControlTest
 {
 protected:
-    void TearDown() override
-    {
-        if (tabs_.GetSafeHwnd())
-            tabs_.DestroyWindow();
-        ControlTest::TearDown();
-    }
-
     void Create(DWORD style, std::initializer_list<const wchar_t*> captions = {L"One", L"Two", L"Three"},
                 CWnd* parent = nullptr)
     {
@@ -117,11 +110,6 @@ TEST(TabMath, StripsCellsAndPieces)
     EXPECT_EQ(ZoTabTextSlot(true, false, false), 5);
     EXPECT_EQ(ZoTabItemRect(CRect(0, 0, 10, 10), TCS_VERTICAL | TCS_RIGHT), CRect(-1, 0, 10, 10));
     EXPECT_EQ(ZoTabItemRect(CRect(0, 0, 10, 10), TCS_BOTTOM), CRect(0, -1, 10, 10));
-    CRect frame[9];
-    ZoTabFramePieces(CRect(10, 20, 110, 220), 3, 3, frame);
-    EXPECT_EQ(frame[0], CRect(7, 17, 10, 20));
-    EXPECT_EQ(frame[4], CRect(10, 20, 110, 220));
-    EXPECT_EQ(frame[8], CRect(110, 220, 113, 223));
     EXPECT_EQ(ZoTabRotatedTextOrigin(CRect(3, 10, 22, 90), 13, false), CPoint(6, 50));
     EXPECT_EQ(ZoTabRotatedTextOrigin(CRect(3, 10, 22, 90), 13, true), CPoint(19, 50));
 }
@@ -208,20 +196,6 @@ TEST_F(TabTest, CaptionsLandInsideTheirTabsAlongTheTab)
         EXPECT_EQ(font.lfEscapement, c.escapement) << c.style;
         tabs_.DestroyWindow();
     }
-}
-
-TEST_F(TabTest, SideCaptionLongerThanItsTabIsShortened)
-{
-    Create(TCS_VERTICAL | TCS_MULTILINE, {L"A caption far longer than any tab of this control could hold"});
-    const zotest::Dib dib = zotest::RenderClient(tabs_.m_hWnd);
-    CRect text = ZoTabItemRect(Item(0), TCS_VERTICAL);
-    text.DeflateRect(3, 3);
-    CRect bounds = text;
-    bounds.InflateRect(1, 1);
-    // Nothing of the caption's colour outside the text area along the tab.
-    const CRect below(text.left, text.bottom + 1, text.right, 200);
-    EXPECT_EQ(controltest::CountPixels(dib, below, Slot(7)), 0);
-    EXPECT_GT(controltest::CountPixels(dib, bounds, Slot(7)), 0);
 }
 
 TEST_F(TabTest, HoverRepaintsOnlyOutsideThePage)

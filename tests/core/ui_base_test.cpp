@@ -55,13 +55,6 @@ protected:
 
 } // namespace
 
-TEST(DesignRect, ScaledPositionScalesEveryEdge)
-{
-    EXPECT_EQ(ZoScaleDesignRect(CRect(10, 10, 110, 30), true, 1.2f), CRect(12, 12, 132, 36));
-    EXPECT_EQ(ZoScaleDesignRect(CRect(10, 10, 110, 30), true, 1.0f), CRect(10, 10, 110, 30));
-    EXPECT_EQ(ZoScaleDesignRect(CRect(5, 7, 15, 17), true, 1.6f), CRect(8, 11, 24, 27));
-}
-
 TEST_F(UiBaseTest, QueriesAnswerThroughLParamAndAlwaysReturnMinusOne)
 {
     container.SetZoTheme(ZoTheme_2);

@@ -273,10 +273,8 @@ TEST(PngLifetime, LibraryStartAndEndCreateAndFreeTheStore)
     ASSERT_EQ(CZoResourcePNGData::GetInstance(), nullptr);
     EXPECT_TRUE(InitializeZoCtrl());
     EXPECT_NE(CZoResourcePNGData::GetInstance(), nullptr);
-    EXPECT_NE(CZoThemeManager::GetInstance(), nullptr);
     UninitializeZoCtrl();
     EXPECT_EQ(CZoResourcePNGData::GetInstance(), nullptr);
-    EXPECT_EQ(CZoThemeManager::GetInstance(), nullptr);
 }
 
 TEST_F(PngTest, LoadDrawFreeCyclesKeepGdiCount)

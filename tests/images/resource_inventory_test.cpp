@@ -5,13 +5,8 @@
 
 #include <windows.h>
 
-#include <objidl.h>
-
-
 #include <cstring>
-#include <cwctype>
 #include <map>
-#include <ostream>
 #include <set>
 #include <string>
 #include <vector>
@@ -184,11 +179,6 @@ std::string Narrow(const wchar_t* text)
     for (; *text; ++text)
         out += *text == L'#' ? std::string("ID") : std::string(1, static_cast<char>(*text));
     return out;
-}
-
-void PrintTo(const ExpectedBitmap& bitmap, std::ostream* out)
-{
-    *out << Narrow(bitmap.name);
 }
 
 class SkinBitmap : public testing::TestWithParam<ExpectedBitmap> {

@@ -57,6 +57,11 @@ F26|frames/ZoFrameWnd.cpp|s/if (platformHit != HTNOWHERE .. !skinLoaded)/if (pla
 F27|frames/ZoFrameWnd.cpp|s/const int down = atLeastZero(h - 3 \* u + 1);/const int down = atLeastZero(h - 3 * u);/|^test_frames$|off-by-one: frame side pieces one pixel short
 F28|controls/ZoEditInPlace.cpp|s/CString reported = m_eEndReason == ZoEditEnd_Escape/CString reported = m_eEndReason != ZoEditEnd_Escape/|^test_controls$|swapped condition: in-place editor reports the typed text on Escape and the old one otherwise
 F29|lists/ZoListCtrl.cpp|s/m_header.SetNoSortHeader(true);/m_header.SetNoSortHeader(false);/|^test_lists$|wrong flag: a header that does not sort still shows hot and pressed items
+F30B|lists/ZoTreeFile.cpp|s/    if (length < kByteEscape)/    if (length <= kByteEscape)/|^test_lists$|off-by-one: a 255-character text written with a one-byte length
+F31B|lists/ZoTreeListCtrl.cpp|s/return node->GetDepthLevel() >= m_nLevels - 1;/return node->GetDepthLevel() > m_nLevels - 1;/|^test_lists$|off-by-one: tree rows at the level limit still expand
+F32B|lists/ZoListGeometry.cpp|s/if (rowBottom <= areaTop)/if (rowBottom < areaTop)/|^test_lists$|off-by-one: a row ending on the band's top edge counts as shown
+F33B|lists/ZoListCtrl.cpp|s/m_crSelectedRow = ZoSlotColor(kSlotSelectedRow,/m_crSelectedRow = ZoSlotColor(kSlotGrid,/|^test_lists$|wrong colour slot: selected row fill
+F34B|lists/ZoTreeRowIndex.cpp|s/m_nStartsValid = std::min(m_nStartsValid, index + 1);/m_nStartsValid = std::min(m_nStartsValid, index + 2);/|^test_lists$|stale row index: the block after an insertion keeps its old first row
 EOF
 )
 

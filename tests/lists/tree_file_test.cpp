@@ -137,23 +137,6 @@ TEST(TreeFileWrite, LengthPrefixesGrowAtTheirBoundaries)
         EXPECT_EQ(Prefix(row.length), row.prefix) << row.length;
 }
 
-TEST(TreeFileWrite, TextsOf254And255CharactersTakeOneAndThreeLengthBytes)
-{
-    for (int length : {254, 255, 70000})
-    {
-        CZoTreeListCtrlItem node;
-        node.SetSubItemText(0, CString(L'x', length));
-        CMemFile file;
-        ASSERT_TRUE(node.DumpToDisk(&file));
-        const Bytes bytes = ContentOf(file);
-        const Bytes prefix = Prefix((ULONGLONG)length);
-        ASSERT_EQ(bytes.size(), ZoTreeRecordFixedBytes + prefix.size() + 2 * length);
-        EXPECT_TRUE(std::equal(prefix.begin(), prefix.end(), bytes.begin() + ZoTreeRecordFixedBytes)) << length;
-        EXPECT_EQ(bytes.back(), 0x00);
-        EXPECT_EQ(bytes[bytes.size() - 2], 'x');
-    }
-}
-
 TEST(TreeFileWrite, AFullFileMakesDumpToDiskFalse)
 {
     CZoTreeListCtrlItem node;
@@ -165,11 +148,13 @@ TEST(TreeFileWrite, AFullFileMakesDumpToDiskFalse)
 
 TEST(TreeFileRead, StringsNarrowAndWideWithEveryPrefix)
 {
-    const Bytes narrow255 = [] {
-        Bytes b = {0xFF, 0xFF, 0x00};
-        b.insert(b.end(), 255, 'n');
+    // A length of 0xFFFE after the wide marker is a length, not a second marker.
+    const auto padded = [](Bytes b, size_t count, BYTE fill) {
+        b.insert(b.end(), count, fill);
         return b;
-    }();
+    };
+    const Bytes narrow255 = padded({0xFF, 0xFF, 0x00}, 255, 'n');
+    const Bytes wideFFFE = padded({0xFF, 0xFE, 0xFF, 0xFF, 0xFE, 0xFF}, 2 * 0xFFFE, 'z');
     const struct
     {
         Bytes bytes;
@@ -183,6 +168,7 @@ TEST(TreeFileRead, StringsNarrowAndWideWithEveryPrefix)
         {{0xFF, 0xFF, 0xFF, 0x02, 0x00, 0x00, 0x00, 'o', 'k'}, L"ok"},
         {{0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0x02, 0, 0, 0, 0, 0, 0, 0, 'q', 'w'}, L"qw"},
         {{0xFF, 0xFE, 0xFF, 0xFF, 0x01, 0x00, 'w', 0}, L"w"},
+        {wideFFFE, CString((wchar_t)0x7A7A, 0xFFFE)},
     };
     for (const auto& row : rows)
     {
@@ -190,15 +176,6 @@ TEST(TreeFileRead, StringsNarrowAndWideWithEveryPrefix)
         EXPECT_EQ(ReadStringFrom(row.bytes, &cause), row.text);
         EXPECT_EQ(cause, -1);
     }
-}
-
-TEST(TreeFileRead, ASecondWideMarkerIsALength)
-{
-    Bytes bytes = {0xFF, 0xFE, 0xFF, 0xFF, 0xFE, 0xFF};
-    bytes.resize(bytes.size() + 2 * 0xFFFE, 'z');
-    int cause = 0;
-    EXPECT_EQ(ReadStringFrom(bytes, &cause).GetLength(), 0xFFFE);
-    EXPECT_EQ(cause, -1);
 }
 
 TEST(TreeFileRead, BrokenStringsRaiseTheirCause)

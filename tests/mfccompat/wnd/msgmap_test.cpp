@@ -1,4 +1,6 @@
 // Message-map dispatch: handlers get the arguments cracked from wParam/lParam as documented.
+// (Messages the library's own windows handle, such as the non-client mouse, WM_NCCALCSIZE,
+// WM_ERASEBKGND and the owner-draw pair, are checked through those windows' tests.)
 #include "wnd_test_support.h"
 
 #include <initializer_list>
@@ -42,8 +44,6 @@ public:
         calls.push_back(text.str());
     }
 
-    using CWnd::Default;
-
 protected:
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt)
     {
@@ -62,44 +62,13 @@ protected:
     afx_msg void OnSetFocus(CWnd* pOldWnd) { Record("OnSetFocus", Name(pOldWnd, this)); }
     afx_msg void OnKillFocus(CWnd* pNewWnd) { Record("OnKillFocus", Name(pNewWnd, this)); }
     afx_msg void OnCaptureChanged(CWnd* pWnd) { Record("OnCaptureChanged", Name(pWnd, this)); }
-    afx_msg BOOL OnEraseBkgnd(CDC* pDC)
-    {
-        Record("OnEraseBkgnd", pDC != NULL && pDC->m_hDC == paintDC ? "dc" : "wrong-dc");
-        return TRUE;
-    }
-    afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
-    {
-        Record("OnHScroll", nSBCode, nPos, pScrollBar == NULL ? "null" : "bar");
-    }
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor)
     {
         Record("OnCtlColor", pDC != NULL && pDC->m_hDC == paintDC ? "dc" : "wrong-dc",
                pWnd != NULL && pWnd->m_hWnd == otherWindow ? "other" : "wrong", nCtlColor);
         return brush;
     }
-    afx_msg void OnShowWindow(BOOL bShow, UINT nStatus) { Record("OnShowWindow", bShow, nStatus); }
     afx_msg void OnContextMenu(CWnd* pWnd, CPoint pos) { Record("OnContextMenu", Name(pWnd, this), pos.x, pos.y); }
-    afx_msg void OnNcLButtonDown(UINT nHitTest, CPoint point) { Record("OnNcLButtonDown", nHitTest, point.x, point.y); }
-    afx_msg void OnNcMouseMove(UINT nHitTest, CPoint point) { Record("OnNcMouseMove", nHitTest, point.x, point.y); }
-    afx_msg void OnNcMouseLeave() { Record("OnNcMouseLeave"); }
-    afx_msg void OnNcCalcSize(BOOL bCalcValidRects, NCCALCSIZE_PARAMS* lpncsp)
-    {
-        Record("OnNcCalcSize", bCalcValidRects, lpncsp != NULL ? lpncsp->rgrc[0].right : -1);
-    }
-    afx_msg void OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct)
-    {
-        Record("OnDrawItem", nIDCtl, lpDrawItemStruct->itemID);
-    }
-    afx_msg void OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct)
-    {
-        Record("OnMeasureItem", nIDCtl);
-        lpMeasureItemStruct->itemHeight = 19;
-    }
-    afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam)
-    {
-        Record("OnPrintClient", reinterpret_cast<HDC>(wParam) == paintDC ? "dc" : "wrong-dc", lParam);
-        return 0;
-    }
     afx_msg void OnFirstCommand() { Record("OnFirstCommand"); }
     afx_msg void OnRangeCommand(UINT nID) { Record("OnRangeCommand", nID); }
 
@@ -113,18 +82,8 @@ BEGIN_MESSAGE_MAP(CRecordWnd, CWnd)
     ON_WM_SETFOCUS()
     ON_WM_KILLFOCUS()
     ON_WM_CAPTURECHANGED()
-    ON_WM_ERASEBKGND()
-    ON_WM_HSCROLL()
     ON_WM_CTLCOLOR()
-    ON_WM_SHOWWINDOW()
     ON_WM_CONTEXTMENU()
-    ON_WM_NCLBUTTONDOWN()
-    ON_WM_NCMOUSEMOVE()
-    ON_WM_NCMOUSELEAVE()
-    ON_WM_NCCALCSIZE()
-    ON_WM_DRAWITEM()
-    ON_WM_MEASUREITEM()
-    ON_MESSAGE(WM_PRINTCLIENT, &CRecordWnd::OnPrintClient)
     ON_COMMAND(ID_FIRST_COMMAND, &CRecordWnd::OnFirstCommand)
     ON_COMMAND_RANGE(ID_RANGE_FIRST, ID_RANGE_LAST, &CRecordWnd::OnRangeCommand)
 END_MESSAGE_MAP()
@@ -195,30 +154,6 @@ TEST_F(MessageMapTest, WindowArgumentsArriveAsCWndObjects)
     EXPECT_EQ("OnSetCursor self 1 512", wnd.Last());
 }
 
-TEST_F(MessageMapTest, StateMessagesPassTheirFlags)
-{
-    ExpectCalls(wnd, {
-        { WM_SHOWWINDOW, TRUE, SW_PARENTOPENING, "OnShowWindow 1 3" },
-        { WM_HSCROLL, MAKEWPARAM(SB_THUMBTRACK, 55), 0, "OnHScroll 5 55 null" }, // no control: null
-        { WM_NCLBUTTONDOWN, HTCAPTION, MAKELPARAM(400, 300), "OnNcLButtonDown 2 400 300" },
-        { WM_NCMOUSEMOVE, HTBORDER, MAKELPARAM(1, 2), "OnNcMouseMove 18 1 2" },
-        { WM_NCMOUSELEAVE, 0, 0, "OnNcMouseLeave" },
-    });
-}
-
-TEST_F(MessageMapTest, StructuresAndDeviceContextsArriveCracked)
-{
-    NCCALCSIZE_PARAMS params = {};
-    params.rgrc[0].right = 640;
-    const WPARAM dc = reinterpret_cast<WPARAM>(wnd.paintDC);
-    ExpectCalls(wnd, {
-        { WM_NCCALCSIZE, TRUE, reinterpret_cast<LPARAM>(&params), "OnNcCalcSize 1 640" },
-        { WM_PRINTCLIENT, dc, PRF_CLIENT, "OnPrintClient dc 4" },
-    });
-    EXPECT_EQ(TRUE, Send(WM_ERASEBKGND, dc, 0));
-    EXPECT_EQ("OnEraseBkgnd dc", wnd.Last());
-}
-
 TEST_F(MessageMapTest, EveryControlColorMessageReachesOnCtlColorWithItsType)
 {
     const struct { UINT message; UINT type; } cases[] = {
@@ -233,23 +168,6 @@ TEST_F(MessageMapTest, EveryControlColorMessageReachesOnCtlColorWithItsType)
         EXPECT_EQ(reinterpret_cast<LRESULT>(wnd.brush), result);
         EXPECT_EQ("OnCtlColor dc other " + std::to_string(c.type), wnd.Last());
     }
-}
-
-TEST_F(MessageMapTest, OwnerDrawMessagesForUnknownControlsReachTheParentHandlers)
-{
-    DRAWITEMSTRUCT draw = {};
-    draw.CtlType = ODT_BUTTON;
-    draw.CtlID = 5;
-    draw.itemID = 3;
-    draw.hwndItem = other;
-    EXPECT_EQ(TRUE, Send(WM_DRAWITEM, 5, reinterpret_cast<LPARAM>(&draw)));
-    EXPECT_EQ("OnDrawItem 5 3", wnd.Last());
-    MEASUREITEMSTRUCT measure = {};
-    measure.CtlType = ODT_LISTBOX;
-    measure.CtlID = 6;
-    EXPECT_EQ(TRUE, Send(WM_MEASUREITEM, 6, reinterpret_cast<LPARAM>(&measure)));
-    EXPECT_EQ("OnMeasureItem 6", wnd.Last());
-    EXPECT_EQ(19u, measure.itemHeight);
 }
 
 // ---- commands and notifications ----

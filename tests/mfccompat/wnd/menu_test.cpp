@@ -77,15 +77,6 @@ TEST_F(MenuTest, UpdateHandlersEnableAndCheckMenuItems)
     EXPECT_FALSE(popup.GetMenuState(ID_ITEM_SAVE, MF_BYCOMMAND) & MF_GRAYED);
 }
 
-TEST_F(MenuTest, ItemsWithoutAnyHandlerAreDisabledOnlyWhenAsked)
-{
-    CCmdUI quit = ItemUI(2);
-    EXPECT_FALSE(quit.DoUpdate(&wnd, FALSE));
-    EXPECT_FALSE(popup.GetMenuState(ID_ITEM_QUIT, MF_BYCOMMAND) & MF_GRAYED);
-    EXPECT_FALSE(quit.DoUpdate(&wnd, TRUE));
-    EXPECT_TRUE(popup.GetMenuState(ID_ITEM_QUIT, MF_BYCOMMAND) & MF_GRAYED);
-}
-
 class CCommandWnd : public CWnd
 {
 public:

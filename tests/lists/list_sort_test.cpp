@@ -165,7 +165,6 @@ TEST_F(ListSortTest, EachMethodOrdersAscending)
         CZoListCtrl::E_SortColumnMethod method;
         std::vector<CString> order;
     } cases[] = {
-        {0, CZoListCtrl::SCM_TextSensitive, {L"Apple", L"banana", L"fig", L"pear"}},
         {0, CZoListCtrl::SCM_TextInsensitive, {L"Apple", L"banana", L"fig", L"pear"}},
         {2, CZoListCtrl::SCM_DateTime, {L"garbage", L"2023-12-31", L"2024-01-15", L"2024-03-01"}},
         {1, CZoListCtrl::SCM_Numeric, {L"-2", L"abc", L"9", L"10"}},

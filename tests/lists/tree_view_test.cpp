@@ -460,25 +460,6 @@ TEST_F(TreeTest, SortedRowsKeepTheirCellsSelectionAndFocus)
     }
 }
 
-TEST_F(TreeTest, DateColumnsSortByTheTreesDateRules)
-{
-    MakeTree();
-    tree_->SetColumnSortMethod(2, CZoListCtrl::SCM_TextSensitive, CZoListCtrl::SCM_DateTime);
-    const wchar_t* dates[][2] = {{L"x", L"2024-05-01 10:00:02"},
-                                 {L"y", L"2024-05-01 10:00:01"},
-                                 {L"z", L"2023-12-31 23:59:59"}};
-    for (auto& d : dates)
-    {
-        int row = -1;
-        tree_->InsertNode(0, d[0], &row);
-        tree_->SetItemText(row, 2, d[1]);
-    }
-    tree_->SortOnColumn(2, true);
-    EXPECT_EQ(Rows(), "z y x");
-    tree_->SortOnColumn(2, false);
-    EXPECT_EQ(Rows(), "x y z");
-}
-
 // --- Painting ------------------------------------------------------------------------------------
 
 // Bold rows draw their first column with the bold font: the same text covers more pixels. Every

@@ -62,6 +62,11 @@ F31B|lists/ZoTreeListCtrl.cpp|s/return node->GetDepthLevel() >= m_nLevels - 1;/r
 F32B|lists/ZoListGeometry.cpp|s/if (rowBottom <= areaTop)/if (rowBottom < areaTop)/|^test_lists$|off-by-one: a row ending on the band's top edge counts as shown
 F33B|lists/ZoListCtrl.cpp|s/m_crSelectedRow = ZoSlotColor(kSlotSelectedRow,/m_crSelectedRow = ZoSlotColor(kSlotGrid,/|^test_lists$|wrong colour slot: selected row fill
 F34B|lists/ZoTreeRowIndex.cpp|s/m_nStartsValid = std::min(m_nStartsValid, index + 1);/m_nStartsValid = std::min(m_nStartsValid, index + 2);/|^test_lists$|stale row index: the block after an insertion keeps its old first row
+F35B|mfccompat/src/wnd/wndmsg.cpp|s/static_cast<int>(wParam), reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));/static_cast<int>(wParam), reinterpret_cast<LPDRAWITEMSTRUCT>(NULL));/|^test_frames$|layer: WM_DRAWITEM handlers get no structure (seen through the menus)
+F36B|mfccompat/src/wnd/wndmsg.cpp|s/(static_cast<BOOL>(wParam), static_cast<UINT>(lParam));/(!static_cast<BOOL>(wParam), static_cast<UINT>(lParam));/|^test_dialogs$|layer: WM_SHOWWINDOW cracked with its show flag inverted (seen through the dialogs)
+F37B|mfccompat/src/wnd/wndmsg.cpp|s/static_cast<BOOL>(wParam), reinterpret_cast<NCCALCSIZE_PARAMS\*>(lParam));/static_cast<BOOL>(wParam), reinterpret_cast<NCCALCSIZE_PARAMS*>(NULL));/|^test_frames$|layer: WM_NCCALCSIZE handlers get no rectangles (seen through the frame)
+F38B|dialogs/ZoMessageBoxDialog.cpp|s/const int result = ZoMessageBoxTypeRule(m_nType).escape;/const int result = ZoMessageBoxTypeRule(m_nType).results[0];/|^test_dialogs$|wrong result: Escape ends a message box with the right button's result
+F39B|dialogs/ZoMessageBoxDialog.cpp|s/if (rule.known .. rule.captions\[i\] == 0)/if (rule.known \&\& rule.captions[i] != 0)/|^test_dialogs$|swapped condition: a message box removes the buttons its type shows
 EOF
 )
 

@@ -1,6 +1,7 @@
 // Message-map dispatch: handlers get the arguments cracked from wParam/lParam as documented.
-// (Messages the library's own windows handle, such as the non-client mouse, WM_NCCALCSIZE,
-// WM_ERASEBKGND and the owner-draw pair, are checked through those windows' tests.)
+// (Messages whose handlers in the library's own windows show what they were given, such as the
+// non-client mouse, WM_NCCALCSIZE, WM_ERASEBKGND and the owner-draw pair, are checked through
+// those windows' tests.)
 #include "wnd_test_support.h"
 
 #include <initializer_list>
@@ -68,6 +69,11 @@ protected:
                pWnd != NULL && pWnd->m_hWnd == otherWindow ? "other" : "wrong", nCtlColor);
         return brush;
     }
+    afx_msg void OnShowWindow(BOOL bShow, UINT nStatus) { Record("OnShowWindow", bShow, nStatus); }
+    afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
+    {
+        Record("OnHScroll", nSBCode, nPos, pScrollBar == NULL ? "null" : "bar");
+    }
     afx_msg void OnContextMenu(CWnd* pWnd, CPoint pos) { Record("OnContextMenu", Name(pWnd, this), pos.x, pos.y); }
     afx_msg void OnFirstCommand() { Record("OnFirstCommand"); }
     afx_msg void OnRangeCommand(UINT nID) { Record("OnRangeCommand", nID); }
@@ -83,6 +89,8 @@ BEGIN_MESSAGE_MAP(CRecordWnd, CWnd)
     ON_WM_KILLFOCUS()
     ON_WM_CAPTURECHANGED()
     ON_WM_CTLCOLOR()
+    ON_WM_SHOWWINDOW()
+    ON_WM_HSCROLL()
     ON_WM_CONTEXTMENU()
     ON_COMMAND(ID_FIRST_COMMAND, &CRecordWnd::OnFirstCommand)
     ON_COMMAND_RANGE(ID_RANGE_FIRST, ID_RANGE_LAST, &CRecordWnd::OnRangeCommand)
@@ -139,7 +147,7 @@ TEST_F(MessageMapTest, MouseWheelSplitsFlagsAndDeltaAndReturnsTheHandlersAnswer)
     EXPECT_EQ("OnMouseWheel 4 -120 10 20", wnd.Last());
 }
 
-TEST_F(MessageMapTest, WindowArgumentsArriveAsCWndObjects)
+TEST_F(MessageMapTest, WindowArgumentsArriveAsCWndObjectsAndFlagsAsPassed)
 {
     const LPARAM otherL = reinterpret_cast<LPARAM>(other);
     const WPARAM self = reinterpret_cast<WPARAM>(wnd.m_hWnd);
@@ -149,6 +157,8 @@ TEST_F(MessageMapTest, WindowArgumentsArriveAsCWndObjects)
         { WM_KILLFOCUS, 0, 0, "OnKillFocus null" },
         { WM_CAPTURECHANGED, 0, otherL, "OnCaptureChanged other" },
         { WM_CONTEXTMENU, self, MAKELPARAM(0xFFFF, 0xFFFF), "OnContextMenu self -1 -1" },
+        { WM_SHOWWINDOW, TRUE, SW_PARENTOPENING, "OnShowWindow 1 3" },
+        { WM_HSCROLL, MAKEWPARAM(SB_THUMBTRACK, 55), 0, "OnHScroll 5 55 null" }, // no control: null
     });
     EXPECT_EQ(TRUE, Send(WM_SETCURSOR, self, MAKELPARAM(HTCLIENT, WM_MOUSEMOVE)));
     EXPECT_EQ("OnSetCursor self 1 512", wnd.Last());

@@ -59,6 +59,17 @@ F28|controls/ZoEditInPlace.cpp|s/CString reported = m_eEndReason == ZoEditEnd_Es
 F29|lists/ZoListCtrl.cpp|s/m_header.SetNoSortHeader(true);/m_header.SetNoSortHeader(false);/|^test_lists$|wrong flag: a header that does not sort still shows hot and pressed items
 F30A|images/ZoResourcePNG.cpp|s/dst\[0\] = ZoComposeChannel(src\[0\], alpha, GetBValue(background));/dst[0] = ZoComposeChannel(src[0], alpha, GetRValue(background));/|^test_images$|wrong channel: half-transparent PNG pixels blend blue with the background's red
 F31A|core/ZoMemDC.cpp|s/^    ::PatBlt(m_hDC, 0, 0, m_nWidth, m_nHeight, BLACKNESS);/    ;/|^test_core$|kept surface lent again still shows the last paint
+F30B|lists/ZoTreeFile.cpp|s/    if (length < kByteEscape)/    if (length <= kByteEscape)/|^test_lists$|off-by-one: a 255-character text written with a one-byte length
+F31B|lists/ZoTreeListCtrl.cpp|s/return node->GetDepthLevel() >= m_nLevels - 1;/return node->GetDepthLevel() > m_nLevels - 1;/|^test_lists$|off-by-one: tree rows at the level limit still expand
+F32B|lists/ZoListGeometry.cpp|s/if (rowBottom <= areaTop)/if (rowBottom < areaTop)/|^test_lists$|off-by-one: a row ending on the band's top edge counts as shown
+F33B|lists/ZoListCtrl.cpp|s/m_crSelectedRow = ZoSlotColor(kSlotSelectedRow,/m_crSelectedRow = ZoSlotColor(kSlotGrid,/|^test_lists$|wrong colour slot: selected row fill
+F34B|lists/ZoTreeRowIndex.cpp|s/return row >= startRow ? row : -1;/return row > startRow ? row : -1;/|^test_lists$|off-by-one: the row index does not find a node in the row its search starts at
+F35B|mfccompat/src/wnd/wndmsg.cpp|s/static_cast<int>(wParam), reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));/static_cast<int>(wParam), reinterpret_cast<LPDRAWITEMSTRUCT>(NULL));/|^test_frames$|layer: WM_DRAWITEM handlers get no structure (seen through the menus)
+F36B|mfccompat/src/wnd/wndmsg.cpp|s/(static_cast<BOOL>(wParam), static_cast<UINT>(lParam));/(!static_cast<BOOL>(wParam), static_cast<UINT>(lParam));/|^test_afx_wnd$|layer: WM_SHOWWINDOW cracked with its show flag inverted
+F37B|mfccompat/src/wnd/wndmsg.cpp|s/static_cast<BOOL>(wParam), reinterpret_cast<NCCALCSIZE_PARAMS\*>(lParam));/static_cast<BOOL>(wParam), reinterpret_cast<NCCALCSIZE_PARAMS*>(NULL));/|^test_frames$|layer: WM_NCCALCSIZE handlers get no rectangles (seen through the frame)
+F38B|dialogs/ZoMessageBoxDialog.cpp|s/const int result = ZoMessageBoxTypeRule(m_nType).escape;/const int result = ZoMessageBoxTypeRule(m_nType).results[0];/|^test_dialogs$|wrong result: Escape ends a message box with the right button's result
+F39B|dialogs/ZoMessageBoxDialog.cpp|s/if (rule.known .. rule.captions\[i\] == 0)/if (rule.known \&\& rule.captions[i] != 0)/|^test_dialogs$|swapped condition: a message box removes the buttons its type shows
+F40B|lists/ZoTreeListCtrlItem.cpp|s/if (!child->_readRecord(reader))/if (!child->_readRecord(reader) \&\& (child.release(), true))/|^test_lists$|leak: a record of a damaged tree file that fails to read is never freed
 EOF
 )
 

@@ -258,8 +258,7 @@ TEST_P(DialogScaling, ScalesOnceAboutTheCentre)
 }
 
 INSTANTIATE_TEST_SUITE_P(SizeClasses, DialogScaling,
-                         testing::Values(ScalingCase{ZoMonitorSize_Normal, 1.0f}, ScalingCase{ZoMonitorSize_3M, 1.2f},
-                                         ScalingCase{ZoMonitorSize_5M, 1.6f}));
+                         testing::Values(ScalingCase{ZoMonitorSize_3M, 1.2f}, ScalingCase{ZoMonitorSize_5M, 1.6f}));
 
 TEST_F(DialogTest, BackgroundsAndStaticColours)
 {

@@ -27,11 +27,6 @@ protected:
         CMenuXP::SetXPLookNFeel(&host, menu, true, false);
     }
 
-    LRESULT SendMenuChar(wchar_t ch, UINT flags)
-    {
-        return host.SendMessage(WM_MENUCHAR, MAKEWPARAM(ch, flags), reinterpret_cast<LPARAM>(menu));
-    }
-
     HMENU submenu = nullptr;
 };
 
@@ -60,12 +55,6 @@ TEST_F(MenuCharTest, LetterExecutesTheMarkedItem)
     EXPECT_EQ(CMenuXP::OnMenuChar(nullptr, L'o', MF_POPUP), 0);
     ::DeleteMenu(menu, 4, MF_BYPOSITION);
     EXPECT_EQ(CMenuXP::OnMenuChar(menu, L'd', MF_POPUP), 0);
-}
-
-TEST_F(MenuCharTest, HostAnswersThroughItsMessageMap)
-{
-    EXPECT_EQ(SendMenuChar(L'a', MF_POPUP), MAKELRESULT(3, MNC_EXECUTE));
-    EXPECT_EQ(SendMenuChar(L'q', MF_POPUP), 0);
 }
 
 TEST_F(MenuCharTest, MenusNotOwnerDrawnGetTheDefaultAnswer)

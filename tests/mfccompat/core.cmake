@@ -1,6 +1,5 @@
-# Strings, collections, files, exceptions and handle maps of the layer: error paths and unused members.
+# Strings, collections, files, file errors and handle maps of the layer: error paths and edge cases.
 zo_add_test_executable(test_afx_core
-  core/exception_test.cpp
   core/string_test.cpp
   core/string_resource_test.cpp
   core/collection_test.cpp

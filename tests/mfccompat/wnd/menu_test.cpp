@@ -1,8 +1,5 @@
-// Menus seen from windows: menu messages with CMenu arguments, owner-drawn menu items drawn
-// by their permanent CMenu, and command-UI updates of menu items and controls.
+// Menus seen from windows: command-UI updates of menu items, and disabled commands.
 #include "wnd_test_support.h"
-
-#include <vector>
 
 namespace {
 
@@ -11,58 +8,23 @@ enum
     ID_ITEM_OPEN = 500,
     ID_ITEM_SAVE = 501,
     ID_ITEM_QUIT = 502,
-    IDC_APPLY = 70,
-    IDC_AUTO = 71,
-};
-
-class COwnerDrawnMenu : public CMenu
-{
-public:
-    std::vector<UINT> drawn;
-    std::vector<UINT> measured;
-    void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) override { drawn.push_back(lpDrawItemStruct->itemID); }
-    void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct) override
-    {
-        measured.push_back(lpMeasureItemStruct->itemID);
-        lpMeasureItemStruct->itemHeight = 21;
-    }
 };
 
 class CMenuWnd : public CWnd
 {
 public:
-    std::vector<std::string> calls;
-    HMENU popupSeen = NULL;
     bool saveEnabled = false;
     bool openChecked = true;
 
 protected:
-    afx_msg void OnInitMenuPopup(CMenu* pPopupMenu, UINT nIndex, BOOL bSysMenu)
-    {
-        popupSeen = pPopupMenu->GetSafeHmenu();
-        calls.push_back("OnInitMenuPopup " + std::to_string(nIndex) + " " + std::to_string(bSysMenu));
-        CWnd::OnInitMenuPopup(pPopupMenu, nIndex, bSysMenu);
-    }
-    afx_msg LRESULT OnMenuChar(UINT nChar, UINT nFlags, CMenu* pMenu)
-    {
-        calls.push_back("OnMenuChar " + std::to_string(nChar) + " " + std::to_string(nFlags) +
-                        (pMenu != NULL ? " menu" : " null"));
-        return MAKELRESULT(1, MNC_EXECUTE);
-    }
     afx_msg void OnUpdateOpen(CCmdUI* pCmdUI) { pCmdUI->SetCheck(openChecked); }
     afx_msg void OnUpdateSave(CCmdUI* pCmdUI) { pCmdUI->Enable(saveEnabled); }
-    afx_msg void OnApply() { }
-    afx_msg void OnUpdateApply(CCmdUI* pCmdUI) { pCmdUI->SetText(L"Apply now"); }
     DECLARE_MESSAGE_MAP()
 };
 
 BEGIN_MESSAGE_MAP(CMenuWnd, CWnd)
-    ON_WM_INITMENUPOPUP()
-    ON_WM_MENUCHAR()
     ON_UPDATE_COMMAND_UI(ID_ITEM_OPEN, &CMenuWnd::OnUpdateOpen)
     ON_UPDATE_COMMAND_UI(ID_ITEM_SAVE, &CMenuWnd::OnUpdateSave)
-    ON_BN_CLICKED(IDC_APPLY, &CMenuWnd::OnApply)
-    ON_UPDATE_COMMAND_UI(IDC_APPLY, &CMenuWnd::OnUpdateApply)
 END_MESSAGE_MAP()
 
 class MenuTest : public testing::Test
@@ -74,7 +36,7 @@ protected:
         ASSERT_TRUE(bar.CreateMenu());
         ASSERT_TRUE(popup.CreatePopupMenu());
         popup.AppendMenu(MF_STRING, ID_ITEM_OPEN, L"Open");
-        popup.AppendMenu(MF_OWNERDRAW, ID_ITEM_SAVE, reinterpret_cast<LPCTSTR>(0));
+        popup.AppendMenu(MF_STRING, ID_ITEM_SAVE, L"Save");
         popup.AppendMenu(MF_STRING, ID_ITEM_QUIT, L"Quit");
         bar.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(popup.m_hMenu), L"File");
         ASSERT_TRUE(wnd.SetMenu(&bar));
@@ -98,7 +60,7 @@ protected:
 
     CMenuWnd wnd;
     CMenu bar;
-    COwnerDrawnMenu popup;
+    CMenu popup;
 };
 
 TEST_F(MenuTest, UpdateHandlersEnableAndCheckMenuItems)
@@ -114,19 +76,6 @@ TEST_F(MenuTest, UpdateHandlersEnableAndCheckMenuItems)
     save.DoUpdate(&wnd, TRUE);
     EXPECT_FALSE(popup.GetMenuState(ID_ITEM_SAVE, MF_BYCOMMAND) & MF_GRAYED);
 }
-
-TEST_F(MenuTest, ItemsWithoutAnyHandlerAreDisabledOnlyWhenAsked)
-{
-    CCmdUI quit = ItemUI(2);
-    EXPECT_FALSE(quit.DoUpdate(&wnd, FALSE));
-    EXPECT_FALSE(popup.GetMenuState(ID_ITEM_QUIT, MF_BYCOMMAND) & MF_GRAYED);
-    EXPECT_FALSE(quit.DoUpdate(&wnd, TRUE));
-    EXPECT_TRUE(popup.GetMenuState(ID_ITEM_QUIT, MF_BYCOMMAND) & MF_GRAYED);
-}
-
-} // namespace
-
-namespace {
 
 class CCommandWnd : public CWnd
 {

@@ -145,4 +145,20 @@ TEST_F(ListScrollTest, LongListThumbDragReachesRowsPast65535)
     EXPECT_TRUE(BarMirrorsList(list, true));
 }
 
+TEST_F(ListScrollTest, VirtualListOfAMillionRowsScrollsAndPaints)
+{
+    CZoListCtrl& list = MakeList(LVS_OWNERDATA);
+    list.SetItemCountEx(1000000);
+    EXPECT_TRUE(list.GetVertScrollBar()->IsWindowVisible());
+    EXPECT_TRUE(BarMirrorsList(list, true));
+    EXPECT_TRUE(list.EnsureVisible(999999, FALSE));
+    EXPECT_EQ(list.GetTopIndex(), 1000000 - list.GetCountPerPage());
+    EXPECT_TRUE(BarMirrorsList(list, true));
+    list.SetItemState(999999, LVIS_SELECTED, LVIS_SELECTED);
+    const zotest::Dib dib = zotest::RenderClient(list.GetSafeHwnd());
+    CRect last;
+    list.GetSubItemRect(999999, 1, LVIR_LABEL, last);
+    ZOTEST_EXPECT_PIXEL(dib, last.CenterPoint().x, last.CenterPoint().y, Slot(40));
+}
+
 } // namespace

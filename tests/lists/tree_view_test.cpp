@@ -1,6 +1,6 @@
 // The tree-list view as a host and a user see it: rows built from the tree, children on demand
 // and the WM_APP + 5 conversation with the parent, keyboard and mouse against the level limit,
-// sorting, deleting, selections, bad input, a parent changing the tree while rows go, and leaks.
+// sorting, deleting, selections, bad input, large trees and leaks.
 #include "list_test_support.h"
 
 #include <zotest/zotest.h>
@@ -579,7 +579,41 @@ TEST_F(TreeTest, RowsWithoutNodesAndOtherBadInputHaveDefinedResults)
     EXPECT_EQ(tree_->GetItemCount(), 0);
 }
 
-// --- A parent changing the tree, and leaks ------------------------------------------------------
+// --- Scale and leaks -----------------------------------------------------------------------------
+
+// Builds `tops` top-level nodes with `children` each, names "T<i>" and "T<i>.<j>", then
+// collapses, expands, deletes and sorts; returns the rows of the first two top-level nodes.
+std::string Exercise(CZoTreeListCtrl& tree, int tops, int children)
+{
+    tree.SetRedraw(FALSE);
+    std::vector<DWORD_PTR> top;
+    CString text;
+    for (int i = 0; i < tops; ++i)
+    {
+        text.Format(L"T%05d", i);
+        top.push_back(tree.InsertNode(0, text));
+        for (int j = 0; j < children; ++j)
+        {
+            text.Format(L"T%05d.%05d", i, j);
+            int row = -1;
+            tree.InsertNode(top.back(), text, &row);
+            tree.SetItemBold(row, j == children - 1);
+        }
+    }
+    tree.Collapse(tree.LookforItemNumber(top[1], 0));
+    tree.Expand(tree.LookforItemNumber(top[1], 0));
+    tree.DeleteNode(tree.LookforItemNumber(top[0], 0) + 2, false);
+    tree.SortOnColumn(0, false);
+    tree.SetRedraw(TRUE);
+    std::string rows;
+    for (int row = 0; row < tree.GetItemCount(); ++row)
+    {
+        const CString name = tree.GetItemText(row, 0);
+        if (name.Left(6) == L"T00000" || name.Left(6) == L"T00001")
+            rows += Narrow(name.Mid(0, 6) + name.Right(name.GetLength() > 6 ? 2 : 0)) + " ";
+    }
+    return rows;
+}
 
 // A parent that adds a row each time one goes would keep a collapse or a delete deleting for as
 // long as it likes: both stop after the rows they started with.
@@ -734,6 +768,25 @@ TEST_F(TreeTest, AnInsertionRefusedForANegativeIndexCostsWhatItCostsThePlatforms
               platform)
         << "sent from the parent's handler";
     EXPECT_EQ(Rows(), rows);
+    EXPECT_TRUE(RowsInStep());
+}
+
+TEST_F(TreeTest, LargeTreesGiveTheSameRowsAsSmallOnes)
+{
+    tree_ = std::make_unique<CZoTreeListCtrl>();
+    ASSERT_TRUE(tree_->Create(WS_CHILD | LVS_REPORT, listtest::kListRect, parentWnd(), listtest::kListId));
+    tree_->SetKeepChildData(true);
+    const std::string small = Exercise(*tree_, 3, 4);
+    tree_->DestroyWindow();
+    tree_ = std::make_unique<CZoTreeListCtrl>();
+    ASSERT_TRUE(tree_->Create(WS_CHILD | LVS_REPORT, listtest::kListRect, parentWnd(), listtest::kListId));
+    tree_->SetKeepChildData(true);
+    // Past the size of one row block many times over, with four children at the front as in
+    // the small tree.
+    const std::string large = Exercise(*tree_, 2000, 4);
+    EXPECT_EQ(large, small);
+    EXPECT_EQ(small, "T00001 T0000103 T0000102 T0000101 T0000100 T00000 T0000003 T0000002 T0000000 ");
+    EXPECT_EQ(tree_->GetItemCount(), 2000 * 5 - 1);
     EXPECT_TRUE(RowsInStep());
 }
 

@@ -391,21 +391,26 @@ std::string GarbageFontsIni(unsigned long long seed)
     return text;
 }
 
-long Field(const std::string& output, const char* name)
+// The value after " name=" in the child's result line; empty when it has none.
+std::string FieldText(const std::string& output, const char* name)
 {
     const std::string key = std::string(" ") + name + "=";
     const size_t at = output.find(key);
-    return at == std::string::npos ? 0 : strtol(output.c_str() + at + key.size(), NULL, 10);
-}
-
-// The child's list of GDI object kinds that grew, as " (kinds ...)", or nothing.
-std::string GdiKinds(const std::string& output)
-{
-    const size_t at = output.find(" gdikinds=");
     if (at == std::string::npos)
         return std::string();
-    const size_t from = at + strlen(" gdikinds=");
-    const std::string kinds = output.substr(from, output.find_first_of(" \r\n", from) - from);
+    const size_t from = at + key.size();
+    return output.substr(from, output.find_first_of(" \r\n", from) - from);
+}
+
+long Field(const std::string& output, const char* name)
+{
+    return strtol(FieldText(output, name).c_str(), NULL, 10);
+}
+
+// The GDI object kinds that grew in the child, as " (kinds ...)", or nothing.
+std::string GdiKinds(const std::string& output)
+{
+    const std::string kinds = FieldText(output, "gdikinds");
     return kinds.empty() ? std::string() : " (kinds " + kinds + ")";
 }
 
